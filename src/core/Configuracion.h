@@ -1,0 +1,19 @@
+// The global settings file, the per-game files, and the colours that follow from a record.
+#pragma once
+
+#include <string>
+
+namespace tessario {
+
+void LeeConfiguracion();
+void EscribeConfiguracion();
+// Loads a per-game file (full path), or falls back to the defaults and creates it.
+void LeeAjustesJuego(const std::string& Fichero);
+// Writes the current record to the current game's per-game file.
+void GuardaAjustesJuego();
+// CarpetaPrograma + "TsR" + game + "33.ini".
+std::string FicheroDelJuego();
+// ColorContraste and the four shades, from ColorFondo and ColorPiezas.
+void CalculaColores();
+
+}  // namespace tessario

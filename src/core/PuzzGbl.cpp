@@ -1,0 +1,7 @@
+#include "core/PuzzGbl.h"
+
+namespace tessario {
+
+Bloque Gbl;
+
+}  // namespace tessario

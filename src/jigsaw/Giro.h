@@ -1,0 +1,9 @@
+// One step of rotation.
+#pragma once
+
+namespace tessario {
+
+// Turns PiezaActual one step clockwise, its visual centre kept.
+void GiraPieza();
+
+}  // namespace tessario

@@ -1,0 +1,199 @@
+// The controls as plain records: geometry, visibility, pointer, tooltip, and their events as
+// functions that the game sets. A window is a list of controls. The shell makes one view for each
+// record, keeps it in step with the record's fields, and turns window-system events into calls of
+// the record's events; the tests do the same with no display.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/Superficie.h"
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+// Mouse pointers by number, as MousePointer holds them.
+inline constexpr i16 PUNTERO_NORMAL = 0;
+inline constexpr i16 PUNTERO_RELOJ = 11;
+inline constexpr i16 PUNTERO_PROHIBIDO = 12;
+inline constexpr i16 PUNTERO_PROPIO = 99;   // the cursor named in MouseIcon
+
+// Mouse buttons as events give them; Shift holds 1 shift, 2 control, 4 alt.
+inline constexpr i16 BOTON_IZQUIERDO = 1;
+inline constexpr i16 BOTON_DERECHO = 2;
+
+struct Control {
+    virtual ~Control() = default;
+
+    std::string Nombre;              // name of the record, for tests
+    i32 Left = 0, Top = 0;           // in its container's pixels
+    bool Visible = true;
+    bool Enabled = true;
+    i16 MousePointer = PUNTERO_NORMAL;
+    std::string MouseIcon;           // cursor resource, look-up ignores case; with PUNTERO_PROPIO
+    std::string ToolTipText;
+    std::string NombreAccesible;     // what a screen reader says; empty: the trimmed tooltip
+    bool TabStop = false;            // reached with Tab; Space or Enter then presses it
+    Control* Contenedor = nullptr;   // a picture box that holds it, or null: the window itself
+
+    virtual i32 Width() const { return ancho_; }
+    virtual i32 Height() const { return alto_; }
+    virtual void Tamano(i32 ancho, i32 alto) {
+        ancho_ = std::max(ancho, 0);
+        alto_ = std::max(alto, 0);
+    }
+    void Mueve(i32 left, i32 top) {
+        Left = left;
+        Top = top;
+    }
+
+    // Events. Coordinates are the control's own pixels. KeyAscii is a character code, 8 backspace,
+    // 13 return, 27 escape; KeyCode the code of the key.
+    std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
+    std::function<void()> Click, DblClick;
+    std::function<void(i16 KeyAscii)> KeyPress;
+    std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
+    std::function<void()> GotFocus, LostFocus;
+
+private:
+    i32 ancho_ = 0, alto_ = 0;
+};
+
+// A picture box: a surface that can be seen and clicked. The view shows its pixels.
+struct Cuadro : Control, Superficie {
+    i32 Width() const override { return Superficie::Width(); }
+    i32 Height() const override { return Superficie::Height(); }
+    void Tamano(i32 ancho, i32 alto) override { Superficie::Tamano(ancho, alto); }
+
+    std::function<void()> Paint;     // asked to paint itself anew; the view needs no such call
+};
+
+// A line or block of fixed text, wrapped at its width, runs of blanks kept.
+struct Etiqueta : Control {
+    std::string Caption;
+    Fuente Font;
+    Color ForeColor = 0;
+    Color BackColor = 0xC0C0C0;
+    bool Transparente = true;
+    bool Centrada = false;
+};
+
+struct BarraDesplazamiento : Control {
+    bool Vertical = false;
+    i32 Min = 0, Max = 0;
+    i32 SmallChange = 1, LargeChange = 10;
+    i32 Value = 0;                                // the code may set it; Change is then not called
+    std::function<void()> Change;                 // Value has a new value by the player's hand
+    void Pon(i32 v);                              // as by the player: clamps, sets and calls Change
+};
+
+struct Lista : Control {
+    struct Elemento {
+        std::string Texto;
+        i32 Dato = 0;
+    };
+    bool Ordenada = false;           // AddItem keeps the text order; equal texts in order of arrival
+    std::vector<Elemento> Elementos;
+    i32 ListIndex = -1;              // -1: none
+    Fuente Font;
+
+    void AddItem(const std::string& texto, i32 dato = 0);
+    void Clear();
+    i32 ListCount() const { return static_cast<i32>(Elementos.size()); }
+    void Selecciona(i32 indice);     // as by the player: sets ListIndex and calls Click
+};
+
+struct CajaTexto : Control {
+    std::string Text;                // the code may set it; Change is then not called
+    i32 MaxLength = 0;               // in characters; 0: no limit
+    Fuente Font;
+    std::function<void()> Change;
+    void Escribe(const std::string& texto);   // as by the player: cuts, sets and calls Change
+};
+
+// A labelled switch.
+struct Buleano : Control {
+    std::string Caption;
+    bool Value = false;
+    bool Sound = true;
+    std::function<void()> Change;
+    void Pon(bool v);                // as by the player
+};
+
+// A titled list of choices 1..n, of which one is in force.
+struct Selector : Control {
+    std::string Caption;
+    std::vector<std::string> Textos;   // Textos[0] is choice 1
+    i16 Value = 1;
+    bool Sound = true;
+    std::function<void()> Change;
+    void Pon(i16 v);
+};
+
+// A knob from 0 to 100.
+struct Potenciometro : Control {
+    std::string Caption;
+    i16 Value = 0;
+    std::function<void()> Change;
+    void Pon(i16 v);
+};
+
+// A numeric spinner.
+struct Spin : Control {
+    std::string Caption;
+    i16 Value = 0, Min = 0, Max = 100, Incremento = 1;
+    bool Sound = true;
+    bool Pulsado = false;              // one of its buttons is held
+    std::function<void()> Change;
+    void Pon(i16 v);
+};
+
+// The three lists through which a file is chosen. Their rows come from the file system each time
+// the path changes; the shell or the test reads them through the same routines.
+struct ListaUnidades : Control {
+    std::string Drive;
+    std::function<void()> Change;
+};
+
+struct ListaCarpetas : Control {
+    std::string Path;                  // with a trailing "/"
+    std::function<void()> Change;
+};
+
+struct ListaFicheros : Lista {
+    std::string Path;                  // with a trailing "/"
+    std::string Pattern;               // "*.bmp;*.jpg", without regard to case
+};
+
+struct Temporizador {
+    i32 Interval = 0;                  // milliseconds; 0: off
+    bool Enabled = false;
+    std::function<void()> Timer;
+};
+
+// A window. Its own surface is the ground on which it draws and on which its controls lie.
+struct Ventana : Superficie {
+    std::string Nombre;                // name of the record, for tests
+    std::string Caption;
+    i32 Left = 0, Top = 0;             // screen pixels
+    bool PantallaCompleta = false;     // no frame, above panels of the desktop
+    bool Abierta = false;              // shown and not yet closed; the platform keeps it
+    i16 MousePointer = PUNTERO_NORMAL;
+    std::string MouseIcon;
+    std::vector<Control*> Controles;   // from the bottom up
+    std::vector<Temporizador*> Temporizadores;
+    Control* Foco = nullptr;           // the control that gets the keys when the window opens
+
+    std::function<void()> Load, Activate, Unload;
+    std::function<void(bool& Cancela)> QueryUnload;   // the player asks to close it from outside
+    // A key comes first to the window, then to the control that has the focus.
+    std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
+    std::function<void(i16 KeyAscii)> KeyPress;
+    std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
+};
+
+// Presses a control on the player's behalf: its MouseDown with the left button at (0, 0), if set.
+void Pulsa(Control& c);
+
+}  // namespace tessario

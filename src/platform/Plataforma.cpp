@@ -1,0 +1,18 @@
+#include "platform/Plataforma.h"
+
+#include <cassert>
+
+namespace tessario {
+
+namespace {
+Plataforma* enUso = nullptr;
+}
+
+Plataforma& Sistema() {
+    assert(enUso && "PonSistema comes first");
+    return *enUso;
+}
+
+void PonSistema(Plataforma* p) { enUso = p; }
+
+}  // namespace tessario

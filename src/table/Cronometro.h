@@ -1,0 +1,25 @@
+// The chronometer, the counter of placed pieces, the bevelled display that both share, and the
+// once-a-second tick that also chooses the hints.
+#pragma once
+
+#include <string>
+
+#include "platform/Superficie.h"
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+// 1 runs, 2 stops the chronometer; paints its switch.
+void CambiaCrono(i16 estado);
+// One second of the timer.
+void Tic();
+// Recounts the pieces in their place and shows the count.
+void MuestraColocadas();
+// The bevelled display: style 1 raised for the counter, 2 sunken for the clock.
+void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo);
+// Seconds as H:MM:SS, from 0 again after 24 hours.
+std::string TextoTiempo(i32 segundos);
+void Pic_Cronome_MouseDown(i16 Button, i16 Shift, float X, float Y);
+void Pic_Cronome_MouseMove(i16 Button, i16 Shift, float X, float Y);
+
+}  // namespace tessario

@@ -1,0 +1,13 @@
+// Scrolling of a table larger than the screen.
+#pragma once
+
+namespace tessario {
+
+// Shows or hides the bars for the current Pic_Bitmap, with their ranges and steps.
+void AjustaBarras();
+// Off the visible table, hidden, value 0: games 22 and 23.
+void QuitaBarras();
+void BarraHor_Change();
+void BarraVer_Change();
+
+}  // namespace tessario

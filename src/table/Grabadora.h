@@ -1,0 +1,21 @@
+// The move recorder: the log of every move, its panel, and the walk back and forth.
+#pragma once
+
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+// Appends a move of the piece on top of the stack.
+void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, i16 XDespues,
+                        i16 YDespues, i16 GiroDespues, i16 VolteoDespues);
+// 0 forward, 1 back.
+void ReproduceMovimiento(i16 sentido);
+void EnciendeGrabadora();
+void ApagaGrabadora();
+// The finished look on and off.
+void EntraEnCompleto();
+void SaleDeCompleto();
+void Pic_Grabadora_MouseDown(i16 Button, i16 Shift, float X, float Y);
+void Pic_Grabadora_MouseMove(i16 Button, i16 Shift, float X, float Y);
+
+}  // namespace tessario

@@ -1,0 +1,12 @@
+// The options panel that a right click on the table opens.
+#pragma once
+
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+void MuestraOpcionesSelec();
+void Pic_SelOpciones_MouseMove(i16 Button, i16 Shift, float X, float Y);
+void Pic_SelOpciones_MouseUp(i16 Button, i16 Shift, float X, float Y);
+
+}  // namespace tessario

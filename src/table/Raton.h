@@ -1,0 +1,17 @@
+// The mouse machine of Pic_Trabajo: hover, pick-up, drag, drop, rotation, the end of a game. The
+// state is a set of flags tested in fixed orders.
+#pragma once
+
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+void Pic_Trabajo_MouseDown(i16 Button, i16 Shift, float X, float Y);
+void Pic_Trabajo_MouseMove(i16 Button, i16 Shift, float X, float Y);
+void Pic_Trabajo_MouseUp(i16 Button, i16 Shift, float X, float Y);
+void Pic_Trabajo_Click();
+void Pic_Trabajo_KeyPress(i16 KeyAscii);
+// Applies a cursor id to the table.
+void AplicaCursor(i16 id);
+
+}  // namespace tessario

@@ -1,0 +1,9 @@
+// The tutor shows where a chosen piece belongs.
+#pragma once
+
+namespace tessario {
+
+// Flashes the place of PiezaActual three times.
+void TutorIndicando();
+
+}  // namespace tessario

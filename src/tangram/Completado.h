@@ -1,0 +1,11 @@
+// Twin pieces may take each other's place.
+#pragma once
+
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+// Swaps XBien, YBien, GiroBien and VolteoBien of a piece with those of its twin.
+void TCambiaGemela(i16 piece);
+
+}  // namespace tessario

@@ -1,0 +1,246 @@
+#include "apoyo/PlataformaPrueba.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "core/Ventanas.h"
+#include "pieces/Superficies.h"
+
+namespace tessario {
+
+namespace {
+
+std::string CarpetaNueva() {
+    static int n = 0;
+    const std::string ruta = (std::filesystem::temp_directory_path() /
+                              ("tessario-" + std::to_string(getpid()) + "-" + std::to_string(++n)))
+                                 .string();
+    std::filesystem::create_directories(ruta);
+    return ruta + "/";
+}
+
+i32 Caracteres(std::string_view texto) {
+    i32 n = 0;
+    for (const char c : texto) n += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+    return n;
+}
+
+i32 AnchoCaracter(const Fuente& f) { return std::max(1, f.Tamano * 7 / 13); }
+
+}  // namespace
+
+PlataformaPrueba::PlataformaPrueba() : carpeta(CarpetaNueva()) {}
+
+PlataformaPrueba::~PlataformaPrueba() {
+    std::error_code e;
+    std::filesystem::permissions(carpeta, std::filesystem::perms::owner_all,
+                                 std::filesystem::perm_options::add, e);
+    std::filesystem::remove_all(carpeta, e);
+}
+
+i32 PlataformaPrueba::CambiaModoPantalla(i32 a, i32 b) {
+    if (cambioModo == 0) {
+        ancho = a;
+        alto = b;
+    }
+    return cambioModo;
+}
+
+void PlataformaPrueba::Duerme(double ms) {
+    if (alDormir) alDormir();
+    if (ms > 0) {
+        reloj += ms;
+        dormido += ms;
+    }
+}
+
+void PlataformaPrueba::DejaPasarEventos() {
+    ++pasosDeEventos;
+    if (alDejarPasar) alDejarPasar();
+    if (eventos.empty()) return;
+    const auto evento = eventos.front();
+    eventos.pop_front();
+    evento();
+}
+
+void PlataformaPrueba::Muestra(Ventana& v) {
+    mostradas.push_back(v.Nombre);
+    if (v.Abierta) return;
+    v.Abierta = true;
+    if (v.Load) v.Load();
+    if (v.Abierta && v.Activate) v.Activate();
+}
+
+void PlataformaPrueba::MuestraModal(Ventana& v) {
+    mostradas.push_back(v.Nombre);
+    v.Abierta = true;
+    if (v.Load) v.Load();
+    const auto accion = ventanas.find(v.Nombre);
+    if (accion != ventanas.end()) {
+        accion->second(v);
+    } else if (&v == &Mensajes) {
+        bool si = Gbl.BotonesMensaje == 1;
+        if (Gbl.BotonesMensaje != 1 && !respuestas.empty()) {
+            si = respuestas.front();
+            respuestas.pop_front();
+        }
+        avisos.push_back({Gbl.TituloMensaje, Gbl.TextoMensaje, Gbl.ModoMensaje, Gbl.BotonesMensaje,
+                          Gbl.AyudaMensaje, si});
+        Gbl.RespuestaMensaje = si;
+    }
+    if (v.Abierta) Cierra(v);
+}
+
+void PlataformaPrueba::Cierra(Ventana& v) {
+    if (!v.Abierta) return;
+    v.Abierta = false;
+    if (v.Unload) v.Unload();
+}
+
+i32 PlataformaPrueba::AnchoTexto(const Fuente& f, std::string_view texto) {
+    return Caracteres(texto) * AnchoCaracter(f);
+}
+
+i32 PlataformaPrueba::AltoTexto(const Fuente& f) { return f.Tamano + 2; }
+
+void PlataformaPrueba::PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto,
+                                  const Fuente& f, Color color) {
+    // One box for each character that is not a blank, a pixel free all around.
+    const i32 w = AnchoCaracter(f);
+    const i32 h = AltoTexto(f);
+    const Rect limites = s.Limites();
+    i32 i = 0;
+    for (const char c : texto) {
+        if ((static_cast<unsigned char>(c) & 0xC0U) == 0x80U) continue;
+        const i32 izq = x + i++ * w;
+        if (c == ' ') continue;
+        const Rect caja = Interseccion(limites, {izq, y + 1, izq + w - 1, y + h - 1});
+        if (caja.Vacio()) continue;
+        for (i32 fila = caja.Arr; fila < caja.Aba; ++fila)
+            for (i32 col = caja.Izq; col < caja.Der; ++col)
+                if (!s.Recorte() || s.Recorte()->Contiene(col, fila))
+                    s.Fila(fila)[col] = PixelDe(color);
+        s.Marca(caja);
+    }
+}
+
+i32 PlataformaPrueba::CargaImagen(const std::string& ruta, Mapa& destino) {
+    if (const auto e = erroresImagen.find(ruta); e != erroresImagen.end()) return e->second;
+    const auto i = imagenes.find(ruta);
+    if (i == imagenes.end()) return 53;
+    destino = i->second;
+    return 0;
+}
+
+i32 PlataformaPrueba::GuardaImagen(const std::string& ruta, const Mapa& imagen) {
+    guardadas[ruta] = imagen;
+    imagenes[ruta] = imagen;
+    std::ofstream(ruta, std::ios::binary) << "BM";
+    return 0;
+}
+
+bool PlataformaPrueba::RecursoImagen(std::string_view nombre, Mapa& destino) {
+    const auto r = recursos.find(std::string(nombre));
+    if (r != recursos.end()) {
+        destino = r->second;
+        return true;
+    }
+    destino = Mapa(600, 200);
+    const Pixel tipo = static_cast<Pixel>(nombre.size() & 0xFU) << 20;
+    for (i32 y = 0; y < destino.Alto; ++y)
+        for (i32 x = 0; x < destino.Ancho; ++x)
+            destino.Fila(y)[x] = tipo | (static_cast<Pixel>(x) << 8) | static_cast<Pixel>(y);
+    return true;
+}
+
+void PlataformaPrueba::Suena(i16 id, bool asincrono) {
+    sonidos.emplace_back(id, asincrono);
+    if (!asincrono) reloj += duracionSonido;
+}
+
+bool PlataformaPrueba::PortapapelesImagen(Mapa& destino) {
+    if (!hayPortapapeles) return false;
+    destino = portapapeles;
+    return true;
+}
+
+Punto PunteroPrueba::Origen(const Control& c) {
+    Punto p{c.Left, c.Top};
+    for (const Control* k = c.Contenedor; k; k = k->Contenedor) {
+        p.x += k->Left;
+        p.y += k->Top;
+    }
+    return p;
+}
+
+Control* PunteroPrueba::Debajo() const {
+    // The last one in the list that is visible with all its containers and holds the point. A
+    // control in a container stands after it in the list.
+    for (auto i = ventana_.Controles.rbegin(); i != ventana_.Controles.rend(); ++i) {
+        Control* c = *i;
+        bool visible = true;
+        for (const Control* k = c; k && visible; k = k->Contenedor) {
+            const Punto o = Origen(*k);
+            visible = k->Visible && RectDe(o.x, o.y, k->Width(), k->Height()).Contiene(x_, y_);
+        }
+        if (visible) return c;
+    }
+    return nullptr;
+}
+
+void PunteroPrueba::Mueve(i32 x, i32 y) {
+    x_ = x;
+    y_ = y;
+    Control* c = apretado_ ? preso_ : Debajo();
+    if (!c || !c->Enabled) return;
+    const Punto o = Origen(*c);
+    if (c->MouseMove)
+        c->MouseMove(apretado_ ? boton_ : i16{0}, 0, static_cast<float>(x_ - o.x),
+                     static_cast<float>(y_ - o.y));
+}
+
+void PunteroPrueba::Aprieta(i16 boton) {
+    preso_ = Debajo();
+    apretado_ = true;
+    boton_ = boton;
+    if (!preso_ || !preso_->Enabled) return;
+    const Punto o = Origen(*preso_);
+    if (preso_->MouseDown)
+        preso_->MouseDown(boton, 0, static_cast<float>(x_ - o.x), static_cast<float>(y_ - o.y));
+}
+
+void PunteroPrueba::Suelta() {
+    if (!apretado_) return;
+    apretado_ = false;
+    Control* c = preso_;
+    preso_ = nullptr;
+    if (!c || !c->Enabled) return;
+    const Punto o = Origen(*c);
+    if (c->MouseUp)
+        c->MouseUp(boton_, 0, static_cast<float>(x_ - o.x), static_cast<float>(y_ - o.y));
+    if (RectDe(o.x, o.y, c->Width(), c->Height()).Contiene(x_, y_) && c->Click) c->Click();
+}
+
+void PunteroPrueba::Pulsa(i32 x, i32 y, i16 boton) {
+    Mueve(x, y);
+    Aprieta(boton);
+    Suelta();
+}
+
+void PruebaBase::SetUp() {
+    plataforma_ = new PlataformaPrueba;
+    PonSistema(plataforma_);
+    Gbl = Bloque{};
+    ReiniciaSuperficies();
+    ReiniciaVentanas();
+}
+
+void PruebaBase::TearDown() {
+    PonSistema(nullptr);
+    delete plataforma_;
+    plataforma_ = nullptr;
+}
+
+}  // namespace tessario

@@ -1,0 +1,126 @@
+// The platform of the tests: a virtual clock, scripted answers to windows, logs of sounds and
+// help, pictures kept in memory, a block font. No test sleeps and none needs a display.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/PuzzGbl.h"
+#include "platform/Plataforma.h"
+
+namespace tessario {
+
+class PlataformaPrueba : public Plataforma {
+public:
+    PlataformaPrueba();
+    ~PlataformaPrueba() override;
+
+    // --- What a test sets.
+    i32 ancho = 800, alto = 600;
+    i32 pruebaModo = 1, cambioModo = 2;              // answers of the display mode calls
+    double reloj = 1000000;                          // ms
+    double duracionSonido = 0;                       // ms that a waiting sound takes
+    std::deque<std::function<void()>> eventos;       // run, one for each DejaPasarEventos
+    std::function<void()> alDormir;                  // called in each Duerme, after painting
+    std::function<void()> alDejarPasar;              // called in each DejaPasarEventos
+    std::deque<bool> respuestas;                     // answers of the next messages; then no
+    std::map<std::string, std::function<void(Ventana&)>> ventanas;   // by name: what the player does
+    std::map<std::string, Mapa> imagenes;            // pictures by path
+    std::map<std::string, i32> erroresImagen;        // paths that fail, by error number
+    std::map<std::string, Mapa> recursos;            // by name; others are made up (see below)
+    bool hayPortapapeles = false;
+    Mapa portapapeles;
+    bool botones = false;
+
+    // --- What a test looks at.
+    struct Aviso {
+        std::string titulo, texto;
+        i16 modo, botones, ayuda;
+        bool respuesta;
+    };
+    std::vector<Aviso> avisos;                       // messages shown, oldest first
+    std::vector<std::pair<i16, bool>> sonidos;       // number, asynchronous
+    std::vector<i32> ayudas;
+    std::vector<std::string> mostradas;              // windows shown, by name
+    std::map<std::string, Mapa> guardadas;           // pictures saved
+    int presentaciones = 0;
+    int pasosDeEventos = 0;
+    double dormido = 0;                              // ms slept in all
+    bool terminado = false, minimizado = false;
+    Control* foco = nullptr;
+    std::string carpeta;                             // a fresh folder of this test, trailing "/"
+
+    // --- Plataforma.
+    i32 AnchoPantalla() override { return ancho; }
+    i32 AltoPantalla() override { return alto; }
+    i32 PruebaModoPantalla(i32, i32) override { return pruebaModo; }
+    i32 CambiaModoPantalla(i32 a, i32 b) override;
+    u32 timeGetTime() override { return static_cast<u32>(static_cast<unsigned long long>(reloj)); }
+    double Timer() override { return 43200.25; }
+    std::string Fecha() override { return "20/11/2026"; }
+    std::string Hora() override { return "13:54:00"; }
+    void Duerme(double ms) override;
+    void DejaPasarEventos() override;
+    void Presenta() override { ++presentaciones; }
+    bool BotonesApretados() override { return botones; }
+    void Muestra(Ventana& v) override;
+    void MuestraModal(Ventana& v) override;
+    void Cierra(Ventana& v) override;
+    void Minimiza(Ventana&) override { minimizado = true; }
+    void PonFoco(Control& c) override { foco = &c; }
+    void Termina() override { terminado = true; }
+    i32 AnchoTexto(const Fuente& f, std::string_view texto) override;
+    i32 AltoTexto(const Fuente& f) override;
+    void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
+                    Color color) override;
+    i32 CargaImagen(const std::string& ruta, Mapa& destino) override;
+    i32 GuardaImagen(const std::string& ruta, const Mapa& imagen) override;
+    // A name that the test has not given yields a picture whose pixel (x, y) tells its own place:
+    // 0x00XXYY with the name's kind in the upper byte, so that source positions can be checked.
+    bool RecursoImagen(std::string_view nombre, Mapa& destino) override;
+    void Suena(i16 id, bool asincrono) override;
+    bool PortapapelesTieneImagen() override { return hayPortapapeles; }
+    bool PortapapelesImagen(Mapa& destino) override;
+    void Ayuda(i32 tema) override { ayudas.push_back(tema); }
+    std::string CarpetaDelPrograma() override { return carpeta; }
+    std::string CarpetaDelSistema() override { return carpeta + "sistema/"; }
+};
+
+// A pointer that presses and moves over a window as a player does, through its controls' records.
+// Coordinates are the window's pixels. A press holds the control until the release.
+class PunteroPrueba {
+public:
+    explicit PunteroPrueba(Ventana& v) : ventana_(v) {}
+    void Mueve(i32 x, i32 y);
+    void Aprieta(i16 boton = BOTON_IZQUIERDO);
+    void Suelta();                    // MouseUp, then Click if still over the control
+    void Pulsa(i32 x, i32 y, i16 boton = BOTON_IZQUIERDO);   // move, press, release
+    Control* Debajo() const;          // the control under the pointer, or null
+    static Punto Origen(const Control& c);   // a control's corner in window pixels
+
+private:
+    Ventana& ventana_;
+    Control* preso_ = nullptr;
+    bool apretado_ = false;
+    i16 boton_ = 0;
+    i32 x_ = 0, y_ = 0;
+};
+
+// A test with a fresh state block, fresh surfaces and a fresh platform.
+class PruebaBase : public testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    PlataformaPrueba& P() { return *plataforma_; }
+
+private:
+    PlataformaPrueba* plataforma_ = nullptr;
+};
+
+}  // namespace tessario
