@@ -1,0 +1,458 @@
+#include "ventana/Escritorio.h"
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <thread>
+
+namespace tessario::ventana {
+
+namespace {
+
+using Reloj = std::chrono::steady_clock;
+
+void Duerme(int ms) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(ms));
+}
+
+// Starts a program with its output thrown away; `descriptor` stays open in it.
+pid_t Lanza(const std::vector<std::string>& orden, const std::string& pantalla, int descriptor,
+            const std::string& carpeta = "") {
+    const pid_t pid = fork();
+    if (pid != 0) return pid;
+    if (!pantalla.empty()) setenv("DISPLAY", pantalla.c_str(), 1);
+    unsetenv("WAYLAND_DISPLAY");
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    if (!carpeta.empty()) setenv("XDG_DATA_HOME", (carpeta + "datos").c_str(), 1);
+    if (!getenv("TESSARIO_VER_SALIDA")) {
+        if (!freopen("/dev/null", "w", stdout) || !freopen("/dev/null", "w", stderr)) _exit(126);
+    }
+    for (int fd = 3; fd < 64; ++fd)
+        if (fd != descriptor) close(fd);
+    std::vector<char*> args;
+    for (const auto& a : orden) args.push_back(const_cast<char*>(a.c_str()));
+    args.push_back(nullptr);
+    execvp(args[0], args.data());
+    _exit(127);
+}
+
+void Termina(pid_t pid) {
+    if (pid <= 0) return;
+    kill(pid, SIGTERM);
+    for (int i = 0; i < 100; ++i) {
+        if (waitpid(pid, nullptr, WNOHANG) == pid) return;
+        Duerme(10);
+    }
+    kill(pid, SIGKILL);
+    waitpid(pid, nullptr, 0);
+}
+
+// A window may vanish while we look at it.
+int SinError(Display*, XErrorEvent*) {
+    return 0;
+}
+
+bool BuscaTitulo(Display* d, Window w, const std::string& titulo) {
+    XWindowAttributes a{};
+    if (!XGetWindowAttributes(d, w, &a)) return false;
+    char* nombre = nullptr;
+    bool si = false;
+    if (a.map_state == IsViewable && XFetchName(d, w, &nombre) && nombre)
+        si = std::string(nombre).find(titulo) != std::string::npos;
+    if (nombre) XFree(nombre);
+    if (si) return true;
+    Window raiz = 0, padre = 0;
+    Window* hijas = nullptr;
+    unsigned n = 0;
+    if (!XQueryTree(d, w, &raiz, &padre, &hijas, &n)) return false;
+    for (unsigned i = 0; i < n && !si; ++i) si = BuscaTitulo(d, hijas[i], titulo);
+    if (hijas) XFree(hijas);
+    return si;
+}
+
+}  // namespace
+
+int Foto::Cuenta(int x, int y, int w, int h, unsigned color) const {
+    int n = 0;
+    for (int j = y; j < y + h; ++j)
+        for (int i = x; i < x + w; ++i) n += En(i, j) == color;
+    return n;
+}
+
+int Foto::Diferencia(const Foto& otra, int x, int y, int w, int h) const {
+    int n = 0;
+    for (int j = y; j < y + h; ++j)
+        for (int i = x; i < x + w; ++i) n += En(i, j) != otra.En(i, j);
+    return n;
+}
+
+void Foto::Guarda(const std::string& nombre) const {
+    const std::string base = std::string(TESSARIO_PANTALLAS) + "/" + nombre;
+    std::filesystem::create_directories(TESSARIO_PANTALLAS);
+    std::ofstream f(base + ".ppm", std::ios::binary);
+    f << "P6\n" << ancho << " " << alto << "\n255\n";
+    for (const unsigned p : pixeles)
+        f << static_cast<char>(p >> 16) << static_cast<char>(p >> 8) << static_cast<char>(p);
+    f.close();
+    const std::string orden =
+        "convert '" + base + ".ppm' '" + base + ".png' && rm '" + base + ".ppm'";
+    if (std::system(orden.c_str()) != 0) std::fprintf(stderr, "no PNG for %s\n", nombre.c_str());
+}
+
+Escritorio::Escritorio(int ancho, int alto) {
+    int tubo[2];
+    if (pipe(tubo) != 0) throw std::runtime_error("pipe");
+    servidor_ = Lanza({"Xvfb", "-displayfd", std::to_string(tubo[1]), "-screen", "0",
+                       std::to_string(ancho) + "x" + std::to_string(alto) + "x24", "-nolisten",
+                       "tcp", "-noreset"},
+                      "", tubo[1]);
+    close(tubo[1]);
+    std::string numero;
+    char c = 0;
+    while (read(tubo[0], &c, 1) == 1 && c != '\n') numero += c;
+    close(tubo[0]);
+    if (numero.empty()) throw std::runtime_error("Xvfb did not start");
+    nombre_ = ":" + numero;
+    XSetErrorHandler(SinError);
+    d_ = XOpenDisplay(nombre_.c_str());
+    if (!d_) throw std::runtime_error("cannot open the private display");
+    gestor_ = Lanza({"openbox"}, nombre_, -1);
+    // The manager announces itself on the root window.
+    const Atom marca = XInternAtom(d_, "_NET_SUPPORTING_WM_CHECK", False);
+    Espera([&] {
+        Atom tipo = 0;
+        int formato = 0;
+        unsigned long n = 0, resto = 0;
+        unsigned char* datos = nullptr;
+        XGetWindowProperty(d_, DefaultRootWindow(d_), marca, 0, 1, False, AnyPropertyType, &tipo,
+                           &formato, &n, &resto, &datos);
+        if (datos) XFree(datos);
+        return n > 0;
+    });
+}
+
+Escritorio::~Escritorio() {
+    if (d_) XCloseDisplay(d_);
+    Termina(gestor_);
+    Termina(servidor_);
+}
+
+void Escritorio::Mueve(int x, int y) {
+    XTestFakeMotionEvent(d_, -1, x, y, 0);
+    XSync(d_, False);
+    Duerme(12);
+}
+
+void Escritorio::Aprieta(int boton) {
+    XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), True, 0);
+    XSync(d_, False);
+}
+
+void Escritorio::Suelta(int boton) {
+    XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), False, 0);
+    XSync(d_, False);
+}
+
+void Escritorio::Pulsa(int x, int y, int boton) {
+    Mueve(x, y);
+    Duerme(30);
+    Aprieta(boton);
+    Duerme(20);
+    Suelta(boton);
+    Duerme(60);
+}
+
+void Escritorio::Arrastra(int x0, int y0, int x1, int y1, int pasos) {
+    Mueve(x0, y0);
+    Duerme(30);
+    Aprieta();
+    Duerme(30);
+    for (int i = 1; i <= pasos; ++i) Mueve(x0 + (x1 - x0) * i / pasos, y0 + (y1 - y0) * i / pasos);
+    Duerme(20);
+    Suelta();
+    Duerme(60);
+}
+
+void Escritorio::Tecla(const char* nombre) {
+    const KeyCode codigo = XKeysymToKeycode(d_, XStringToKeysym(nombre));
+    XTestFakeKeyEvent(d_, codigo, True, 0);
+    XTestFakeKeyEvent(d_, codigo, False, 0);
+    XSync(d_, False);
+    Duerme(40);
+}
+
+Foto Escritorio::Mira() {
+    Foto f;
+    const int pantalla = DefaultScreen(d_);
+    f.ancho = DisplayWidth(d_, pantalla);
+    f.alto = DisplayHeight(d_, pantalla);
+    XImage* im = XGetImage(d_, DefaultRootWindow(d_), 0, 0, static_cast<unsigned>(f.ancho),
+                           static_cast<unsigned>(f.alto), AllPlanes, ZPixmap);
+    if (!im) throw std::runtime_error("the screen cannot be read");
+    f.pixeles.reserve(static_cast<std::size_t>(f.ancho) * static_cast<std::size_t>(f.alto));
+    for (int y = 0; y < f.alto; ++y) {
+        const auto* fila = reinterpret_cast<const unsigned*>(im->data + y * im->bytes_per_line);
+        for (int x = 0; x < f.ancho; ++x) f.pixeles.push_back(fila[x] & 0xFFFFFFU);
+    }
+    XDestroyImage(im);
+    return f;
+}
+
+bool Escritorio::HayVentana(const std::string& titulo) {
+    return BuscaTitulo(d_, DefaultRootWindow(d_), titulo);
+}
+
+bool Escritorio::Espera(const std::function<bool()>& condicion, int milisegundos) {
+    const auto fin = Reloj::now() + std::chrono::milliseconds(milisegundos);
+    do {
+        if (condicion()) return true;
+        Duerme(15);
+    } while (Reloj::now() < fin);
+    return condicion();
+}
+
+void Escritorio::EsperaQuieto(int milisegundos, int tope) {
+    Foto antes = Mira();
+    auto desde = Reloj::now();
+    const auto fin = desde + std::chrono::milliseconds(tope);
+    while (Reloj::now() < fin) {
+        Duerme(30);
+        Foto ahora = Mira();
+        if (ahora.pixeles != antes.pixeles) {
+            antes = std::move(ahora);
+            desde = Reloj::now();
+        } else if (Reloj::now() - desde > std::chrono::milliseconds(milisegundos)) {
+            return;
+        }
+    }
+}
+
+namespace {
+
+std::string Cifras(int n, int ancho) {
+    char t[32];
+    std::snprintf(t, sizeof t, "%0*d", ancho, n);
+    return std::string(t).substr(0, static_cast<std::size_t>(ancho));
+}
+
+std::string Logico(bool b) {
+    return b ? "-1" : "0 ";
+}
+
+// A line of blanks with fields put in by column, counted from 1.
+class Linea {
+public:
+    explicit Linea(std::size_t ancho) : t_(ancho, ' ') {}
+    void Pon(std::size_t columna, const std::string& campo) {
+        t_.replace(columna - 1, campo.size(), campo);
+    }
+    std::string Entre() const { return "\"" + t_ + "\"\r\n"; }
+
+private:
+    std::string t_;
+};
+
+int Numero(const std::string& linea, std::size_t columna, std::size_t ancho) {
+    return std::atoi(linea.substr(columna - 1, ancho).c_str());
+}
+
+}  // namespace
+
+Programa::Programa(Escritorio& e) : e_(e) {
+    namespace fs = std::filesystem;
+    static int n = 0;
+    carpeta_ = (fs::temp_directory_path() /
+                ("tessario-ventana-" + std::to_string(getpid()) + "-" + std::to_string(++n)))
+                   .string() +
+               "/";
+    const fs::path origen = fs::path(TESSARIO_PROGRAMA).parent_path();
+    fs::create_directories(carpeta_ + "Archivo");
+    fs::create_directories(carpeta_ + "Imagenes");
+    fs::copy_file(TESSARIO_PROGRAMA, carpeta_ + "tessario");
+    for (const char* sub : {"Imagenes", "Archivo"})
+        if (fs::exists(origen / sub))
+            fs::copy(origen / sub, carpeta_ + sub,
+                     fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+}
+
+Programa::~Programa() {
+    Mata();
+    std::error_code error;
+    std::filesystem::remove_all(carpeta_, error);
+}
+
+void Programa::EscribeBytes(const std::string& nombre, const std::string& bytes) {
+    std::ofstream(carpeta_ + nombre, std::ios::binary) << bytes;
+}
+
+void Programa::EscribeGlobal(int juego, int velocidad, bool sonido, bool sugerencias) {
+    Linea l(125);
+    l.Pon(1, Cifras(juego, 2));
+    l.Pon(3, Logico(sonido));
+    l.Pon(5, Cifras(velocidad, 3));
+    l.Pon(8, Logico(sugerencias));
+    EscribeBytes("TsR33.ini", l.Entre());
+}
+
+void Programa::EscribePartida(const PartidaGuardada& p) {
+    Linea l(140);
+    l.Pon(1, "Prueba   ");
+    l.Pon(10, Cifras(0x800000, 8));
+    l.Pon(18, Cifras(0x008000, 8));
+    l.Pon(26, Cifras(0xFFFFFF, 8));
+    l.Pon(34, Logico(p.muestra));
+    l.Pon(36, Cifras(0, 4));
+    l.Pon(40, Cifras(p.modelo, 4));
+    l.Pon(45, Cifras(p.zoom, 3));
+    l.Pon(48, Cifras(p.porLado, 3));
+    l.Pon(51, Cifras(p.forma, 2));
+    l.Pon(53, Cifras(static_cast<int>(p.piezas.size()), 3));
+    l.Pon(56, Cifras(0, 8));
+    l.Pon(64, Logico(false));
+    l.Pon(66, Logico(false));
+    l.Pon(68, Cifras(p.modoJuego, 1));
+    l.Pon(69, Cifras(p.tipoFondo, 1));
+    l.Pon(72, Cifras(p.huecoX, 4));
+    l.Pon(76, Cifras(p.huecoY, 4));
+    l.Pon(80, Cifras(p.anchoImagen, 4));
+    l.Pon(84, Cifras(p.altoImagen, 4));
+    l.Pon(88, Cifras(p.juego, 2));
+    l.Pon(91, Cifras(p.factor, 3));
+    l.Pon(94, Logico(p.giro));
+    l.Pon(96, Logico(p.borde));
+    l.Pon(98, Logico(p.atraccion));
+    l.Pon(125, "10.0000");
+    std::string piezas, texto;
+    for (std::size_t i = 0; i < p.piezas.size(); ++i) {
+        const auto& q = p.piezas[i];
+        const int orden = p.orden.empty() ? static_cast<int>(i) + 1 : p.orden[i];
+        piezas += Cifras(q.x, 4) + Cifras(q.y, 4) + Cifras(q.giro, 1) + Cifras(q.volteo, 1) +
+                  Cifras(q.xBien, 4) + Cifras(q.yBien, 4) + Cifras(q.giroBien, 1) +
+                  Cifras(q.volteoBien, 1) + Cifras(orden, 3);
+    }
+    const std::string ruta = p.imagen.empty() ? " " : carpeta_ + "Imagenes/" + p.imagen;
+    for (const std::string& s : {std::string("/"), carpeta_ + "Imagenes/", p.imagen, ruta})
+        texto += "\"" + s + "\"\r\n";
+    texto += l.Entre() + "\"" + piezas + "\"\r\n\"\"\r\n";
+    EscribeBytes("TsR" + std::to_string(p.juego) + "33.ini", texto);
+}
+
+unsigned Programa::ColorDeCuadro(int i) {
+    static const unsigned colores[] = {0xC03020, 0x20A040, 0x2050D0, 0xE0C020, 0x902090,
+                                       0x20B0B0, 0xF08030, 0x808040, 0xE070B0, 0x406080};
+    return colores[i % 10];
+}
+
+void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int alto, int n) {
+    // 24-bit BMP, rows from the bottom, each padded to four bytes.
+    const int fila = (ancho * 3 + 3) / 4 * 4;
+    std::string b(static_cast<std::size_t>(54 + fila * alto), '\0');
+    const auto pon = [&](int donde, unsigned v, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+            b[static_cast<std::size_t>(donde + i)] = static_cast<char>(v >> (8 * i));
+    };
+    b[0] = 'B';
+    b[1] = 'M';
+    pon(2, static_cast<unsigned>(b.size()), 4);
+    pon(10, 54, 4);
+    pon(14, 40, 4);
+    pon(18, static_cast<unsigned>(ancho), 4);
+    pon(22, static_cast<unsigned>(alto), 4);
+    pon(26, 1, 2);
+    pon(28, 24, 2);
+    for (int y = 0; y < alto; ++y)
+        for (int x = 0; x < ancho; ++x) {
+            const unsigned c = ColorDeCuadro(y * n / alto * n + x * n / ancho);
+            pon(54 + (alto - 1 - y) * fila + x * 3, c, 3);
+        }
+    EscribeBytes("Imagenes/" + nombre, b);
+}
+
+bool Programa::Arranca(bool cierraBienvenida) {
+    pid_ = Lanza({carpeta_ + "tessario"}, e_.Nombre(), -1, carpeta_);
+    estado_ = -1;
+    if (!e_.Espera([&] { return e_.HayVentana("TESSARIO  3.3") || !Vive(); }, 15000)) return false;
+    if (!Vive()) return false;
+    e_.EsperaQuieto();
+    if (!cierraBienvenida) return true;
+    e_.Tecla("Return");
+    if (!e_.Espera([&] { return !e_.HayVentana("TESSARIO  3.3"); })) return false;
+    e_.EsperaQuieto();
+    return Vive();
+}
+
+bool Programa::Vive() {
+    if (pid_ <= 0) return false;
+    int estado = 0;
+    if (waitpid(pid_, &estado, WNOHANG) != pid_) return true;
+    estado_ = WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
+    pid_ = 0;
+    return false;
+}
+
+int Programa::EsperaFin(int milisegundos) {
+    e_.Espera([&] { return !Vive(); }, milisegundos);
+    return pid_ > 0 ? -1 : estado_;
+}
+
+void Programa::Mata() {
+    if (Vive()) Termina(pid_);
+    pid_ = 0;
+}
+
+bool Programa::Sale() {
+    const Lugar b = Boton(7);
+    e_.Pulsa(b.x, b.y);
+    if (!e_.Espera([&] { return e_.HayVentana("Salir de TESSARIO"); })) return false;
+    e_.EsperaQuieto(120);
+    e_.Tecla("Return");
+    return EsperaFin() == 0;
+}
+
+int Programa::AnchoPantalla() const {
+    return e_.Mira().ancho;
+}
+
+Programa::Lugar Programa::Boton(int indice, bool conBarras) const {
+    static const int X[] = {15, 15, 15, 78, 15, 78, 78, 78, 15, 78, 15, 78};
+    static const int Y[] = {194, 10, 68, 68, 126, 10, 126, 194, 310, 252, 252, 310};
+    const int izquierda = AnchoPantalla() - 141 - (conBarras ? 17 : 0);
+    return {izquierda + X[indice - 1] + 24, Y[indice - 1] + 24};
+}
+
+PartidaLeida Programa::LeePartida(int juego) const {
+    PartidaLeida p;
+    std::ifstream f(carpeta_ + "TsR" + std::to_string(juego) + "33.ini", std::ios::binary);
+    std::vector<std::string> lineas;
+    for (std::string s; std::getline(f, s);) {
+        if (!s.empty() && s.back() == '\r') s.pop_back();
+        lineas.push_back(s.size() >= 2 ? s.substr(1, s.size() - 2) : s);
+    }
+    if (lineas.size() < 7) return p;
+    const std::string& fijo = lineas[4];
+    const int n = Numero(fijo, 53, 3);
+    p.movimientos = Numero(fijo, 36, 4);
+    p.segundos = Numero(fijo, 56, 8);
+    p.terminado = fijo.substr(63, 2) == "-1";
+    for (int i = 0; i < n; ++i) {
+        const std::string t = lineas[5].substr(static_cast<std::size_t>(i) * 23, 23);
+        p.piezas.push_back({Numero(t, 1, 4), Numero(t, 5, 4), Numero(t, 9, 1), Numero(t, 10, 1),
+                            Numero(t, 11, 4), Numero(t, 15, 4), Numero(t, 19, 1),
+                            Numero(t, 20, 1)});
+        p.orden.push_back(Numero(t, 21, 3));
+    }
+    return p;
+}
+
+}  // namespace tessario::ventana

@@ -1,0 +1,129 @@
+// A private X server with a small window manager, a real pointer and keyboard, and the real
+// program in a program folder of its own. The tests look at the screen's pixels and at the files
+// that the program leaves.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+struct _XDisplay;
+
+namespace tessario::ventana {
+
+// What the screen showed at one moment: 0x00RRGGBB a pixel.
+struct Foto {
+    int ancho = 0, alto = 0;
+    std::vector<unsigned> pixeles;
+    unsigned En(int x, int y) const {
+        return pixeles[static_cast<std::size_t>(y) * static_cast<std::size_t>(ancho) +
+                       static_cast<std::size_t>(x)];
+    }
+    // Pixels of this colour in a rectangle.
+    int Cuenta(int x, int y, int w, int h, unsigned color) const;
+    // Pixels that differ from another photo in a rectangle.
+    int Diferencia(const Foto& otra, int x, int y, int w, int h) const;
+    void Guarda(const std::string& nombre) const;  // PNG in the build's folder of screens
+};
+
+class Escritorio {
+public:
+    Escritorio(int ancho, int alto);
+    ~Escritorio();
+    Escritorio(const Escritorio&) = delete;
+    Escritorio& operator=(const Escritorio&) = delete;
+
+    void Mueve(int x, int y);
+    void Aprieta(int boton = 1);  // 1 left, 3 right
+    void Suelta(int boton = 1);
+    void Pulsa(int x, int y, int boton = 1);
+    // Press, several moves on the way, release.
+    void Arrastra(int x0, int y0, int x1, int y1, int pasos = 8);
+    void Tecla(const char* nombre);  // X name of the key: "Return", "v", "Escape", "space"
+    Foto Mira();
+    // Is a window with this in its title on the screen?
+    bool HayVentana(const std::string& titulo);
+    // Waits until the condition holds, looking every few milliseconds. False: it never did.
+    bool Espera(const std::function<bool()>& condicion, int milisegundos = 8000);
+    // Waits until the screen has not changed for a while.
+    void EsperaQuieto(int milisegundos = 250, int tope = 20000);
+
+    const std::string& Nombre() const { return nombre_; }
+
+private:
+    _XDisplay* d_ = nullptr;
+    std::string nombre_;  // ":N"
+    pid_t servidor_ = 0, gestor_ = 0;
+};
+
+// One saved piece, for building a game in progress.
+struct PiezaGuardada {
+    int x = 0, y = 0, giro = 0, volteo = 0, xBien = 0, yBien = 0, giroBien = 0, volteoBien = 0;
+};
+
+// A game in progress as its file has it. Fields not given have the defaults of a new player.
+struct PartidaGuardada {
+    int juego = 21;
+    std::string imagen;  // file name in Imagenes/; empty: none
+    int anchoImagen = 0, altoImagen = 0;
+    int porLado = 3, forma = 0, zoom = 100;
+    int modoJuego = 1, tipoFondo = 2, modelo = 1;
+    int huecoX = 0, huecoY = 0;
+    int factor = 20;
+    bool giro = true, borde = true, atraccion = true, muestra = false;
+    std::vector<PiezaGuardada> piezas;  // piece 1 first
+    std::vector<int> orden;             // stacking order, top first; empty: 1, 2, 3 ...
+};
+
+// What is read back from a file that the program wrote.
+struct PartidaLeida {
+    std::vector<PiezaGuardada> piezas;
+    std::vector<int> orden;
+    int movimientos = -1;
+    int segundos = -1;
+    bool terminado = false;
+};
+
+class Programa {
+public:
+    // A folder of its own with the real program, the pictures and the models.
+    explicit Programa(Escritorio& e);
+    ~Programa();
+    Programa(const Programa&) = delete;
+    Programa& operator=(const Programa&) = delete;
+
+    // Files that the program will find. velocidad 0 to 100.
+    void EscribeGlobal(int juego, int velocidad, bool sonido = false, bool sugerencias = false);
+    void EscribePartida(const PartidaGuardada& p);
+    void EscribeBytes(const std::string& nombre, const std::string& bytes);
+    // A picture of big flat squares of distinct colours, n a side: BMP in Imagenes/.
+    void EscribeImagenDeCuadros(const std::string& nombre, int ancho, int alto, int n);
+    static unsigned ColorDeCuadro(int i);
+
+    bool Arranca(bool cierraBienvenida = true);  // until the table is on the screen
+    bool Vive();
+    int EsperaFin(int milisegundos = 8000);  // exit status, -1 while it still runs
+    void Mata();
+    // Leaves through the exit button, answering yes.
+    bool Sale();
+    PartidaLeida LeePartida(int juego) const;
+    const std::string& Carpeta() const { return carpeta_; }
+
+    // Corner of a command button on the screen.
+    struct Lugar {
+        int x, y;
+    };
+    Lugar Boton(int indice, bool conBarras = false) const;  // its centre
+    int AnchoPantalla() const;
+
+private:
+    Escritorio& e_;
+    std::string carpeta_;
+    pid_t pid_ = 0;
+    int estado_ = -1;
+};
+
+}  // namespace tessario::ventana
