@@ -1,6 +1,8 @@
 // The two small windows of the core: the modal message and the splash.
 #pragma once
 
+#include <string>
+
 #include "platform/Controles.h"
 
 namespace tessario {
@@ -15,5 +17,8 @@ extern Ventana Careta;
 void ConectaMensajes();
 void ConectaCareta();
 void ReiniciaVentanas();   // both windows as in a program just started
+
+// Gives a surface a picture of the program's resources, and its size. False when there is none.
+bool PonRecurso(Superficie& destino, const std::string& nombre);
 
 }  // namespace tessario

@@ -1,0 +1,85 @@
+#include "core/Servicios.h"
+
+#include <cmath>
+
+#include "core/PuzzGbl.h"
+#include "core/Ventanas.h"
+#include "platform/Plataforma.h"
+
+namespace tessario {
+
+namespace {
+
+double CuatroDecimales(double x) {
+    return std::nearbyint(x * 10000.0) / 10000.0;
+}
+
+}  // namespace
+
+void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
+             i16 BotonesMensaje, i16 Ayuda) {
+    Gbl.ModoMensaje = ModoMensaje;
+    Gbl.BotonesMensaje = BotonesMensaje;
+    Gbl.AyudaMensaje = Ayuda;  // before the window loads, which shows its help button by it
+    Gbl.TituloMensaje = Titulo;
+    Gbl.TextoMensaje = Texto;
+    Tex_Titulo.Caption = Titulo;
+    Tex_Mensaje.Caption = Texto;
+    Sistema().MuestraModal(Mensajes);
+}
+
+void SonidoJuego(i16 Asincrono, i16 Id) {
+    if (!Gbl.Sonido) return;
+    Sistema().Suena(Id, Asincrono == 1);
+}
+
+double FactorPausa(i16 velocidad) {
+    // A damaged settings file can leave a speed above 100: no delay, like 100 itself.
+    if (velocidad >= 100) return 0;
+    double f = CuatroDecimales(std::pow((100 - velocidad) / 50.0, 1.5));
+    // Slow speeds slow down much more than high speeds speed up.
+    if (f > 1) f = CuatroDecimales(f * f);
+    return f;
+}
+
+void Pausa(i16 Milisegundos) {
+    if (Gbl.MarcaPausa == 0) Gbl.MarcaPausa = Sistema().timeGetTime();
+    const double espera = Milisegundos * FactorPausa(Gbl.VelocidadJuego);
+    bool presentado = false;
+    for (;;) {
+        // Unsigned difference: right also when the clock wraps.
+        const double faltan = espera - (Sistema().timeGetTime() - Gbl.MarcaPausa);
+        if (faltan <= 0) break;
+        Sistema().Duerme(faltan);
+        presentado = true;
+    }
+    if (!presentado) Sistema().Presenta();
+    Gbl.MarcaPausa = 0;
+}
+
+void PonPuntero(Control& objeto, i16 puntero) {
+    objeto.MousePointer = puntero;
+}
+void PonPuntero(Ventana& objeto, i16 puntero) {
+    objeto.MousePointer = puntero;
+}
+
+void PonCursor(Control& objeto, const std::string& Nombre) {
+    PonPuntero(objeto, PUNTERO_PROPIO);
+    objeto.MouseIcon = Nombre;
+}
+
+void PonCursor(Ventana& objeto, const std::string& Nombre) {
+    PonPuntero(objeto, PUNTERO_PROPIO);
+    objeto.MouseIcon = Nombre;
+}
+
+void DejaPasarEventos() {
+    Sistema().DejaPasarEventos();
+}
+
+void Ayuda(i32 tema) {
+    Sistema().Ayuda(tema);
+}
+
+}  // namespace tessario

@@ -1,0 +1,193 @@
+#include "core/Ventanas.h"
+
+#include <memory>
+
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "pieces/Superficies.h"
+#include "platform/Plataforma.h"
+
+namespace tessario {
+
+Ventana Mensajes;
+Etiqueta Tex_Titulo, Tex_Mensaje;
+Cuadro Pic_Si, Pic_No, Pic_BotSalirMensaje, Pic_BotAyudaMensaje;
+
+Ventana Careta;
+
+namespace {
+
+constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080, GRIS_CLARO = 0xC0C0C0;
+constexpr Color AZUL_TITULO = 0x800000;
+constexpr i16 SONIDO_BOTON = 9;
+constexpr i16 PAUSA_CARETA = 1500;
+constexpr i16 VELOCIDAD_INICIAL = 50;
+
+// The message window, pixels. Its height is that of the text and a fixed rest.
+namespace lugar {
+constexpr i32 Ancho = 405;
+constexpr i32 AltoFijo = 128, AltoLinea = 16;
+constexpr i32 MargenTexto = 20, AnchoTexto = 365;
+constexpr i32 TituloArriba = 18, TituloAlto = 19;
+constexpr i32 TextoArriba = 50, TextoHolgura = 3;
+constexpr i32 BajoTexto = 14;  // from the text's bottom to the buttons
+constexpr i32 MargenBoton = 15, LadoBoton = 48, EntreBotones = 15;
+}  // namespace lugar
+
+// The buttons: which tile of Pic_BmpBoton's second row each shows, and its left edge.
+struct BotonMensaje {
+    Cuadro* cuadro;
+    const char* nombre;
+    const char* accesible;
+    i32 tesela;
+    i32 izquierda;
+};
+constexpr i32 PASO_TESELA = 49;
+constexpr i32 DERECHA = lugar::Ancho - lugar::MargenBoton - lugar::LadoBoton;
+const BotonMensaje BOTONES[] = {
+    {&Pic_Si, "Pic_Si", "Aceptar", 0, DERECHA - lugar::LadoBoton - lugar::EntreBotones},
+    {&Pic_No, "Pic_No", "Cancelar", 1, DERECHA},
+    {&Pic_BotAyudaMensaje, "Pic_BotAyuda", "Ayuda", 6, lugar::MargenBoton},
+    {&Pic_BotSalirMensaje, "Pic_BotSalir", "Cerrar", 7, DERECHA},
+};
+
+// Screen size in use; a message may come before it was measured.
+Punto Pantalla() {
+    if (Gbl.AnchoPantalla != 0) return {Gbl.AnchoPantalla, Gbl.AltoPantalla};
+    return {800, Gbl.AltoPantalla != 0 ? Gbl.AltoPantalla : 600};
+}
+
+void Centra(Ventana& v) {
+    const Punto pantalla = Pantalla();
+    v.Left = (pantalla.x - v.Width()) / 2;
+    v.Top = (pantalla.y - v.Height()) / 2;
+}
+
+void ColocaTextos() {
+    const i32 alto = Gbl.ModoMensaje * lugar::AltoLinea + lugar::TextoHolgura;
+    Tex_Titulo.Mueve(lugar::MargenTexto, lugar::TituloArriba);
+    Tex_Titulo.Tamano(lugar::AnchoTexto, lugar::TituloAlto);
+    Tex_Mensaje.Mueve(lugar::MargenTexto, lugar::TextoArriba);
+    Tex_Mensaje.Tamano(lugar::AnchoTexto, alto);
+}
+
+void PintaMarco() {
+    const i32 der = Mensajes.Width() - 2;
+    const i32 aba = Mensajes.Height() - 2;
+    constexpr int recta = pluma::Desde | pluma::ConColor;
+    Mensajes.Cls();
+    Mensajes.Line(recta | pluma::Caja, 1, 1, der, aba, BLANCO);
+    Mensajes.Line(recta, der, 1, der, aba, GRIS);
+    Mensajes.Line(recta, 1, aba, der, aba, GRIS);
+}
+
+void ColocaBotones() {
+    if (Pic_BmpBoton.Width() == 0) PonRecurso(Pic_BmpBoton, "BmpBoton");
+    const i32 arriba = Tex_Mensaje.Top + Tex_Mensaje.Height() + lugar::BajoTexto;
+    for (const BotonMensaje& b : BOTONES) {
+        b.cuadro->Mueve(b.izquierda, arriba);
+        b.cuadro->Tamano(lugar::LadoBoton, lugar::LadoBoton);
+        BitBlt(*b.cuadro, 0, 0, lugar::LadoBoton, lugar::LadoBoton, Pic_BmpBoton,
+               b.tesela * PASO_TESELA, PASO_TESELA, SRCCOPY);
+        PonCursor(*b.cuadro, "ManoIndice");
+    }
+    const bool pregunta = Gbl.BotonesMensaje != 1;
+    Pic_BotAyudaMensaje.Visible = Gbl.AyudaMensaje != 0;
+    Pic_Si.Visible = Pic_No.Visible = pregunta;
+    Pic_BotSalirMensaje.Visible = !pregunta;
+    Gbl.RespuestaMensaje = !pregunta;
+}
+
+void Mensajes_Load() {
+    Mensajes.Tamano(lugar::Ancho, Gbl.ModoMensaje * lugar::AltoLinea + lugar::AltoFijo);
+    Centra(Mensajes);
+    ColocaTextos();
+    PintaMarco();
+    ColocaBotones();
+}
+
+void Responde(bool si) {
+    SonidoJuego(1, SONIDO_BOTON);
+    Gbl.RespuestaMensaje = si;
+    Sistema().Cierra(Mensajes);
+}
+
+void Pic_BotSalirMensaje_Click() {
+    SonidoJuego(1, SONIDO_BOTON);
+    Sistema().Cierra(Mensajes);
+}
+
+void Pic_BotAyudaMensaje_Click() {
+    SonidoJuego(1, SONIDO_BOTON);
+    Ayuda(Gbl.AyudaMensaje);
+}
+
+// Deliberate: any key at all means yes.
+void Mensajes_KeyDown() {
+    if (Gbl.BotonesMensaje != 1) {
+        Responde(true);
+        return;
+    }
+    Sistema().Cierra(Mensajes);
+    PonPuntero(Mesa, PUNTERO_NORMAL);
+}
+
+void Careta_Load() {
+    PonRecurso(Careta, "Careta");
+    Centra(Careta);
+    Sistema().Presenta();
+    Gbl.VelocidadJuego = VELOCIDAD_INICIAL;
+    Pausa(PAUSA_CARETA);
+}
+
+void ReiniciaEtiqueta(Etiqueta& e, const char* nombre) {
+    e = Etiqueta{};
+    e.Nombre = nombre;
+}
+
+}  // namespace
+
+bool PonRecurso(Superficie& destino, const std::string& nombre) {
+    auto mapa = std::make_shared<Mapa>();
+    if (!Sistema().RecursoImagen(nombre, *mapa)) return false;
+    destino.Tamano(mapa->Ancho, mapa->Alto);
+    destino.PonPicture(mapa);
+    return true;
+}
+
+void ConectaMensajes() {
+    Mensajes.Load = Mensajes_Load;
+    Mensajes.KeyDown = [](i16, i16) { Mensajes_KeyDown(); };
+    Pic_Si.Click = [] { Responde(true); };
+    Pic_No.Click = [] { Responde(false); };
+    Pic_BotSalirMensaje.Click = Pic_BotSalirMensaje_Click;
+    Pic_BotAyudaMensaje.Click = Pic_BotAyudaMensaje_Click;
+}
+
+void ConectaCareta() {
+    Careta.Load = Careta_Load;
+    Careta.Activate = [] { Sistema().Cierra(Careta); };
+}
+
+void ReiniciaVentanas() {
+    Mensajes = Ventana{};
+    Mensajes.Nombre = "Mensajes";
+    Mensajes.PonBackColor(GRIS_CLARO);
+    ReiniciaEtiqueta(Tex_Titulo, "Tex_Titulo");
+    Tex_Titulo.Font.Negrita = true;
+    Tex_Titulo.ForeColor = AZUL_TITULO;
+    ReiniciaEtiqueta(Tex_Mensaje, "Tex_Mensaje");
+    Mensajes.Controles = {&Tex_Titulo, &Tex_Mensaje};
+    for (const BotonMensaje& b : BOTONES) {
+        *b.cuadro = Cuadro{};
+        b.cuadro->Nombre = b.nombre;
+        b.cuadro->NombreAccesible = b.accesible;
+        b.cuadro->Visible = false;
+        Mensajes.Controles.push_back(b.cuadro);
+    }
+
+    Careta = Ventana{};
+    Careta.Nombre = "Careta";
+}
+
+}  // namespace tessario
