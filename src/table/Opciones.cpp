@@ -1,0 +1,122 @@
+#include "table/Opciones.h"
+
+#include "core/Numeros.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "pieces/Superficies.h"
+#include "table/Cronometro.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i32 ANCHO_PANEL = 150, ALTO_FILA = 18, BORDE = 4;
+constexpr i32 TEXTO_X = 14;
+constexpr i16 OPCION_MODELO = 4;  // stands apart, below a separator
+constexpr Color GRIS = 0x808080, BLANCO = 0xFFFFFF, AZUL = 0xFF0000, NEGRO = 0;
+constexpr Color FONDO_PANEL = 0xC0C0C0;
+const Fuente LETRA{Familia::Sans, 13, false, false};
+
+// What the window of saved puzzles opens for, by option.
+constexpr i16 MODO_DE_OPCION[] = {0, 2, 1, 3, 4};
+
+i32 OpcionesEnPanel() {
+    i32 n = 0;
+    for (i32 i = 1; i <= 10; ++i) n += Gbl.OpcionesActivas[i] ? 1 : 0;
+    return n;
+}
+
+// The option in a row of the panel, rows from 1; 0 when there is none.
+i16 OpcionDeFila(i16 fila) {
+    for (i16 i = 1; i <= 10; ++i)
+        if (Gbl.OpcionesActivas[i] && --fila == 0) return i;
+    return 0;
+}
+
+void LineaPanel(i32 x1, i32 y1, i32 x2, i32 y2, Color color, int forma = 0) {
+    Pic_SelOpciones.Line(pluma::Desde | pluma::ConColor | forma, x1, y1, x2, y2, color);
+}
+
+void PintaFila(i16 opcion, i32 j) {
+    const i32 w = Pic_SelOpciones.Width();
+    const i32 y = j * ALTO_FILA + BORDE;
+    if (opcion == OPCION_MODELO) {
+        LineaPanel(0, y - 3, w - 1, y - 3, GRIS);
+        LineaPanel(0, y - 2, w - 1, y - 2, BLANCO);
+    }
+    const bool resaltada = j + 1 == Gbl.OpcionResaltada;
+    if (resaltada) LineaPanel(2, y - 2, w - 3, y + 15, AZUL, pluma::Caja | pluma::Llena);
+    Pic_SelOpciones.ForeColor = resaltada ? BLANCO : NEGRO;
+    Pic_SelOpciones.CurrentX = TEXTO_X;
+    Pic_SelOpciones.CurrentY = y;
+    Pic_SelOpciones.Print(Gbl.TextosOpciones[opcion]);
+}
+
+void PintaMarco() {
+    const i32 w = Pic_SelOpciones.Width();
+    const i32 h = Pic_SelOpciones.Height();
+    for (i32 i = 0; i < 2; ++i) LineaPanel(i, i, w - 1 - i, h - 1 - i, GRIS, pluma::Caja);
+    for (i32 i = 0; i < 2; ++i) {
+        LineaPanel(i, i, w - 1 - i, i, BLANCO);
+        LineaPanel(i, i, i, h - 1 - i, BLANCO);
+    }
+}
+
+// At the press, but neither under the strip nor below the visible table.
+void ColocaPanel() {
+    const i32 derecha = Pic_Botonera.Left + BarraHor.Value;
+    const i32 abajo = BarraHor.Top + BarraVer.Value;
+    i32 x = Gbl.XPulsado;
+    i32 y = Gbl.YPulsado;
+    if (x + Pic_SelOpciones.Width() > derecha) x = derecha - Pic_SelOpciones.Width();
+    if (y + Pic_SelOpciones.Height() > abajo) y = abajo - Pic_SelOpciones.Height();
+    Pic_SelOpciones.Mueve(x, y);
+}
+
+// Everything around the window of saved puzzles: the clock stands while it is open.
+void AbreCargua(i16 modo) {
+    Gbl.ModoCargua = modo;
+    Gbl.CronoAntes = Gbl.CronoEnMarcha;
+    CambiaCrono(2);
+    CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+}
+
+}  // namespace
+
+void MuestraOpcionesSelec() {
+    const i32 activas = OpcionesEnPanel();
+    Pic_SelOpciones.Tamano(ANCHO_PANEL, activas * ALTO_FILA + BORDE);
+    Pic_SelOpciones.PonBackColor(FONDO_PANEL);
+    Pic_SelOpciones.Font = LETRA;
+    i32 j = 0;
+    for (i16 i = 1; i <= 10; ++i)
+        if (Gbl.OpcionesActivas[i]) PintaFila(i, j++);
+    PintaMarco();
+    ColocaPanel();
+    PonCursor(Pic_SelOpciones, "ManoIndice");
+    if (activas > 0) Pic_SelOpciones.Visible = true;
+}
+
+void Pic_SelOpciones_MouseMove(i16, i16, float, float Y) {
+    const i16 fila = Corto((EnteroLargo(static_cast<double>(Y)) + 16) / ALTO_FILA);
+    if (fila == Gbl.OpcionResaltada) return;
+    Gbl.OpcionResaltada = fila;
+    MuestraOpcionesSelec();
+}
+
+void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
+    if (Gbl.OpcionResaltada == 0) return;
+    Pic_SelOpciones.Visible = false;
+    const i16 opcion = OpcionDeFila(Gbl.OpcionResaltada);
+    if (opcion < 1 || opcion > OPCION_MODELO) return;
+    if (opcion <= 2 && Gbl.GrabadoraEncendida) {
+        Mensaje("Grabadora encendida",
+                "Tiene que apagar la Grabadora de jugadas antes de poder cargar o guardar un "
+                "puzzle.",
+                2, 1);
+        return;
+    }
+    AbreCargua(MODO_DE_OPCION[opcion]);
+}
+
+}  // namespace tessario
