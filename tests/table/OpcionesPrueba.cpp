@@ -1,0 +1,153 @@
+// The options panel: its rows, its place, the light that follows the pointer, and what a choice
+// does.
+#include "apoyo/PlataformaPrueba.h"
+#include "pieces/Superficies.h"
+#include "table/Opciones.h"
+
+namespace tessario {
+namespace {
+
+constexpr Color AZUL = 0xFF0000, BLANCO = 0xFFFFFF, GRIS = 0x808080;
+
+class PanelOpciones : public PruebaBase {
+protected:
+    void SetUp() override {
+        PruebaBase::SetUp();
+        const char* textos[] = {"Guardar este puzzle", "Cargar un puzzle", "Borrar un puzzle",
+                                "Guardar como modelo"};
+        for (i32 i = 1; i <= 4; ++i) Gbl.TextosOpciones[i] = textos[i - 1];
+        BarraHor.Top = 600;
+        BarraVer.Left = 800;
+        Pic_Botonera.Tamano(141, 463);
+        Pic_Botonera.Mueve(659, 0);
+        Pic_Trabajo.Tamano(800, 600);
+        Gbl.XPulsado = 100;
+        Gbl.YPulsado = 200;
+        for (i32 i = 1; i <= 3; ++i) Gbl.OpcionesActivas[i] = true;
+    }
+    void Elige(float y) {
+        Pic_SelOpciones_MouseMove(0, 0, 20, y);
+        Pic_SelOpciones_MouseUp(1, 0, 20, y);
+    }
+};
+
+TEST_F(PanelOpciones, OpensAtThePressWithOneRowForEachActiveOption) {
+    MuestraOpcionesSelec();
+    EXPECT_TRUE(Pic_SelOpciones.Visible);
+    EXPECT_EQ(Pic_SelOpciones.Width(), 150);
+    EXPECT_EQ(Pic_SelOpciones.Height(), 3 * 18 + 4);
+    EXPECT_EQ(Pic_SelOpciones.Left, 100);
+    EXPECT_EQ(Pic_SelOpciones.Top, 200);
+    EXPECT_EQ(Pic_SelOpciones.MouseIcon, "ManoIndice");
+    // First letters of the rows at x 14, y 4, 22 and 40.
+    for (const i32 y : {4, 22, 40}) EXPECT_EQ(Pic_SelOpciones.Point(15, y + 5), 0U) << y;
+}
+
+TEST_F(PanelOpciones, FrameIsWhiteAboveAndLeftAndGreyBelowAndRight) {
+    MuestraOpcionesSelec();
+    for (const i32 i : {0, 1}) {
+        EXPECT_EQ(Pic_SelOpciones.Point(75, i), BLANCO);
+        EXPECT_EQ(Pic_SelOpciones.Point(i, 29), BLANCO);
+        EXPECT_EQ(Pic_SelOpciones.Point(75, 57 - i), GRIS);
+        EXPECT_EQ(Pic_SelOpciones.Point(149 - i, 29), GRIS);
+    }
+}
+
+TEST_F(PanelOpciones, StaysLeftOfTheStripAndAboveTheTablesBottom) {
+    Gbl.XPulsado = 600;
+    Gbl.YPulsado = 590;
+    MuestraOpcionesSelec();
+    EXPECT_EQ(Pic_SelOpciones.Left, 659 - 150);
+    EXPECT_EQ(Pic_SelOpciones.Top, 600 - 58);
+}
+
+TEST_F(PanelOpciones, OptionFourStandsBelowASeparatorAndStays) {
+    Gbl.OpcionesActivas[4] = true;
+    MuestraOpcionesSelec();
+    EXPECT_EQ(Pic_SelOpciones.Height(), 4 * 18 + 4);
+    const i32 y = 3 * 18 + 4;
+    EXPECT_EQ(Pic_SelOpciones.Point(75, y - 3), GRIS);
+    EXPECT_EQ(Pic_SelOpciones.Point(75, y - 2), BLANCO);
+    Gbl.JuegoActual = JuegoDeslizantes;
+    MuestraOpcionesSelec();
+    EXPECT_EQ(Pic_SelOpciones.Height(), 4 * 18 + 4);
+}
+
+TEST_F(PanelOpciones, NothingActiveShowsNothing) {
+    Gbl.OpcionesActivas = {};
+    MuestraOpcionesSelec();
+    EXPECT_FALSE(Pic_SelOpciones.Visible);
+}
+
+TEST_F(PanelOpciones, LightFollowsThePointerAndIsZeroAboveTheFirstRow) {
+    MuestraOpcionesSelec();
+    const struct {
+        float y;
+        i16 fila;
+    } casos[] = {{0, 0}, {1, 0}, {2, 1}, {19, 1}, {20, 2}, {37, 2}, {38, 3}, {55, 3}};
+    for (const auto& c : casos) {
+        Pic_SelOpciones_MouseMove(0, 0, 20, c.y);
+        EXPECT_EQ(Gbl.OpcionResaltada, c.fila) << c.y;
+    }
+    // Row 3 is lit: its band from y 38 to 55, two pixels free at the left.
+    EXPECT_EQ(Pic_SelOpciones.Point(5, 38), AZUL);
+    EXPECT_EQ(Pic_SelOpciones.Point(5, 55), AZUL);
+    EXPECT_NE(Pic_SelOpciones.Point(5, 37), AZUL);
+    EXPECT_EQ(Pic_SelOpciones.Point(15, 45), BLANCO) << "its text is white";
+}
+
+TEST_F(PanelOpciones, EachChoiceOpensForItsPurpose) {
+    Gbl.OpcionesActivas[4] = true;
+    const struct {
+        float y;
+        i16 modo;
+    } casos[] = {{10, 2}, {25, 1}, {45, 3}, {60, 4}};
+    for (const auto& c : casos) {
+        MuestraOpcionesSelec();
+        Gbl.ModoCargua = 0;
+        Elige(c.y);
+        EXPECT_EQ(Gbl.ModoCargua, c.modo) << c.y;
+        EXPECT_FALSE(Pic_SelOpciones.Visible);
+    }
+}
+
+TEST_F(PanelOpciones, ChoiceKeepsTheClockAsItWas) {
+    for (const bool marcha : {true, false}) {
+        Gbl.CronoEnMarcha = marcha;
+        MuestraOpcionesSelec();
+        Elige(10);
+        EXPECT_EQ(static_cast<bool>(Gbl.CronoEnMarcha), marcha);
+    }
+}
+
+TEST_F(PanelOpciones, ReleaseWithNoLightDoesNothing) {
+    MuestraOpcionesSelec();
+    Elige(0);
+    EXPECT_TRUE(Pic_SelOpciones.Visible);
+    EXPECT_EQ(Gbl.ModoCargua, 0);
+}
+
+TEST_F(PanelOpciones, RecorderRefusesSavingAndLoadingOnly) {
+    Gbl.GrabadoraEncendida = true;
+    for (const float y : {10.0F, 25.0F}) {
+        MuestraOpcionesSelec();
+        Gbl.ModoCargua = 0;
+        Elige(y);
+        EXPECT_EQ(Gbl.ModoCargua, 0);
+        EXPECT_FALSE(Pic_SelOpciones.Visible);
+        ASSERT_FALSE(P().avisos.empty());
+        EXPECT_EQ(P().avisos.back().titulo, "Grabadora encendida");
+        EXPECT_EQ(P().avisos.back().texto,
+                  "Tiene que apagar la Grabadora de jugadas antes de poder cargar o guardar un "
+                  "puzzle.");
+        EXPECT_EQ(P().avisos.back().modo, 2);
+        EXPECT_EQ(P().avisos.back().botones, 1);
+        EXPECT_EQ(P().avisos.back().ayuda, 0);
+    }
+    MuestraOpcionesSelec();
+    Elige(45);
+    EXPECT_EQ(Gbl.ModoCargua, 3);
+}
+
+}  // namespace
+}  // namespace tessario
