@@ -15,6 +15,9 @@ void CambiaCrono(i16 estado);
 void Tic();
 // Recounts the pieces in their place and shows the count.
 void MuestraColocadas();
+// The displays as they stand: the counter without a recount, and the clock.
+void PintaColocadas();
+void PintaTiempo();
 // The bevelled display: style 1 raised for the counter, 2 sunken for the clock.
 void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo);
 // Seconds as H:MM:SS, from 0 again after 24 hours.

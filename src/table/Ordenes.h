@@ -1,9 +1,21 @@
 // The twelve commands of the strip: when each is allowed and what it does.
 #pragma once
 
+#include "platform/Controles.h"
 #include "platform/Tipos.h"
 
 namespace tessario {
+
+inline constexpr i16 BOTON_USABLE = 23, BOTON_PROHIBIDO = 12;  // values of BotonEstado
+
+// The windows that commands 2, 4 and 5 open. The unit of each puts it here once, at start; a
+// command whose window is not here does all that surrounds it.
+struct VentanasDeOrdenes {
+    Ventana* Personal = nullptr;
+    Ventana* Estadis = nullptr;
+    Ventana* Historic = nullptr;
+};
+extern VentanasDeOrdenes VentanasOrdenes;
 
 // Any mouse button runs the command.
 void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y);

@@ -1,0 +1,10 @@
+// The end of a game that the player has solved.
+#pragma once
+
+namespace tessario {
+
+// Stops the clock, gives the table its finished look, congratulates, and offers a result that
+// qualifies to the history.
+void FinDeJuego();
+
+}  // namespace tessario

@@ -1,0 +1,296 @@
+#include "table/Ordenes.h"
+
+#include "core/Arranque.h"
+#include "core/Configuracion.h"
+#include "core/Despacho.h"
+#include "core/PuzzBas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "jigsaw/Colocacion.h"
+#include "pieces/Composicion.h"
+#include "pieces/Raster.h"
+#include "pieces/Superficies.h"
+#include "platform/Plataforma.h"
+#include "sliding/Movimientos.h"
+#include "sliding/Tablero.h"
+#include "table/Barajado.h"
+#include "table/Cronometro.h"
+#include "table/Sugerencias.h"
+
+namespace tessario {
+
+VentanasDeOrdenes VentanasOrdenes;
+
+namespace {
+
+constexpr i16 ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10, ORDEN_ORDENAR = 11,
+              ORDEN_RESOLVER = 12;
+constexpr i16 SONIDO_BOTON = 9;
+constexpr i16 SUGERENCIA_TUTOR = 52;
+constexpr i16 PAUSA_ANTES_MUESTRA = 5, PAUSA_TRAS_MUESTRA = 35, PAUSA_OCULTA = 15;
+constexpr i32 MARGEN_MUESTRA = 15;  // pixels between the sample and the table's edge, game 22
+
+bool EsDeslizantes() {
+    return Gbl.JuegoActual == JuegoDeslizantes;
+}
+
+// ---------------------------------------------------------------- what surrounds the commands
+// The clock stands still while the work is done, and then is as it was.
+template <class F>
+void ConRelojParado(F&& trabajo) {
+    Gbl.CronoAntes = Gbl.CronoEnMarcha;
+    CambiaCrono(2);
+    Sigue(trabajo);
+    CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+}
+
+void Reloj() {
+    PonPuntero(Mesa, PUNTERO_RELOJ);
+}
+void PunteroNormal() {
+    PonPuntero(Mesa, PUNTERO_NORMAL);
+}
+
+void MuestraSiExiste(Ventana* v) {
+    if (v) Sistema().MuestraModal(*v);
+}
+
+// ---------------------------------------------------------------- the commands
+void Baraja() {
+    Gbl.RespuestaMensaje = true;
+    if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER)
+        Mensaje(
+            "Barajar las piezas del Tangram",
+            "Si pulsa este botón cuando está resolviendo un modelo, se despejará  la  mesa  de  "
+            "juego  para  que  pueda  crear  sus propios  diseños,   por  lo   que  finalizará  "
+            "la  resolución  del modelo actual  y  se  mezclarán las piezas.   Pulse  el  botón "
+            "Aceptar para mezclar las piezas. Si pulsa el botón Cancelar podrá continuar "
+            "resolviendo el modelo actual.",
+            6, 2, 2180);
+    if (!Gbl.RespuestaMensaje) return;
+    if (EsDeslizantes()) {
+        BarajaPiezas();
+        return;
+    }
+    if (Gbl.JuegoActual == JuegoTangram) Gbl.ModoJuego = MODO_CREAR;
+    PreparaJuego(true);
+}
+
+// The settings were left in the game that was current when they opened.
+void RehaceMesa() {
+    if (Gbl.ParametrosCambiados) {
+        Reloj();
+        PreparaJuego(true);
+        if (EsDeslizantes()) ColocaPiezas(1);
+    } else if (Gbl.ColoresCambiados) {
+        Reloj();
+        PreparaJuego(false);
+        ColocaPiezas(EsDeslizantes() ? 1 : 0);
+    }
+}
+
+void CambiaDeJuego() {
+    Reloj();
+    LeeAjustesJuego(FicheroDelJuego());
+    Sugerencia(Gbl.JuegoActual);
+}
+
+void Personaliza() {
+    Gbl.JuegoAlEntrar = Gbl.JuegoActual;
+    ConRelojParado([] {
+        Gbl.ParametrosCambiados = false;
+        Gbl.ColoresCambiados = false;
+        MuestraSiExiste(VentanasOrdenes.Personal);
+        Sistema().Presenta();
+        Sigue([] { Gbl.JuegoActual == Gbl.JuegoAlEntrar ? RehaceMesa() : CambiaDeJuego(); });
+        PunteroNormal();
+    });
+}
+
+void LlamaAlTutor() {
+    ConRelojParado([] {
+        if (EsDeslizantes()) {
+            // One pass of the solver only, as its own button is not down.
+            Gbl.PuzzleArchivable = false;
+            ResuelvePuzzle();
+            return;
+        }
+        Gbl.TutorEsperando = true;
+        Sugerencia(SUGERENCIA_TUTOR);
+    });
+}
+
+void Estadisticas() {
+    ConRelojParado([] { MuestraSiExiste(VentanasOrdenes.Estadis); });
+}
+
+void Historico() {
+    ConRelojParado([] { MuestraSiExiste(VentanasOrdenes.Historic); });
+}
+
+void AbreAyuda() {
+    ConRelojParado([] { Ayuda(0); });
+}
+
+void Sale() {
+    if (Gbl.GrabadoraEncendida) {
+        Mensaje("Salir del programa",
+                "Tiene que apagar la Grabadora de movimientos antes de poder salir del programa.",
+                2, 1, 2170);
+        return;
+    }
+    Gbl.CronoAntes = Gbl.CronoEnMarcha;
+    CambiaCrono(2);
+    Mensaje("Salir de TESSARIO", "¿Desea abandonar el programa?", 1, 2);
+    if (Gbl.RespuestaMensaje)
+        TerminaPrograma();
+    else
+        CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+}
+
+void ColocaMuestra() {
+    if (EsDeslizantes())
+        Pic_Muestra.Mueve(BarraVer.Left - Pic_Muestra.Width() - MARGEN_MUESTRA,
+                          BarraHor.Top - Pic_Muestra.Height() - MARGEN_MUESTRA);
+    if (Gbl.JuegoActual == JuegoMoviles)
+        Pic_Muestra.Mueve(Pic_Botonera.Left - Pic_Muestra.Width(),
+                          BarraHor.Top - Pic_Muestra.Height() + BarraVer.Value);
+}
+
+void MuestraModelo() {
+    Pausa(PAUSA_ANTES_MUESTRA);
+    Gbl.MostrarMuestra = !Gbl.MostrarMuestra;
+    if (Gbl.MostrarMuestra) ColocaMuestra();
+    Pic_Muestra.Visible = Gbl.MostrarMuestra;
+    Pausa(PAUSA_TRAS_MUESTRA);
+}
+
+void SacaOculta(i16 posicion) {
+    const i16 piece = Gbl.OrdenPiezas[posicion];
+    if (!PiezaEnSuSitio(piece)) {
+        SubePieza(posicion);
+        PreparaPieza(piece);
+        PintaPieza(Pic_Imagen, piece);
+    }
+    const Rect caja = CajaDePieza(piece);
+    BitBlt(Pic_Trabajo, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Imagen, caja.Izq,
+           caja.Arr, SRCCOPY);
+    Pausa(PAUSA_OCULTA);
+}
+
+void MuestraOcultas() {
+    Reloj();
+    for (i16 i = 1; i <= Gbl.NumPiezas; ++i) Sigue([&] { SacaOculta(i); });
+    PunteroNormal();
+}
+
+void MuestraBienOMal() {
+    Gbl.MostrandoColocadas = !Gbl.MostrandoColocadas;
+    MostrarPiezasBienoMal();
+}
+
+void Ordena() {
+    Reloj();
+    ConRelojParado([] {
+        if (EsDeslizantes()) {
+            PunteroNormal();
+            OrdenManualDeslizantes();
+            return;
+        }
+        Gbl.OrdenandoPiezas = !Gbl.OrdenandoPiezas;
+        if (Gbl.OrdenandoPiezas) OrdenaLaterales();
+    });
+    PunteroNormal();
+}
+
+void Resuelve() {
+    // A second press only takes the flag back, and the solver, which looks at it, ends.
+    Gbl.ResolviendoPuzzle = !Gbl.ResolviendoPuzzle;
+    if (Gbl.ResolviendoPuzzle) ConRelojParado([] { ResuelvePuzzle(); });
+}
+
+// ---------------------------------------------------------------- when each is forbidden
+bool Nunca() {
+    return false;
+}
+bool ConGrabadora() {
+    return Gbl.GrabadoraEncendida;
+}
+bool ConGrabadoraOTerminado() {
+    return Gbl.GrabadoraEncendida || Gbl.PuzzleTerminado;
+}
+bool SinLugares() {
+    return ConGrabadoraOTerminado() ||
+           (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR);
+}
+bool SinMuestra() {
+    return Gbl.JuegoActual == JuegoTangram || (EsDeslizantes() && Gbl.TipoFondo != FONDO_IMAGEN);
+}
+
+const struct {
+    void (*hace)();
+    bool (*prohibida)();
+} ORDENES[12] = {
+    {Baraja, ConGrabadora},
+    {Personaliza, ConGrabadora},
+    {LlamaAlTutor, SinLugares},
+    {Estadisticas, ConGrabadora},
+    {Historico, Nunca},
+    {AbreAyuda, Nunca},
+    {Sale, Nunca},
+    {MuestraModelo, SinMuestra},
+    {MuestraOcultas, ConGrabadoraOTerminado},
+    {MuestraBienOMal, SinLugares},
+    {Ordena, ConGrabadoraOTerminado},
+    {Resuelve, SinLugares},
+};
+
+// ---------------------------------------------------------------- a press, before its command
+void TerminaOtrasOrdenes(i16 Index) {
+    if (Index != ORDEN_COLOCADAS && Gbl.MostrandoColocadas) {
+        Gbl.MostrandoColocadas = false;
+        Sigue([] { MostrarPiezasBienoMal(); });
+    }
+    if (Index != ORDEN_RESOLVER) Gbl.ResolviendoPuzzle = false;
+    if (Index != ORDEN_ORDENAR) Gbl.OrdenandoPiezas = false;
+}
+
+// Another command while the pieces are being set up by hand. True: it may go on.
+bool DejaOrdenManual(i16 Index) {
+    if (Index == ORDEN_ORDENAR || !Gbl.OrdenManual) return true;
+    if (TieneSolucion()) {
+        // Deliberate: only the arranging command itself begins the set-up board as a new puzzle.
+        Gbl.OrdenManual = false;
+        return true;
+    }
+    return Index == ORDEN_AYUDA || Index == ORDEN_MODELO;
+}
+
+}  // namespace
+
+bool OrdenProhibida(i16 Index) {
+    return ORDENES[Index - 1].prohibida();
+}
+
+void Pic_Boton_MouseMove(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, float /*Y*/) {
+    const bool prohibida = OrdenProhibida(Index);
+    const bool estaba = Gbl.BotonEstado[Index] == BOTON_PROHIBIDO;
+    if (prohibida == estaba) return;
+    PonCursor(Pic_Boton(Index), prohibida ? "Prohibido" : "ManoIndice");
+    Gbl.BotonEstado[Index] = prohibida ? BOTON_PROHIBIDO : BOTON_USABLE;
+}
+
+void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y) {
+    Pic_SelOpciones.Visible = false;
+    if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO) return;
+    Gbl.TutorEsperando = false;
+    SonidoJuego(0, SONIDO_BOTON);
+    TerminaOtrasOrdenes(Index);
+    if (!DejaOrdenManual(Index)) {
+        Pic_Boton_MouseDown(ORDEN_ORDENAR, Button, Shift, X, Y);
+        return;
+    }
+    Sigue([&] { ORDENES[Index - 1].hace(); });
+}
+
+}  // namespace tessario

@@ -1,0 +1,352 @@
+#include "table/Raton.h"
+
+#include "core/PuzzBas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "jigsaw/Atraccion.h"
+#include "jigsaw/Giro.h"
+#include "pieces/Composicion.h"
+#include "pieces/Formas.h"
+#include "pieces/Raster.h"
+#include "pieces/Superficies.h"
+#include "platform/Plataforma.h"
+#include "sliding/Movimientos.h"
+#include "table/Cronometro.h"
+#include "table/Final.h"
+#include "table/Grabadora.h"
+#include "table/Opciones.h"
+#include "table/Tutor.h"
+#include "tangram/Desolape.h"
+
+namespace tessario {
+
+namespace {
+
+// Cursor ids of the table.
+constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11, CURSOR_PROHIBIDO = 12, CURSOR_DISENO = 20,
+              CURSOR_BIEN = 21, CURSOR_MAL = 22, CURSOR_TUTOR = 24;
+const struct {
+    i16 id;
+    const char* nombre;
+} CURSORES[] = {{12, "Prohibido"}, {15, "CruzFlechas"}, {20, "ManoAbierta"}, {21, "ManoVerde"},
+                {22, "ManoRoja"},  {24, "PunTutor"},    {25, "FlechaNor"},   {26, "FlechaEst"},
+                {27, "FlechaSur"}, {28, "FlechaOes"}};
+
+constexpr i16 SONIDO_GIRO = 6, SONIDO_TOMA = 50, SONIDO_EN_SITIO = 51, SONIDO_SUELTA = 52;
+constexpr i16 PAUSA_GIRO = 160;
+constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
+constexpr i16 PARALELOGRAMO = 7;
+constexpr i16 OPCION_MODELO = 4;
+
+// ---------------------------------------------------------------- press
+bool PulsoIzquierdoManda() {
+    return !Gbl.ResolviendoPuzzle && !Gbl.OrdenandoPiezas && !Gbl.GrabadoraEncendida;
+}
+
+void AvisaTerminado() {
+    // A pointer of its own says that the mouse stands on a piece.
+    if (Pic_Trabajo.MousePointer == PUNTERO_NORMAL) return;
+    Mensaje("Puzzle resuelto",
+            "Este puzzle ya se ha resuelto. Si desea deshacerlo y volver atrás, utilice la "
+            "Grabadora de movimientos.",
+            2, 1, 2200);
+}
+
+void CogePieza() {
+    const i16 piece = Gbl.PiezaActual;
+    Gbl.XOrigen = Gbl.Piezas[piece].X;
+    Gbl.YOrigen = Gbl.Piezas[piece].Y;
+    SubePieza(PosicionEnOrden(piece));
+    CambiaCrono(1);
+    if (Gbl.JuegoActual == JuegoDeslizantes) {
+        PulsaDeslizante();
+        return;
+    }
+    TomaPieza(Gbl.XPulsado, Gbl.YPulsado, piece);
+    PonCursor(Pic_Trabajo, "ManoCerrada");
+    SonidoJuego(0, SONIDO_TOMA);
+    Gbl.CursorActual = CURSOR_NORMAL;
+}
+
+void PulsaIzquierdo() {
+    if (Gbl.PuzzleTerminado) {
+        AvisaTerminado();
+        return;
+    }
+    const bool deslizantes = Gbl.JuegoActual == JuegoDeslizantes;
+    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    if (deslizantes && Gbl.PiezaActual == 0 && Gbl.OrdenManual) {
+        Pulsa(Pic_Boton(BOTON_ORDENAR));
+        return;
+    }
+    if (Gbl.PiezaActual == 0) return;
+    if (deslizantes && Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
+    if (Gbl.CursorDeseado == CURSOR_TUTOR) {
+        TutorIndicando();
+        return;
+    }
+    CogePieza();
+}
+
+// The right button on a piece: it turns step by step until the button is released.
+void GiraMientrasPulsado() {
+    if ((Gbl.BotonPulsado != BOTON_DERECHO || Gbl.GrabadoraEncendida) && !Gbl.ResolviendoPuzzle)
+        return;
+    if (Gbl.PiezaActual == 0 || Gbl.JuegoActual == JuegoDeslizantes) return;
+    const i16 piece = Gbl.PiezaActual;
+    const Pieza antes = Gbl.Piezas[piece];
+    Gbl.GirandoPieza = true;
+    Gbl.XOrigen = antes.X;
+    Gbl.YOrigen = antes.Y;
+    while (Gbl.GirandoPieza && Gbl.PiezaActual != 0) {
+        GiraPieza();
+        SonidoJuego(0, SONIDO_GIRO);
+        Pausa(PAUSA_GIRO);
+        if (Gbl.ResolviendoPuzzle) Gbl.GirandoPieza = false;
+        DejaPasarEventos();
+        // A release that went astray, to another window for example, brings no Click.
+        if (!Sistema().BotonesApretados()) Gbl.GirandoPieza = false;
+    }
+    const Pieza& p = Gbl.Piezas[piece];
+    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+}
+
+// ---------------------------------------------------------------- move
+bool HayArrastre() {
+    return Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle && !Gbl.OrdenandoPiezas &&
+           !Gbl.SoltandoPieza && Gbl.JuegoActual != JuegoDeslizantes;
+}
+
+void Retrocede(BarraDesplazamiento& barra) {
+    barra.Pon(barra.Value - std::min(barra.SmallChange, barra.Value));
+}
+void Avanza(BarraDesplazamiento& barra) {
+    barra.Pon(barra.Value + std::min(barra.SmallChange, barra.Max - barra.Value));
+}
+
+// A piece held at the edge of the view moves the view.
+void DesplazaEnElBorde(i32 x, i32 y) {
+    if (Gbl.JuegoActual != JuegoMoviles || !BarraVer.Visible) return;
+    const i32 valorV = BarraVer.Value;
+    const i32 valorH = BarraHor.Value;
+    if (y == valorV && y > 0)
+        Retrocede(BarraVer);
+    else if (y > Gbl.AltoPantalla - BarraHor.Height() + valorV && y < Pic_Trabajo.Height())
+        Avanza(BarraVer);
+    else if (x == valorH && x > 0)
+        Retrocede(BarraHor);
+    else if (x > Gbl.AnchoPantalla - BarraVer.Width() + valorH && x < Pic_Trabajo.Width())
+        Avanza(BarraHor);
+}
+
+bool HoverParado() {
+    return Gbl.ArrastrandoPieza || Gbl.GirandoPieza || Gbl.Barajando || Gbl.OrdenandoPiezas ||
+           Gbl.MostrandoColocadas || Gbl.SoltandoPieza || Gbl.GrabadoraEncendida;
+}
+
+// What the pointer finds on a piece of games 21 and 23.
+void CursorDePieza(i16 piece) {
+    Gbl.PiezaActual = piece;
+    Gbl.CursorDeseado = PiezaEnSuSitio(piece) ? CURSOR_BIEN : CURSOR_MAL;
+    if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR)
+        Gbl.CursorDeseado = CURSOR_DISENO;
+}
+
+// Is the piece under the point? True ends the walk down the stack.
+bool PruebaPieza(i16 piece, i32 x, i32 y) {
+    const Rect caja = CajaDePieza(piece);
+    if (!caja.Contiene(x, y)) return false;
+    if (Gbl.JuegoActual == JuegoDeslizantes) {
+        Gbl.PiezaActual = piece;
+        return CursorDeslizante(piece);
+    }
+    // Only now its shape, which costs a rebuilding: a box without black under the pointer is a gap.
+    PreparaPieza(piece);
+    if (Pic_PiezaMascara.Point(x - caja.Izq, y - caja.Arr) != 0) return false;
+    CursorDePieza(piece);
+    return true;
+}
+
+void BuscaPieza(i32 x, i32 y) {
+    Gbl.CursorDeseado = CURSOR_NORMAL;
+    Gbl.PiezaActual = 0;
+    bool hallada = false;
+    for (i32 i = 1; i <= Gbl.NumPiezas && !hallada; ++i)
+        Sigue([&] { hallada = PruebaPieza(Gbl.OrdenPiezas[i], x, y); });
+    if (Gbl.TutorEsperando)
+        Gbl.CursorDeseado = Gbl.CursorDeseado == CURSOR_MAL ? CURSOR_TUTOR : CURSOR_NORMAL;
+    if (Gbl.TareaAutomatica) Gbl.CursorDeseado = CURSOR_RELOJ;
+    if (Gbl.CursorDeseado != Gbl.CursorActual) AplicaCursor(Gbl.CursorDeseado);
+}
+
+// ---------------------------------------------------------------- release
+// Keeps the centre of a dropped piece where the player can take it again: in the view, and clear
+// of the strip and the hint panel.
+void MantieneALaVista(i16 piece) {
+    BorraPieza(piece);
+    Pieza& p = Gbl.Piezas[piece];
+    const double w = AnchoDePieza(piece, p.Giro, p.Volteo);
+    const double h = AltoDePieza(piece, p.Giro, p.Volteo);
+    const i32 valorV = BarraVer.Value;
+    const i32 valorH = BarraHor.Value;
+    i32 limiteY = BarraHor.Top;
+    i32 limiteX = BarraVer.Left;
+    if (Pic_Botonera.Height() + valorV > p.Y + h / 2) limiteX = Pic_Botonera.Left;
+    // Deliberate: the panel's Top holds the scroll already, and it is added once more below.
+    if (Pic_Sugerencia.Width() + valorH > p.X && Gbl.VentanaInformacion)
+        limiteY = Pic_Sugerencia.Top;
+    const Pieza antes = p;
+    const double sx = Gbl.SalienteX;
+    const double sy = Gbl.SalienteY;
+    if (p.Y - sy + h / 2 < valorV) p.Y = Entero(valorV + sy - h / 2);
+    if (p.Y + h / 2 - sy > limiteY + valorV) p.Y = Entero(limiteY + valorV - h / 2 + sy);
+    if (p.X - sx + w / 2 < valorH) p.X = Entero(valorH + sx - w / 2);
+    if (p.X + w / 2 - sx > limiteX + valorH) p.X = Entero(limiteX + valorH - w / 2 + sx);
+    if (!(p == antes)) Pic_Trabajo_Paint();
+}
+
+void AsientaPieza(i16 piece) {
+    const Pieza& p = Gbl.Piezas[piece];
+    const bool movido = p.X != Gbl.XOrigen || p.Y != Gbl.YOrigen;
+    const bool enSitio = PiezaEnSuSitio(piece);
+    if (movido) SonidoJuego(1, enSitio ? SONIDO_EN_SITIO : SONIDO_SUELTA);
+    if (!enSitio) MantieneALaVista(piece);
+}
+
+void RegistraSuelta(i16 piece) {
+    // Deliberate: the angle before is the piece's angle now. A drag does not turn a piece, and one
+    // that its place turned is logged with its new angle on both sides.
+    const Pieza& p = Gbl.Piezas[piece];
+    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, p.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+}
+
+void SueltaPieza() {
+    Gbl.SoltandoPieza = true;
+    const i16 piece = Gbl.OrdenPiezas[1];
+    if (Gbl.JuegoActual == JuegoTangram) {
+        Sigue([] { TDesolapaPieza(); });
+        if (Gbl.AtraccionPiezas && Gbl.TEmpujes == 0) Sigue([] { PegaDosPiezas(); });
+    }
+    const bool conSitio = Gbl.JuegoActual == JuegoMoviles ||
+                          (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER);
+    if (conSitio) Sigue([] { AtraeASuSitio(); });
+    if (Gbl.JuegoActual != JuegoDeslizantes) Sigue([&] { AsientaPieza(piece); });
+    Sigue([&] { RegistraSuelta(piece); });
+    Sigue([&] { PreparaPieza(piece); });
+    Sigue([&] { PintaPieza(Pic_Imagen, piece); });
+    Sigue([&] { PintaPieza(Pic_Trabajo, piece); });
+    Sigue([] { MuestraColocadas(); });
+    if (Gbl.PiezasColocadas == Gbl.NumPiezas && !Gbl.OrdenManual) Sigue([] { FinDeJuego(); });
+}
+
+// ---------------------------------------------------------------- keys
+// The eighths of a turn that mean another outline on the other face change with it.
+constexpr i16 GIRO_AL_VOLTEAR[8] = {0, 3, 2, 1, 4, 3, 6, 1};
+
+// The parallelogram is turned over where it lies.
+void VolteaParalelogramo() {
+    Pieza& p = Gbl.Piezas[PARALELOGRAMO];
+    Pieza antes = p;
+    const bool enMano = Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle;
+    if (enMano && Gbl.PiezaActual == PARALELOGRAMO) {
+        // It was lifted from there: the log goes from rest to here, and the drop goes on from here.
+        antes.X = Gbl.XOrigen;
+        antes.Y = Gbl.YOrigen;
+    }
+    SubePieza(PosicionEnOrden(PARALELOGRAMO));  // the log takes the piece on top
+    BorraPieza(PARALELOGRAMO);
+    p.Volteo = static_cast<i16>(1 - std::abs(p.Volteo));
+    if (p.Giro >= 0 && p.Giro <= 7) p.Giro = GIRO_AL_VOLTEAR[p.Giro];
+    PreparaPieza(PARALELOGRAMO);
+    PintaPieza(Pic_Imagen, PARALELOGRAMO);
+    Pic_Trabajo_Paint();
+    // Deliberate: this pushes the piece under the pointer, which need not be the parallelogram.
+    Sigue([] { TDesolapaPieza(); });
+    SonidoJuego(0, PiezaEnSuSitio(PARALELOGRAMO) ? SONIDO_EN_SITIO : SONIDO_SUELTA);
+    MuestraColocadas();
+    RegistraMovimiento(antes.X, antes.Y, antes.Giro, antes.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    if (!enMano) return;
+    // The piece in hand was laid on the table by all this: it is lifted again.
+    if (Gbl.PiezaActual == PARALELOGRAMO) {
+        Gbl.XOrigen = p.X;
+        Gbl.YOrigen = p.Y;
+    }
+    SubePieza(PosicionEnOrden(Gbl.PiezaActual));
+    TomaPieza(Gbl.XRaton, Gbl.YRaton, Gbl.PiezaActual);
+}
+
+}  // namespace
+
+void AplicaCursor(i16 id) {
+    Gbl.CursorActual = id;
+    for (const auto& c : CURSORES)
+        if (c.id == id) {
+            PonCursor(Pic_Trabajo, c.nombre);
+            return;
+        }
+    PonPuntero(Pic_Trabajo, id);
+}
+
+void Pic_Trabajo_MouseDown(i16 Button, i16 /*Shift*/, float X, float Y) {
+    Gbl.XPulsado = Entero(X);
+    Gbl.YPulsado = Entero(Y);
+    Gbl.BotonPulsado = Button;
+    Pic_SelOpciones.Visible = false;
+    Gbl.TutorEsperando = false;
+    if (Button == BOTON_IZQUIERDO && PulsoIzquierdoManda())
+        PulsaIzquierdo();
+    else if (Gbl.PermitirGiro)
+        GiraMientrasPulsado();
+}
+
+void Pic_Trabajo_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
+    if (Pic_SelOpciones.Visible && Gbl.OpcionResaltada != 0) {
+        Gbl.OpcionResaltada = 0;
+        Sigue([] { MuestraOpcionesSelec(); });
+    }
+    const i32 x = EnteroLargo(X);
+    const i32 y = EnteroLargo(Y);
+    if (HayArrastre()) {
+        Sigue([&] { MuevePieza(Corto(x), Corto(y), Gbl.PiezaActual); });
+        Sigue([&] { DesplazaEnElBorde(x, y); });
+    }
+    if (!HoverParado()) BuscaPieza(x, y);
+}
+
+void Pic_Trabajo_MouseUp(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
+    if (Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle) Sigue([] { SueltaPieza(); });
+    Gbl.ArrastrandoPieza = false;
+    Gbl.SoltandoPieza = false;
+    Pic_Trabajo_MouseMove(0, 0, X, Y);
+}
+
+void Pic_Trabajo_Click() {
+    const bool derecho =
+        Gbl.BotonPulsado == BOTON_DERECHO && !Gbl.GrabadoraEncendida && !Gbl.GirandoPieza;
+    if ((derecho || Gbl.ResolviendoPuzzle) && Gbl.PiezaActual == 0) {
+        for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
+        if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR)
+            Gbl.OpcionesActivas[OPCION_MODELO] = true;
+        Sigue([] { MuestraOpcionesSelec(); });
+    }
+    Gbl.GirandoPieza = false;
+}
+
+void Pic_Trabajo_KeyPress(i16 KeyAscii) {
+    switch (KeyAscii) {
+        case 27:  // Esc
+        case 'Q':
+        case 'q':
+            Sistema().Minimiza(Mesa);
+            break;
+        case 'V':
+        case 'v':
+            // With the recorder on, the table is only looked at.
+            if (Gbl.JuegoActual == JuegoTangram && !Gbl.GrabadoraEncendida) VolteaParalelogramo();
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace tessario
