@@ -1,0 +1,51 @@
+#!/usr/bin/python3
+"""Makes BmpBoton.png, BmpVario.png, Careta.png and the icon from their SVG sources.
+
+Each command is a tile: the blank tile baldosa.svg with the sign of the command over it.
+"""
+import re
+
+from PIL import Image
+
+import svg
+
+PASO = 49
+TERRACOTA = (192, 96, 64)
+FILAS = [
+    ["barajar", "personalizar", "tutor", "estadisticas", "historico", "ayuda", "salir", "modelo",
+     "ocultas", "colocadas", "ordenar", "resolver"],
+    ["si", "no", "cargar", "guardar", "borrar", None, "ayuda", "salir"],
+]
+
+
+def Interior(texto):
+    """What stands between the outer tags of an SVG."""
+    return re.search(r"<svg[^>]*>(.*)</svg>", texto, re.S).group(1)
+
+
+def Baldosa(nombre):
+    texto = svg.Lee("botones/baldosa.svg")
+    if nombre:
+        texto = texto.replace("</svg>", Interior(svg.Lee("botones/%s.svg" % nombre)) + "</svg>")
+    return svg.Rinde(texto, 48, 48)
+
+
+def Botones():
+    hoja = Image.new("RGB", (12 * PASO - 1, 2 * PASO - 1), TERRACOTA)
+    for y, fila in enumerate(FILAS):
+        for x, nombre in enumerate(fila):
+            if nombre:
+                hoja.paste(Baldosa(nombre).convert("RGB"), (x * PASO, y * PASO))
+    return hoja
+
+
+def main():
+    svg.Guarda(Botones(), "imagenes/BmpBoton.png")
+    svg.Guarda(svg.Rinde(svg.Lee("vario.svg"), 342, 78).convert("RGB"), "imagenes/BmpVario.png")
+    svg.Guarda(svg.Rinde(svg.Lee("careta.svg"), 480, 300, 4).convert("RGB"), "imagenes/Careta.png")
+    svg.Guarda(svg.Rinde((svg.RECURSOS / "icono.svg").read_text(encoding="utf-8"), 128, 128),
+               "imagenes/icono.png")
+
+
+if __name__ == "__main__":
+    main()
