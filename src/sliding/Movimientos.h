@@ -6,13 +6,22 @@
 
 namespace tessario {
 
-// Hover of game 22 for a piece whose box holds the pointer: sets CursorDeseado. True ends the walk.
+// Hover of game 22 for a piece whose box holds the pointer: PiezaActual and CursorDeseado. True
+// ends the walk.
 bool CursorDeslizante(i16 piece);
-// The press on PiezaActual: the complete move into the hole.
+// The press on PiezaActual: the complete move into the hole. The release closes and logs it.
 void PulsaDeslizante();
 // Shuffle by real moves, without its frame (busy cursor and so on, BarajaPiezas).
 void BarajaConMovimientos();
-// Command 11 in game 22: enters or leaves the manual ordering, with its questions.
+// Command 11 in game 22: enters or leaves the manual ordering, with its questions. The caller
+// pauses the clock around it.
 void OrdenManualDeslizantes();
+
+// One move: the piece goes to the top of the stack and slides into the hole with its sound, for
+// whose end it waits or not. XOrigen, YOrigen are where it was; ArrastrandoPieza is left true and
+// the hole not yet exchanged, since what comes between is the caller's.
+void JuegaPieza(i16 piece, bool espera);
+// The hole takes XOrigen, YOrigen: the end of a move.
+void HuecoAlOrigen();
 
 }  // namespace tessario

@@ -1,0 +1,148 @@
+#include "sliding/Movimientos.h"
+
+#include "core/PuzzBas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "pieces/Composicion.h"
+#include "pieces/Superficies.h"
+#include "platform/Plataforma.h"
+#include "records/Dificultad.h"
+#include "sliding/Tablero.h"
+#include "table/Cronometro.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i16 SONIDO_DESLIZA = 53;
+constexpr i16 ESPERA = 0, SIN_ESPERA = 1;   // modes of SonidoJuego
+constexpr i16 CRONO_EN_MARCHA = 1;
+
+// Cursor ids by LadoHueco, and the one of the manual ordering.
+constexpr i16 CURSOR_PROHIBIDO = 12, CURSOR_CRUZ = 15;
+constexpr i16 CURSORES_LADO[] = {CURSOR_PROHIBIDO, 25, 26, 27, 28};
+
+constexpr i32 JUGADAS_POR_PIEZA = 4;   // of the animated shuffle before its first test
+constexpr i16 PAUSA_JUGADA = 15;       // ms at speed 50
+
+// A question of the manual ordering: six lines, two buttons.
+struct Pregunta {
+    const char* titulo;
+    const char* texto;
+    i16 ayuda;
+};
+constexpr i16 LINEAS_PREGUNTA = 6, DOS_BOTONES = 2;
+
+constexpr Pregunta PREGUNTA_ENTRAR = {
+    "Ordenar las piezas manualmente",
+    "Si pulsa este botón  para  colocar manualmente  las  piezas, cuando finalize  ese  proceso "
+    "comenzará  la  resolución  del puzzle  con  las  piezas  en  la  posición  que  Usted  "
+    "prefiera. Pulse el botón Aceptar para colocar las piezas como desee y  comenzar  un  nuevo  "
+    "puzzle.  Si  pulsa  el  botón  Cancelar podrá continuar resolviendo el puzzle actual.",
+    2184};
+
+constexpr Pregunta PREGUNTA_INSOLUBLE = {
+    "Configuración sin solución",
+    "Este puzzle no tiene solución con la configuración de piezas actual.  Pulse el botón Aceptar "
+    "para que el programa baraje automáticamente  las  piezas  y  obtenga  una  configuración "
+    "soluble.  Si pulsa el botón Cancelar podrá seguir ordenando las piezas hasta obtener  una  "
+    "configuración  que  permita su solución.",
+    3020};
+
+void Haz(const Pregunta& p) {
+    Mensaje(p.titulo, p.texto, LINEAS_PREGUNTA, DOS_BOTONES, p.ayuda);
+}
+
+// A neighbour of the hole other than the piece that moved last; 0 when there is none, which only a
+// damaged board can give.
+i16 SorteaVecino(i16 previa) {
+    BuscaVecinos();
+    const bool solaLaPrevia = Gbl.NumVecinos == 1 && Gbl.VecinosHueco[1] == previa;
+    if (Gbl.NumVecinos == 0 || solaLaPrevia) return 0;
+    i16 piece = previa;
+    while (piece == previa) piece = Gbl.VecinosHueco[Entero(Int(Gbl.NumVecinos * Rnd()) + 1)];
+    return piece;
+}
+
+// The two ways out of the manual ordering that command 11 knows.
+void SaleDeOrdenManual() {
+    if (TieneSolucion()) {
+        CalculaDificultad();
+        ReiniciaPartida();
+        return;
+    }
+    Haz(PREGUNTA_INSOLUBLE);
+    if (!Gbl.RespuestaMensaje) return;
+    Sistema().Presenta();
+    BarajaDeslizantes();
+    ColocaPiezas(0);
+}
+
+}  // namespace
+
+void JuegaPieza(i16 piece, bool espera) {
+    Gbl.XOrigen = Gbl.Piezas[piece].X;
+    Gbl.YOrigen = Gbl.Piezas[piece].Y;
+    SubePieza(PosicionEnOrden(piece));
+    DeslizaPieza(Gbl.XOrigen, Gbl.YOrigen, Gbl.HuecoX, Gbl.HuecoY, piece);
+    SonidoJuego(espera ? ESPERA : SIN_ESPERA, SONIDO_DESLIZA);
+}
+
+void HuecoAlOrigen() {
+    Gbl.HuecoX = Gbl.XOrigen;
+    Gbl.HuecoY = Gbl.YOrigen;
+}
+
+bool CursorDeslizante(i16 piece) {
+    Gbl.PiezaActual = piece;
+    if (Gbl.OrdenManual) {
+        Gbl.CursorDeseado = CURSOR_CRUZ;
+        return false;
+    }
+    LadoDelHueco(piece);
+    Gbl.CursorDeseado = CURSORES_LADO[Gbl.LadoHueco];
+    return true;
+}
+
+void PulsaDeslizante() {
+    if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
+    CambiaCrono(CRONO_EN_MARCHA);
+    JuegaPieza(Gbl.PiezaActual, true);
+    HuecoAlOrigen();
+}
+
+void BarajaConMovimientos() {
+    // Real moves keep a position solvable or not as it was, so the loop below would never leave a
+    // board that was not. Only a damaged record brings one here.
+    if (!TableroEntero() || !TieneSolucion()) {
+        BarajaDeslizantes();
+        ColocaPiezas(0);
+    }
+    i16 previa = 0;
+    for (i32 cuenta = 1;; ++cuenta) {
+        const i16 piece = SorteaVecino(previa);
+        if (piece == 0) break;
+        JuegaPieza(piece, false);
+        Pausa(PAUSA_JUGADA);
+        Gbl.ArrastrandoPieza = false;
+        HuecoAlOrigen();
+        previa = piece;
+        if (cuenta >= Gbl.NumPiezas * JUGADAS_POR_PIEZA && TieneSolucion()) break;
+        DejaPasarEventos();
+        // Events may have ended this game: another one's pieces are not to be shuffled so.
+        if (Gbl.JuegoActual != JuegoDeslizantes) return;
+    }
+    CalculaDificultad();
+}
+
+void OrdenManualDeslizantes() {
+    Gbl.RespuestaMensaje = true;
+    PonPuntero(Mesa, PUNTERO_NORMAL);
+    if (Gbl.OrdenManual)
+        SaleDeOrdenManual();
+    else
+        Haz(PREGUNTA_ENTRAR);
+    if (Gbl.RespuestaMensaje) Gbl.OrdenManual = !Gbl.OrdenManual;
+}
+
+}  // namespace tessario

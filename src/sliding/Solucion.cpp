@@ -1,0 +1,102 @@
+#include "sliding/Solucion.h"
+
+#include "core/PuzzBas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "sliding/Busqueda.h"
+#include "sliding/Movimientos.h"
+#include "sliding/Tablero.h"
+#include "table/Cronometro.h"
+#include "table/Grabadora.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i32 RUTA_INICIAL = 100, CRECE_RUTA = 50;   // upper bounds of RutaSolucion
+
+// The first piece that is not in its place; NumPiezas + 1 when all are.
+i32 PrimeraSuelta() {
+    i32 i = 1;
+    while (i <= Gbl.NumPiezas && PiezaEnSuSitio(static_cast<i16>(i))) ++i;
+    return i;
+}
+
+// What the search has to do with: a board of the sliding game, whole.
+bool HayTablero() {
+    return Gbl.JuegoActual == JuegoDeslizantes && Gbl.PiezasPorLado >= LADO_MINIMO &&
+           Gbl.PiezasPorLado <= LADO_MAXIMO && TableroEntero();
+}
+
+CeldasDePiezas CeldasDeLaMesa() {
+    CeldasDePiezas celdas{};
+    celdas[0] = static_cast<u8>(CeldaDePosicion(Gbl.HuecoX, Gbl.HuecoY) - 1);
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
+        celdas[static_cast<std::size_t>(i)] =
+            static_cast<u8>(CeldaDePosicion(Gbl.Piezas[i].X, Gbl.Piezas[i].Y) - 1);
+    return celdas;
+}
+
+void GuardaRuta(const std::vector<u8>& ruta) {
+    Gbl.RutaSolucion.Redimensiona(RUTA_INICIAL);
+    for (const u8 piece : ruta) {
+        if (Gbl.LongitudRuta == Gbl.RutaSolucion.Superior())
+            Gbl.RutaSolucion.Amplia(Gbl.RutaSolucion.Superior() + CRECE_RUTA);
+        Gbl.RutaSolucion[++Gbl.LongitudRuta] = piece;
+    }
+}
+
+// One move of the solution. False when the piece cannot make it: the events that run between the
+// moves may have changed the table.
+bool JuegaDeLaRuta(i16 piece) {
+    if (Gbl.JuegoActual != JuegoDeslizantes || piece > Gbl.NumPiezas) return false;
+    LadoDelHueco(piece);
+    if (Gbl.LadoHueco == 0) return false;
+    Gbl.PiezaActual = piece;
+    JuegaPieza(piece, true);
+    const Pieza& p = Gbl.Piezas[piece];
+    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, 0, 0, p.X, p.Y, 0, 0);
+    Gbl.ArrastrandoPieza = false;
+    HuecoAlOrigen();
+    MuestraColocadas();
+    DejaPasarEventos();
+    return true;
+}
+
+// One stage, searched and played out to its end whatever the player presses meanwhile.
+bool JuegaEtapa() {
+    if (!BuscaSolucion()) return false;
+    for (i32 i = Gbl.LongitudRuta; i >= 1; --i)
+        if (!JuegaDeLaRuta(Gbl.RutaSolucion[i])) return false;
+    return true;
+}
+
+}  // namespace
+
+bool BuscaSolucion() {
+    Gbl.LongitudRuta = 0;
+    if (!HayTablero()) return false;
+    const i32 meta = PrimeraSuelta();
+    if (meta > Gbl.NumPiezas) return false;
+    const CeldasDePiezas inicio = CeldasDeLaMesa();
+    Busqueda busqueda(Gbl.PiezasPorLado, inicio, [] { DejaPasarEventos(); });
+    if (!busqueda.Busca(meta)) return false;
+    // Moves for a table that events have changed under the search are worth nothing.
+    if (!HayTablero() || CeldasDeLaMesa() != inicio) return false;
+    GuardaRuta(busqueda.Ruta());
+    return true;
+}
+
+void ResuelveDeslizantes() {
+    Gbl.TareaAutomatica = true;
+    while (JuegaEtapa() && Gbl.PiezasColocadas < Gbl.NumPiezas && Gbl.ResolviendoPuzzle) {
+    }
+    Gbl.PuzzleArchivable = false;
+    Gbl.ArrastrandoPieza = false;
+    Gbl.SoltandoPieza = false;
+    if (Gbl.PiezasColocadas == Gbl.NumPiezas) EntraEnCompleto();
+    Gbl.ResolviendoPuzzle = false;
+    Gbl.TareaAutomatica = false;
+}
+
+}  // namespace tessario
