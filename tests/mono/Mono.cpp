@@ -1,0 +1,339 @@
+// The monkey: throws random presses, moves, releases, keys and timer ticks at the whole table, on
+// the test platform with its virtual clock, and after each event checks what must always hold.
+//
+//   tessario_mono [events for each game] [seed] [game 21, 22, 23 or 0 for all]
+//
+// The seed is printed; a run with the same seed and game does the same.
+//
+// The table's picture must equal one laid afresh from the piece table whenever nothing is in hand.
+// The exceptions, each wanted, are the names in `Excepcion` below.
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <stdexcept>
+#include <string>
+
+#include "apoyo/PlataformaPrueba.h"
+#include "core/Arranque.h"
+#include "core/Configuracion.h"
+#include "core/Despacho.h"
+#include "core/PuzzBas.h"
+#include "core/Ventanas.h"
+#include "pieces/Composicion.h"
+#include "pieces/Formas.h"
+#include "pieces/Superficies.h"
+#include "sliding/Tablero.h"
+
+namespace tessario {
+namespace {
+
+class Queja : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+void Exige(bool condicion, const char* texto) {
+    if (!condicion) throw Queja(texto);
+}
+
+// Why the picture may differ from one laid afresh.
+enum Excepcion : unsigned {
+    Terminado = 1,         // the finished look covers the joints
+    DosColores = 2,        // right and wrong pieces are shown in colours
+    PiezaDelTutor = 4,     // the tutor's piece comes back above its neighbours
+    PiezaVolteada = 8,     // "V" draws the parallelogram above without raising it
+    GiroReproducido = 16,  // the recorder redraws a turned piece above without raising it
+};
+
+class Mono {
+public:
+    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla), puntero_(Mesa) {}
+
+    void Corre(long eventos) {
+        Arranca();
+        for (numero_ = 1; numero_ <= eventos; ++numero_) {
+            Evento();
+            if (p_->terminado) Arranca();
+            Comprueba();
+        }
+    }
+    long Numero() const { return numero_; }
+    const std::string& Ultimo() const { return ultimo_; }
+
+private:
+    i32 Hasta(i32 n) { return static_cast<i32>(azar_() % static_cast<unsigned>(n)); }
+    bool Una(i32 deCada) { return Hasta(deCada) == 0; }
+
+    // A program started anew in a folder that keeps what the last one saved.
+    void Arranca() {
+        std::string guardado, fichero;
+        if (p_) {
+            fichero = FicheroDelJuego();
+            std::ifstream f(fichero, std::ios::binary);
+            guardado.assign(std::istreambuf_iterator<char>(f), {});
+            PonSistema(nullptr);
+        }
+        const std::string nombre =
+            fichero.empty() ? "" : std::filesystem::path(fichero).filename().string();
+        p_ = std::make_unique<PlataformaPrueba>();
+        PonSistema(p_.get());
+        Gbl = Bloque{};
+        ReiniciaSuperficies();
+        ReiniciaVentanas();
+        if (!nombre.empty() && Una(2))
+            std::ofstream(p_->carpeta + nombre, std::ios::binary) << guardado;
+        Prepara();
+        apretado_ = false;
+        excepciones_ = 0;
+        Exige(Main(), "the start was refused");
+        p_->ventanas["Mensajes"] = [this](Ventana&) { Gbl.RespuestaMensaje = !Una(3); };
+        p_->alDejarPasar = [this] {
+            if (anidado_ >= 2 || !Una(6)) return;
+            ++anidado_;
+            Evento();
+            --anidado_;
+        };
+        Varia();
+    }
+
+    void Prepara() {
+        namespace fs = std::filesystem;
+        fs::create_directories(p_->carpeta + "Imagenes");
+        fs::create_directories(p_->carpeta + "Archivo");
+        const std::string ruta = p_->carpeta + "Imagenes/a.jpg";
+        std::ofstream(ruta) << "x";
+        // The larger one scrolls on this screen.
+        Mapa m = Una(2) ? Mapa(480, 360) : Mapa(640, 480);
+        for (i32 y = 0; y < m.Alto; ++y)
+            for (i32 x = 0; x < m.Ancho; ++x)
+                m.Fila(y)[x] = static_cast<Pixel>((x * 255 / m.Ancho) << 16 |
+                                                  (y * 255 / m.Alto) << 8 | ((x ^ y) & 0xFF));
+        p_->imagenes[ruta] = std::move(m);
+        std::ofstream(p_->carpeta + "TsR33.ini", std::ios::binary)
+            << '"' << juego_ << "-1"
+            << "100"
+            << "-1" << std::string(116, ' ') << "\"\r\n";
+    }
+
+    // Now and then another cut, size or background.
+    void Varia() {
+        if (!Una(2)) return;
+        if (juego_ == JuegoMoviles) {
+            Gbl.FormaPiezas = static_cast<i16>(Hasta(8));
+            Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas);
+            Gbl.PiezasPorLado = static_cast<i16>(3 + Hasta(3));
+            Gbl.DibujarBorde = Una(2);
+        } else if (juego_ == JuegoDeslizantes) {
+            Gbl.PiezasPorLado = static_cast<i16>(3 + Hasta(2));
+            Gbl.TipoFondo = static_cast<i16>(2 + Hasta(2));
+            Gbl.DibujarBorde = Una(2);
+        } else {
+            Gbl.DibujarBorde = Una(2);
+            Gbl.AtraccionPiezas = Una(2);
+        }
+        PreparaJuego(true);
+        if (juego_ == JuegoDeslizantes) ColocaPiezas(1);
+    }
+
+    // A point: mostly near a piece, sometimes on the strip, sometimes anywhere.
+    Punto Lugar() {
+        const i32 suerte = Hasta(10);
+        if (suerte < 6 && Gbl.Piezas.Superior() >= 1) {
+            const Rect c = CajaDePieza(static_cast<i16>(1 + Hasta(Gbl.NumPiezas)));
+            return {c.Izq + Hasta(std::max(1, c.Ancho())) - BarraHor.Value,
+                    c.Arr + Hasta(std::max(1, c.Alto())) - BarraVer.Value};
+        }
+        if (suerte < 8) return {Pic_Botonera.Left + Hasta(141), Hasta(463)};
+        return {Hasta(p_->ancho), Hasta(p_->alto)};
+    }
+
+    void Evento() {
+        static constexpr i16 TECLAS[] = {'v', 'V', 27, 'q', 'x', 13, ' '};
+        switch (Hasta(12)) {
+            case 0:
+            case 1:
+            case 2:
+            case 3:
+                Mueve(Lugar());
+                break;
+            case 4:
+            case 5:
+            case 6:
+                Aprieta(BOTON_IZQUIERDO);
+                break;
+            case 7:
+                Aprieta(BOTON_DERECHO);
+                break;
+            case 8:
+            case 9:
+            case 10:
+                Suelta();
+                break;
+            default:
+                if (Una(2)) {
+                    ultimo_ = "tick";
+                    if (Timer1.Timer) Timer1.Timer();
+                    p_->reloj += 1000;
+                } else {
+                    ultimo_ = "key";
+                    const i16 tecla = TECLAS[Hasta(7)];
+                    if (juego_ == JuegoTangram && (tecla == 'v' || tecla == 'V'))
+                        excepciones_ |= PiezaVolteada;
+                    if (Mesa.KeyPress) Mesa.KeyPress(tecla);
+                }
+        }
+        if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
+        for (const auto& s : p_->sonidos)
+            if (s.first == 55) excepciones_ |= PiezaDelTutor;
+        p_->sonidos.clear();
+        p_->avisos.clear();
+        p_->mostradas.clear();
+        p_->ayudas.clear();
+    }
+
+    void Mueve(Punto p) {
+        ultimo_ = "move " + std::to_string(p.x) + "," + std::to_string(p.y);
+        puntero_.Mueve(p.x, p.y);
+    }
+
+    void Aprieta(i16 boton) {
+        if (apretado_) return;
+        if (!Una(4)) Mueve(Lugar());
+        ultimo_ += boton == BOTON_DERECHO ? " right press" : " left press";
+        apretado_ = p_->botones = true;
+        puntero_.Aprieta(boton);
+    }
+
+    void Suelta() {
+        if (!apretado_) return;
+        ultimo_ += " release";
+        apretado_ = p_->botones = false;
+        puntero_.Suelta();
+    }
+
+    void Comprueba() {
+        CompruebaOrden();
+        CompruebaGrabadora();
+        CompruebaBanderas();
+        if (Gbl.JuegoActual == JuegoDeslizantes && !Gbl.ArrastrandoPieza) CompruebaCeldas();
+        Exige(Gbl.JuegoActual == juego_, "the game is the one that was started");
+        if (!Gbl.ArrastrandoPieza) CompruebaImagen();
+    }
+
+    static void CompruebaOrden() {
+        Exige(Gbl.Piezas.Superior() == Gbl.NumPiezas, "as many pieces as counted");
+        Exige(Gbl.OrdenPiezas.Superior() == Gbl.NumPiezas, "as many entries in the order");
+        std::vector<bool> visto(static_cast<std::size_t>(Gbl.NumPiezas) + 1);
+        for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
+            const i16 p = Gbl.OrdenPiezas[i];
+            Exige(p >= 1 && p <= Gbl.NumPiezas, "the order names pieces");
+            Exige(!visto[static_cast<std::size_t>(p)], "the order is a permutation");
+            visto[static_cast<std::size_t>(p)] = true;
+        }
+        Exige(Gbl.PiezaActual >= 0 && Gbl.PiezaActual <= Gbl.NumPiezas, "the piece in hand exists");
+    }
+
+    static void CompruebaGrabadora() {
+        Exige(Gbl.NumMovimientos >= 0 && Gbl.NumMovimientos <= Gbl.Movimientos.Superior(),
+              "the log's index is in range");
+        if (Gbl.GrabadoraEncendida)
+            Exige(Gbl.NumMovimientos <= Gbl.FinMovimientos &&
+                      Gbl.FinMovimientos <= Gbl.Movimientos.Superior(),
+                  "the recorder's end is in range");
+        for (i32 i = 1; i <= Gbl.NumMovimientos; ++i)
+            Exige(Gbl.Movimientos[i].Pieza >= 1 && Gbl.Movimientos[i].Pieza <= Gbl.NumPiezas,
+                  "the log names pieces");
+    }
+
+    void CompruebaBanderas() const {
+        Exige(!Gbl.ArrastrandoPieza || apretado_, "no piece in hand without a press");
+        Exige(!Gbl.SoltandoPieza, "no drop under way between events");
+        Exige(!Gbl.GirandoPieza || apretado_, "no turning without a press");
+        Exige(!Gbl.Barajando, "no shuffle under way between events");
+        Exige(!Gbl.ResolviendoPuzzle, "no solving under way between events");
+        Exige(!Gbl.OrdenandoPiezas, "no arrangement under way between events");
+        Exige(!Gbl.TareaAutomatica, "no automatic run under way between events");
+        Exige(!Gbl.AutoAtras && !Gbl.AutoAdelante, "no replay under way between events");
+        Exige(Gbl.MarcaPausa == 0, "no pause under way between events");
+        Exige(Gbl.PiezasColocadas == CuentaColocadas(), "the count of placed pieces is right");
+    }
+
+    static void CompruebaCeldas() {
+        const i32 celdas = Gbl.PiezasPorLado * Gbl.PiezasPorLado;
+        std::vector<bool> visto(static_cast<std::size_t>(celdas) + 1);
+        const auto ocupa = [&](i16 x, i16 y) {
+            const i16 c = CeldaDePosicion(x, y);
+            Exige(c >= 1 && c <= celdas, "on the board");
+            Exige((x - Gbl.MargenX) % Gbl.AnchoCelda == 0 && (y - Gbl.MargenY) % Gbl.AltoCelda == 0,
+                  "exactly on a cell");
+            Exige(!visto[static_cast<std::size_t>(c)], "pieces and hole on distinct cells");
+            visto[static_cast<std::size_t>(c)] = true;
+        };
+        for (i32 i = 1; i <= Gbl.NumPiezas; ++i) ocupa(Gbl.Piezas[i].X, Gbl.Piezas[i].Y);
+        ocupa(Gbl.HuecoX, Gbl.HuecoY);
+    }
+
+    // Lays the table afresh and compares; then what the player sees is put back.
+    void CompruebaImagen() {
+        if (Gbl.PuzzleTerminado) excepciones_ |= Terminado;
+        if (Gbl.MostrandoColocadas) excepciones_ |= DosColores;
+        const bool goma = Pic_Trabajo.DrawMode == MODO_INVIERTE;
+        const Mapa vista = Pic_Trabajo.Dibujo();
+        const Mapa imagen = Pic_Imagen.Dibujo();
+        if (!goma) Exige(vista.Pixeles == imagen.Pixeles, "what is seen is what is composed");
+        const i16 prepara = Gbl.PiezaActual;
+        const Pieza aux = Gbl.PiezaAux;
+        if (!Gbl.MostrandoColocadas && !Gbl.PuzzleTerminado) {
+            ColocaPiezas(2);
+            const bool igual = Pic_Imagen.Dibujo().Pixeles == imagen.Pixeles;
+            if (!igual) Exige(excepciones_ != 0, "the table equals one laid afresh");
+            if (!goma) Pic_Trabajo_Paint();
+            excepciones_ = 0;
+        }
+        Gbl.PiezaActual = prepara;
+        Gbl.PiezaAux = aux;
+    }
+
+    i16 juego_;
+    std::mt19937 azar_;
+    std::unique_ptr<PlataformaPrueba> p_;
+    PunteroPrueba puntero_;
+    bool apretado_ = false;
+    int anidado_ = 0;
+    unsigned excepciones_ = 0;
+    long numero_ = 0;
+    std::string ultimo_;
+};
+
+bool Suelta(i16 juego, long eventos, unsigned semilla) {
+    Mono mono(juego, semilla);
+    try {
+        mono.Corre(eventos);
+    } catch (const std::exception& e) {
+        std::printf("game %d, seed %u, event %ld (%s): %s\n", juego, semilla, mono.Numero(),
+                    mono.Ultimo().c_str(), e.what());
+        PonSistema(nullptr);
+        return false;
+    }
+    PonSistema(nullptr);
+    std::printf("game %d: %ld events, nothing to complain of\n", juego, eventos);
+    return true;
+}
+
+}  // namespace
+}  // namespace tessario
+
+int main(int argc, char** argv) {
+    const long eventos = argc > 1 ? std::atol(argv[1]) : 20000;
+    // Seed 0, or none: a new one each time.
+    unsigned semilla = argc > 2 ? static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)) : 0;
+    if (semilla == 0) semilla = std::random_device{}();
+    const int solo = argc > 3 ? std::atoi(argv[3]) : 0;
+    std::printf("seed %u\n", semilla);
+    bool bien = true;
+    for (const tessario::i16 juego : {tessario::i16{21}, tessario::i16{22}, tessario::i16{23}})
+        if (solo == 0 || solo == juego) bien = tessario::Suelta(juego, eventos, semilla) && bien;
+    return bien ? 0 : 1;
+}
