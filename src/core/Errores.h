@@ -18,9 +18,9 @@ inline constexpr i16 ERROR_LLENO = 61;        // disk full
 inline constexpr i16 ERROR_FIN_FICHERO = 62;  // read past the end
 inline constexpr i16 ERROR_NOMBRE = 64;       // bad file name
 inline constexpr i16 ERROR_PERMISO = 70;
-inline constexpr i16 ERROR_ACCESO = 75;       // path or file access
-inline constexpr i16 ERROR_RUTA = 76;         // path not found
-inline constexpr i16 ERROR_IMAGEN = 481;      // not a picture
+inline constexpr i16 ERROR_ACCESO = 75;   // path or file access
+inline constexpr i16 ERROR_RUTA = 76;     // path not found
+inline constexpr i16 ERROR_IMAGEN = 481;  // not a picture
 
 class ErrorEjecucion : public std::exception {
 public:
@@ -42,6 +42,20 @@ void Sigue(F&& sentencia) {
     } catch (const ErrorEjecucion& e) {
         PonErrorPendiente(e.Numero);
     }
+}
+
+// Runs a routine that looks after its own errors: what it swallows inside leaves no trace here,
+// what it throws becomes the pending error.
+template <class F>
+void Llama(F&& rutina) {
+    const i16 antes = ErrorPendiente();
+    i16 lanzado = 0;
+    try {
+        rutina();
+    } catch (const ErrorEjecucion& e) {
+        lanzado = e.Numero;
+    }
+    PonErrorPendiente(lanzado != 0 ? lanzado : antes);
 }
 
 }  // namespace tessario

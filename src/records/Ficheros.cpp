@@ -1,0 +1,191 @@
+// Reading and writing whole files: the part of records/Texto.h that talks to the file system.
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include "core/Errores.h"
+#include "records/Texto.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr mode_t PERMISOS_NUEVO = 0666;  // before the process's mask
+
+// An open file, closed at the end of its life.
+class Descriptor {
+public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    ~Descriptor() { Cierra(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    bool Vale() const { return fd_ >= 0; }
+    int Numero() const { return fd_; }
+    bool Cierra() { return fd_ < 0 || close(std::exchange(fd_, -1)) == 0; }
+
+private:
+    int fd_;
+};
+
+i16 NumeroDe(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return ERROR_LLENO;
+        case ENOENT:
+        case ENOTDIR:
+            return ERROR_RUTA;
+        case EIO:
+            return ERROR_ES;
+        case ENAMETOOLONG:
+        case EINVAL:
+        case ELOOP:
+            return ERROR_NOMBRE;
+        default:
+            return ERROR_ACCESO;
+    }
+}
+
+std::string CarpetaDe(const std::string& ruta) {
+    const std::size_t barra = ruta.rfind('/');
+    return barra == std::string::npos ? "./" : ruta.substr(0, barra + 1);
+}
+
+bool EsCarpeta(const std::string& ruta) {
+    struct stat datos {};
+    return stat(ruta.c_str(), &datos) == 0 && S_ISDIR(datos.st_mode);
+}
+
+// The same file whatever the case of its name; the folder is taken as it is.
+std::string SinCaja(const std::string& ruta) {
+    struct stat datos {};
+    if (lstat(ruta.c_str(), &datos) == 0) return ruta;
+    return EsCarpeta(CarpetaDe(ruta)) ? BuscaRuta(ruta) : ruta;
+}
+
+// A missing file in a folder that exists is another error than a missing folder.
+i16 NumeroDeApertura(int error, const std::string& ruta) {
+    if (error == ENOENT && EsCarpeta(CarpetaDe(ruta))) return ERROR_FICHERO;
+    return NumeroDe(error);
+}
+
+i16 LeeTodo(int fd, std::string& bytes, std::size_t maximo) {
+    char trozo[65536];
+    for (;;) {
+        const ssize_t n = read(fd, trozo, sizeof trozo);
+        if (n == 0) return 0;
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            return NumeroDe(errno);
+        }
+        if (bytes.size() + static_cast<std::size_t>(n) > maximo) return ERROR_MEMORIA;
+        bytes.append(trozo, static_cast<std::size_t>(n));
+    }
+}
+
+i16 EscribeTodo(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t n = write(fd, bytes.data(), bytes.size());
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            return NumeroDe(errno);
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return 0;
+}
+
+// A device or a pipe cannot be replaced: it is written to.
+i16 EscribeEnSitio(const std::string& ruta, std::string_view bytes) {
+    Descriptor d(open(ruta.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!d.Vale()) return NumeroDe(errno);
+    const i16 error = EscribeTodo(d.Numero(), bytes);
+    return error == 0 && !d.Cierra() ? NumeroDe(errno) : error;
+}
+
+mode_t PermisosNuevos() {
+    const mode_t mascara = umask(0);
+    umask(mascara);
+    return PERMISOS_NUEVO & ~mascara;
+}
+
+// Fills the temporary file and sees it onto the disk.
+i16 LlenaTemporal(Descriptor& d, std::string_view bytes, const struct stat* anterior) {
+    const mode_t permisos = anterior ? (anterior->st_mode & 07777U) : PermisosNuevos();
+    // The owner can only be kept where the system allows it; the file is then ours.
+    if (anterior && fchown(d.Numero(), anterior->st_uid, anterior->st_gid) != 0) errno = 0;
+    if (fchmod(d.Numero(), permisos) != 0) return NumeroDe(errno);
+    if (const i16 error = EscribeTodo(d.Numero(), bytes)) return error;
+    if (fsync(d.Numero()) != 0) return NumeroDe(errno);
+    return d.Cierra() ? i16{0} : NumeroDe(errno);
+}
+
+void AseguraCarpeta(const std::string& carpeta) {
+    Descriptor d(open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (d.Vale()) fsync(d.Numero());
+}
+
+i16 Reemplaza(const std::string& ruta, std::string_view bytes, const struct stat* anterior) {
+    const std::string carpeta = CarpetaDe(ruta);
+    std::string temporal = carpeta + ".tsrXXXXXX";
+    Descriptor d(mkostemp(temporal.data(), O_CLOEXEC));
+    if (!d.Vale()) return NumeroDe(errno);
+    i16 error = LlenaTemporal(d, bytes, anterior);
+    if (error == 0 && rename(temporal.c_str(), ruta.c_str()) != 0) error = NumeroDe(errno);
+    if (error != 0)
+        unlink(temporal.c_str());
+    else
+        AseguraCarpeta(carpeta);
+    return error;
+}
+
+// Where a symbolic link leads, so that the link stays and its file is replaced.
+std::string SinEnlaces(const std::string& ruta) {
+    char* real = realpath(ruta.c_str(), nullptr);
+    if (!real) return ruta;
+    std::string s(real);
+    std::free(real);
+    return s;
+}
+
+}  // namespace
+
+i16 LeeFichero(const std::string& ruta, std::string& bytes, std::size_t maximo) {
+    bytes.clear();
+    if (ruta.find('\0') != std::string::npos) return ERROR_NOMBRE;
+    const std::string hallada = SinCaja(ruta);
+    Descriptor d(open(hallada.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!d.Vale()) return NumeroDeApertura(errno, hallada);
+    struct stat datos {};
+    if (fstat(d.Numero(), &datos) != 0) return NumeroDe(errno);
+    if (!S_ISREG(datos.st_mode)) return ERROR_ACCESO;
+    if (const i16 error = LeeTodo(d.Numero(), bytes, maximo)) {
+        bytes.clear();
+        return error;
+    }
+    return 0;
+}
+
+i16 EscribeFichero(const std::string& ruta, std::string_view bytes) {
+    if (ruta.empty() || ruta.find('\0') != std::string::npos) return ERROR_NOMBRE;
+    const std::string destino = SinEnlaces(SinCaja(ruta));
+    struct stat anterior {};
+    if (stat(destino.c_str(), &anterior) != 0) {
+        if (errno != ENOENT) return NumeroDe(errno);
+        return Reemplaza(destino, bytes, nullptr);
+    }
+    if (S_ISDIR(anterior.st_mode)) return ERROR_ACCESO;
+    if (!S_ISREG(anterior.st_mode)) return EscribeEnSitio(destino, bytes);
+    if (access(destino.c_str(), W_OK) != 0) return NumeroDe(errno);
+    return Reemplaza(destino, bytes, &anterior);
+}
+
+}  // namespace tessario

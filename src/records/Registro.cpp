@@ -1,0 +1,286 @@
+#include "records/Registro.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "core/Cadenas.h"
+#include "core/PuzzGbl.h"
+#include "records/Texto.h"
+#include "sliding/Tablero.h"
+
+namespace tessario {
+
+namespace {
+
+// ---------------------------------------------------------------- columns
+
+using Dato = std::variant<i16*, i32*, Color*, Booleano*, float*, std::string*>;
+
+struct Campo {
+    i32 columna, ancho;
+    Dato dato;
+};
+
+constexpr i32 ANCHO_REGISTRO = 140;
+constexpr i32 ANCHO_ENTRADA = 23;  // of the piece list and of the move list
+constexpr Color COLOR_MAXIMO = 0xFFFFFF;
+
+const Campo REGISTRO[] = {
+    {1, 9, &Gbl.NombreJugador},    {10, 8, &Gbl.ColorFondo},       {18, 8, &Gbl.ColorPiezas},
+    {26, 8, &Gbl.ColorContraste},  {34, 2, &Gbl.MostrarMuestra},   {36, 4, &Gbl.NumMovimientos},
+    {40, 4, &Gbl.ModeloActual},    {45, 3, &Gbl.ZoomImagen},       {48, 3, &Gbl.PiezasPorLado},
+    {51, 2, &Gbl.FormaPiezas},     {53, 3, &Gbl.NumPiezas},        {56, 8, &Gbl.SegundosJuego},
+    {64, 2, &Gbl.PuzzleTerminado}, {66, 2, &Gbl.PuzzleArchivable}, {68, 1, &Gbl.ModoJuego},
+    {69, 1, &Gbl.TipoFondo},       {72, 4, &Gbl.HuecoX},           {76, 4, &Gbl.HuecoY},
+    {80, 4, &Gbl.AnchoImagen},     {84, 4, &Gbl.AltoImagen},       {88, 2, &Gbl.JuegoActual},
+    {91, 3, &Gbl.FactorAtraccion}, {94, 2, &Gbl.PermitirGiro},     {96, 2, &Gbl.DibujarBorde},
+    {98, 2, &Gbl.AtraccionPiezas}, {100, 25, &Gbl.NombrePuzzle},   {125, 7, &Gbl.Dificultad},
+};
+
+struct CampoPieza {
+    i32 columna, ancho;
+    i16 Pieza::*dato;
+};
+constexpr CampoPieza CAMPOS_PIEZA[] = {{1, 4, &Pieza::X},         {5, 4, &Pieza::Y},
+                                       {9, 1, &Pieza::Giro},      {10, 1, &Pieza::Volteo},
+                                       {11, 4, &Pieza::XBien},    {15, 4, &Pieza::YBien},
+                                       {19, 1, &Pieza::GiroBien}, {20, 1, &Pieza::VolteoBien}};
+constexpr i32 COLUMNA_ORDEN = 21, ANCHO_ORDEN = 3;
+
+struct CampoMovimiento {
+    i32 columna, ancho;
+    i16 Movimiento::*dato;
+};
+constexpr CampoMovimiento CAMPOS_MOVIMIENTO[] = {
+    {1, 3, &Movimiento::Pieza},         {4, 4, &Movimiento::XAntes},
+    {8, 4, &Movimiento::YAntes},        {12, 1, &Movimiento::GiroAntes},
+    {13, 1, &Movimiento::VolteoAntes},  {14, 4, &Movimiento::XDespues},
+    {18, 4, &Movimiento::YDespues},     {22, 1, &Movimiento::GiroDespues},
+    {23, 1, &Movimiento::VolteoDespues}};
+
+// ---------------------------------------------------------------- writing
+
+// Puts a value in; one that is too wide is cut on the right, one too short leaves blanks.
+void Pon(std::string& linea, i32 columna, i32 ancho, std::string_view valor) {
+    const std::size_t cabe = std::min(static_cast<std::size_t>(ancho), valor.size());
+    linea.replace(static_cast<std::size_t>(columna - 1), cabe, valor.substr(0, cabe));
+}
+
+// Two digits, a point, four digits.
+std::string TextoDificultad(float valor) {
+    char cifras[64];
+    const auto r = std::to_chars(cifras, cifras + sizeof cifras, static_cast<double>(valor),
+                                 std::chars_format::fixed, 4);
+    const std::string texto = r.ec == std::errc() ? std::string(cifras, r.ptr) : "0.0000";
+    return texto.find('.') == 1 ? "0" + texto : texto;
+}
+
+struct Escritor {
+    i32 ancho;
+    std::string operator()(const i16* v) const { return Ceros(*v, ancho); }
+    std::string operator()(const i32* v) const { return Ceros(*v, ancho); }
+    std::string operator()(const Color* v) const { return Ceros(static_cast<i32>(*v), ancho); }
+    std::string operator()(const Booleano* v) const { return *v ? "-1" : "0 "; }
+    std::string operator()(const float* v) const { return TextoDificultad(*v); }
+    std::string operator()(const std::string* v) const { return A1252(*v); }
+};
+
+std::string Blancos(i32 cuantos) {
+    return std::string(static_cast<std::size_t>(std::max(cuantos, 0)), ' ');
+}
+
+// ---------------------------------------------------------------- reading
+
+std::string_view Trozo(std::string_view linea, i32 columna, i32 ancho) {
+    const std::size_t desde = static_cast<std::size_t>(columna - 1);
+    if (desde >= linea.size()) return {};
+    return linea.substr(desde, static_cast<std::size_t>(ancho));
+}
+
+i32 Numero(std::string_view texto) {
+    i32 n = 0;
+    if (!LeeEntero(texto, n)) throw ErrorEjecucion(ERROR_TIPO);
+    return n;
+}
+
+double Real(std::string_view texto) {
+    double x = 0;
+    if (!LeeReal(texto, x)) throw ErrorEjecucion(ERROR_TIPO);
+    return x;
+}
+
+struct Lector {
+    std::string_view texto;
+    void operator()(i16* v) const { *v = Corto(Numero(texto)); }
+    void operator()(i32* v) const { *v = Numero(texto); }
+    void operator()(Color* v) const {
+        const i32 n = Numero(texto);
+        if (n < 0 || static_cast<Color>(n) > COLOR_MAXIMO) throw ErrorEjecucion(ERROR_DESBORDE);
+        *v = static_cast<Color>(n);
+    }
+    void operator()(Booleano* v) const { *v = Real(texto) != 0; }
+    void operator()(float* v) const {
+        const double x = Real(texto);
+        if (std::abs(x) > std::numeric_limits<float>::max()) throw ErrorEjecucion(ERROR_DESBORDE);
+        *v = static_cast<float>(x);
+    }
+    void operator()(std::string* v) const { *v = Trim(De1252(texto)); }
+};
+
+// Entry i of a list.
+std::string_view Entrada(std::string_view linea, i32 i) {
+    return Trozo(linea, (i - 1) * ANCHO_ENTRADA + 1, ANCHO_ENTRADA);
+}
+
+bool EsJuego(i16 juego) {
+    return juego >= JuegoMoviles && juego <= JuegoTangram;
+}
+
+// ---------------------------------------------------------------- does it hold together?
+
+bool EsPermutacion(const Arreglo<i16>& orden, i32 cuantos) {
+    if (orden.Superior() != cuantos) return false;
+    std::vector<bool> visto(static_cast<std::size_t>(cuantos + 1));
+    for (i32 i = 1; i <= cuantos; ++i) {
+        const i16 p = orden[i];
+        if (p < 1 || p > cuantos || visto[static_cast<std::size_t>(p)]) return false;
+        visto[static_cast<std::size_t>(p)] = true;
+    }
+    return true;
+}
+
+bool LadoPosible() {
+    if (Gbl.JuegoActual == JuegoDeslizantes)
+        return Gbl.PiezasPorLado >= 3 && Gbl.PiezasPorLado <= 9;
+    return Gbl.JuegoActual == JuegoTangram || Gbl.PiezasPorLado >= 1;
+}
+
+i32 PiezasQueTocan() {
+    const i32 lado = Gbl.PiezasPorLado;
+    if (Gbl.JuegoActual == JuegoTangram) return 7;
+    if (Gbl.JuegoActual == JuegoDeslizantes) return lado * lado - 1;
+    return lado * lado * Gbl.PiezasPorCelda;
+}
+
+bool MovimientosPosibles() {
+    if (Gbl.NumMovimientos < 0 || Gbl.Movimientos.Superior() != Gbl.NumMovimientos) return false;
+    for (i32 i = 1; i <= Gbl.NumMovimientos; ++i) {
+        const i16 p = Gbl.Movimientos[i].Pieza;
+        if (p < 1 || p > Gbl.NumPiezas) return false;
+    }
+    return true;
+}
+
+// Every piece and the hole on a cell of its own. Without that no exchange of pieces could ever
+// make the position solvable.
+bool CeldasDistintas() {
+    const i32 celdas = Gbl.PiezasPorLado * Gbl.PiezasPorLado;
+    std::vector<bool> ocupada(static_cast<std::size_t>(celdas + 1));
+    const auto ocupa = [&](i16 x, i16 y) {
+        const i16 c = CeldaDePosicion(x, y);
+        if (c < 1 || c > celdas || ocupada[static_cast<std::size_t>(c)]) return false;
+        ocupada[static_cast<std::size_t>(c)] = true;
+        return true;
+    };
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
+        if (!ocupa(Gbl.Piezas[i].X, Gbl.Piezas[i].Y)) return false;
+    return ocupa(Gbl.HuecoX, Gbl.HuecoY);
+}
+
+}  // namespace
+
+std::string EscribeRegistro() {
+    std::string linea = Blancos(ANCHO_REGISTRO);
+    for (const Campo& c : REGISTRO)
+        Pon(linea, c.columna, c.ancho, std::visit(Escritor{c.ancho}, c.dato));
+    return linea;
+}
+
+std::string EscribePiezas() {
+    std::string linea;
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
+        std::string entrada = Blancos(ANCHO_ENTRADA);
+        Sigue([&] {
+            for (const CampoPieza& c : CAMPOS_PIEZA)
+                Pon(entrada, c.columna, c.ancho, Ceros(Gbl.Piezas[i].*c.dato, c.ancho));
+            Pon(entrada, COLUMNA_ORDEN, ANCHO_ORDEN, Ceros(Gbl.OrdenPiezas[i], ANCHO_ORDEN));
+        });
+        linea += entrada;
+    }
+    return linea;
+}
+
+std::string EscribeMovimientos() {
+    std::string linea;
+    for (i32 i = 1; i <= Gbl.NumMovimientos; ++i) {
+        std::string entrada = Blancos(ANCHO_ENTRADA);
+        Sigue([&] {
+            for (const CampoMovimiento& c : CAMPOS_MOVIMIENTO)
+                Pon(entrada, c.columna, c.ancho, Ceros(Gbl.Movimientos[i].*c.dato, c.ancho));
+        });
+        linea += entrada;
+    }
+    return linea;
+}
+
+void LeeRegistro(const std::string& linea) {
+    const i16 juego = Gbl.JuegoActual;
+    for (const Campo& c : REGISTRO)
+        Sigue([&] { std::visit(Lector{Trozo(linea, c.columna, c.ancho)}, c.dato); });
+    if (EsJuego(Gbl.JuegoActual)) return;
+    // No game at all: the one in play stays, so that the defaults know whose they are.
+    Gbl.JuegoActual = juego;
+    PonErrorPendiente(ERROR_TIPO);
+}
+
+void LeePiezas(const std::string& linea) {
+    Sigue([] {
+        if (Gbl.NumPiezas < 1) throw ErrorEjecucion(ERROR_INDICE);
+        Gbl.Piezas.Redimensiona(Gbl.NumPiezas);
+        Gbl.OrdenPiezas.Redimensiona(Gbl.NumPiezas);
+    });
+    // The arrays bound the walk, not the number: a refused number leaves them as they were.
+    const i32 cuantas = std::min<i32>(Gbl.NumPiezas, Gbl.Piezas.Superior());
+    for (i32 i = 1; i <= cuantas; ++i) {
+        const std::string_view entrada = Entrada(linea, i);
+        for (const CampoPieza& c : CAMPOS_PIEZA)
+            Sigue(
+                [&] { Gbl.Piezas[i].*c.dato = Corto(Numero(Trozo(entrada, c.columna, c.ancho))); });
+        Sigue([&] {
+            Gbl.OrdenPiezas[i] = Corto(Numero(Trozo(entrada, COLUMNA_ORDEN, ANCHO_ORDEN)));
+        });
+    }
+}
+
+void LeeMovimientos(const std::string& linea) {
+    if (Gbl.NumMovimientos < 0) {
+        Gbl.NumMovimientos = 0;
+        PonErrorPendiente(ERROR_INDICE);
+    }
+    Gbl.Movimientos.Redimensiona(Gbl.NumMovimientos);
+    for (i32 i = 1; i <= Gbl.NumMovimientos; ++i) {
+        const std::string_view entrada = Entrada(linea, i);
+        for (const CampoMovimiento& c : CAMPOS_MOVIMIENTO)
+            Sigue([&] {
+                Gbl.Movimientos[i].*c.dato = Corto(Numero(Trozo(entrada, c.columna, c.ancho)));
+            });
+    }
+}
+
+bool RegistroCoherente() {
+    bool coherente = false;
+    Sigue([&] {
+        coherente = EsJuego(Gbl.JuegoActual) && Gbl.FormaPiezas >= 0 && Gbl.FormaPiezas <= 7 &&
+                    LadoPosible() && Gbl.NumPiezas == PiezasQueTocan() &&
+                    Gbl.Piezas.Superior() == Gbl.NumPiezas &&
+                    EsPermutacion(Gbl.OrdenPiezas, Gbl.NumPiezas) && MovimientosPosibles() &&
+                    (Gbl.JuegoActual != JuegoDeslizantes || CeldasDistintas());
+    });
+    return coherente;
+}
+
+}  // namespace tessario
