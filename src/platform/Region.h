@@ -35,7 +35,12 @@ public:
     int Codigo() const;     // REGION_VACIA, REGION_SIMPLE or REGION_COMPLEJA
     Rect Caja() const;      // smallest rectangle around all; empty for an empty region
     bool Contiene(i32 x, i32 y) const;
-    i32 Area() const;       // number of points
+    // The rectangles of the band that holds the row, from left to right; none if no band does.
+    std::span<const Rect> Banda(i32 y) const;
+    // The rectangles from the first band that reaches below the row, to the end.
+    std::span<const Rect> Desde(i32 y) const;
+    i32 Area() const;       // number of points; the largest i32 when there are more
+    // Shifts all points; those that would leave the range of i32 are dropped.
     void Desplaza(i32 dx, i32 dy);
     bool Valida() const;    // do the invariants hold? For debug builds and tests.
 
@@ -54,9 +59,12 @@ void SetRectRgn(Region& r, i32 izq, i32 arr, i32 der, i32 aba);
 // The region of a closed polygon by the winding rule. A lattice point is inside by half-open edges:
 // rows from the smallest y up to but not including the largest; in a row, x from the first
 // crossing, included, to the second, excluded. Fewer than three corners give the empty region.
+// Corners are first brought within LIMITE_POLIGONO of the origin, several times what an i16 holds.
+inline constexpr i32 LIMITE_POLIGONO = 1 << 17;
 Region CreatePolygonRgn(std::span<const Punto> vertices);
 
-// destino := a (mode) b, and its result code. destino may be one of the operands.
+// destino := a (mode) b, and its result code. destino may be one of the operands. Difference is
+// a without b; a copy takes a alone. Any other mode empties destino.
 int CombineRgn(Region& destino, const Region& a, const Region& b, int modo);
 
 // Do the two regions have a point in common? The answer of an intersection without building it.

@@ -56,6 +56,9 @@ inline constexpr int AnguloFin = 128;  // Circle: an end angle is given
 inline constexpr int ConAspecto = 256; // Circle: an aspect is given
 }  // namespace pluma
 
+// The widest pen.
+inline constexpr i16 ANCHO_PLUMA_MAX = 512;
+
 // Drawing modes: how a pen's pixel meets the one that is there.
 inline constexpr i16 MODO_INVIERTE = 6;
 inline constexpr i16 MODO_COPIA = 13;
@@ -99,13 +102,22 @@ public:
     Fuente Font;
     double CurrentX = 0, CurrentY = 0;
 
-    // --- Pen operations. Coordinates are pixels, rounded to the nearest.
-    // Line paints both end points; the pen ends at the end point. A box includes both corners.
+    // --- Pen operations. Coordinates are pixels, rounded to the nearest, halves to even. A
+    // coordinate that is no number draws nothing and leaves the pen where it is. A pen of width n
+    // covers from n / 2 pixels before its point to (n - 1) / 2 after it, corners rounded off; a
+    // width under 1 is 1 and one above ANCHO_PLUMA_MAX is that.
+    // Line paints both end points, and the same pixels in either direction; the pen ends at the
+    // end point. A box includes both corners; FillSolido fills it with FillColor, the flag Llena
+    // with the line's own colour.
     void Line(int flags, double x1, double y1, double x2, double y2, Color color = 0);
     // Angles in radians, counter-clockwise, 0 to the right, 90 degrees up the screen, from start to
     // end also when start is larger. Aspect is height over width; the radius is the horizontal
-    // semi-axis when the aspect is under 1, else the vertical one. Arcs have no gaps and hold both
-    // their end points. A whole circle or ellipse is filled when FillSolido.
+    // semi-axis when the aspect is under 1, else the vertical one. On an ellipse an angle is that
+    // of the circle from which it is squeezed. The pixels of an arc are a part of those of the
+    // whole, follow from centre, radius and aspect alone, and shift with a centre that shifts by
+    // whole pixels. They touch one another at sides or corners, so a fill does not pass, and the
+    // arc reaches to the pixel nearest to each end. Two angles a turn or more apart are a whole
+    // outline. A whole circle or ellipse is filled when FillSolido. The pen ends at the centre.
     void Circle(int flags, double cx, double cy, double radio, Color color = 0, double inicio = 0,
                 double fin = 0, double aspecto = 1);
     void PSet(double x, double y);
@@ -134,6 +146,8 @@ public:
     Rect TomaTocado();              // likewise, for a second reader
 
 private:
+    void BorraDibujo();
+
     Mapa dibujo_;
     Imagen picture_;
     i32 ancho_ = 0, alto_ = 0;
@@ -147,8 +161,8 @@ private:
 void SelectClipRgn(Superficie& s, const Region* r);
 
 // Copies ancho x alto pixels from (xo, yo) of origen to (xd, yd) of destino by the raster
-// operation. The two may be one surface. Source pixels that do not exist leave the destination
-// as it was.
+// operation. The two may be one surface, also with parts in common: what is read is the source as
+// it was before. Source pixels that do not exist leave the destination as it was.
 void BitBlt(Superficie& destino, i32 xd, i32 yd, i32 ancho, i32 alto, const Superficie& origen,
             i32 xo, i32 yo, u32 operacion);
 
@@ -158,7 +172,8 @@ void StretchBlt(Superficie& destino, i32 xd, i32 yd, i32 anchoD, i32 altoD,
                 const Superficie& origen, i32 xo, i32 yo, i32 anchoO, i32 altoO, u32 operacion);
 
 // Fill type 0: paints with FillColor from the point outward in four directions, stopping at pixels
-// of the given colour. Nothing is painted when the start has that colour or lies outside.
+// of the given colour. Nothing is painted when the start has that colour or lies outside; the clip
+// stops the paint like the colour. Other fill types paint nothing.
 void ExtFloodFill(Superficie& s, i32 x, i32 y, Color borde, int tipo);
 
 }  // namespace tessario

@@ -1,0 +1,270 @@
+#include "platform/Region.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "platform/RegionBandas.h"
+
+namespace tessario {
+
+namespace {
+
+using Lista = std::vector<Rect>;
+using i64 = std::int64_t;
+
+constexpr i32 MENOR = std::numeric_limits<i32>::min();
+constexpr i32 MAYOR = std::numeric_limits<i32>::max();
+
+// Is a point in the result, given whether it is in a and in b? One row for each mode.
+struct ModoY {
+    static constexpr bool Dentro(bool a, bool b) { return a && b; }
+};
+struct ModoO {
+    static constexpr bool Dentro(bool a, bool b) { return a || b; }
+};
+struct ModoXor {
+    static constexpr bool Dentro(bool a, bool b) { return a != b; }
+};
+struct ModoResta {
+    static constexpr bool Dentro(bool a, bool b) { return a && !b; }
+};
+
+// A region read band by band.
+class Lector {
+public:
+    explicit Lector(const Lista& lista) : p_(lista.data()), fin_(p_ + lista.size()) { BuscaFin(); }
+    bool Acabado() const { return p_ == fin_; }
+    i32 Arr() const { return p_->Arr; }
+    // The band's rectangles, if it holds the row.
+    std::span<const Rect> EnFila(i32 y) const {
+        if (Acabado() || p_->Arr > y) return {};
+        return {p_, finBanda_};
+    }
+    // The first row after y at which something begins or ends.
+    i32 Proxima(i32 y) const {
+        if (Acabado()) return MAYOR;
+        return p_->Arr > y ? p_->Arr : p_->Aba;
+    }
+    void Avanza(i32 y) {
+        if (Acabado() || p_->Aba > y) return;
+        p_ = finBanda_;
+        BuscaFin();
+    }
+
+private:
+    void BuscaFin() {
+        finBanda_ = p_;
+        while (finBanda_ != fin_ && finBanda_->Arr == p_->Arr) ++finBanda_;
+    }
+    const Rect* p_;
+    const Rect* fin_;
+    const Rect* finBanda_ = nullptr;
+};
+
+// Walks along the ends of the spans of both bands, from left to right.
+template <class Modo>
+void CombinaBanda(std::span<const Rect> a, std::span<const Rect> b, BandasRegion& salida) {
+    std::size_t i = 0, j = 0;
+    bool enA = false, enB = false, dentro = false;
+    i32 inicio = 0;
+    while (i < a.size() || j < b.size()) {
+        const i32 xa = i == a.size() ? MAYOR : (enA ? a[i].Der : a[i].Izq);
+        const i32 xb = j == b.size() ? MAYOR : (enB ? b[j].Der : b[j].Izq);
+        const i32 x = std::min(xa, xb);
+        if (xa == x && i < a.size()) {
+            i += enA;
+            enA = !enA;
+        }
+        if (xb == x && j < b.size()) {
+            j += enB;
+            enB = !enB;
+        }
+        const bool ahora = Modo::Dentro(enA, enB);
+        if (ahora == dentro) continue;
+        if (ahora)
+            inicio = x;
+        else
+            salida.Tramo(inicio, x);
+        dentro = ahora;
+    }
+}
+
+template <class Modo>
+void CombinaListas(Lista& destino, const Lista& a, const Lista& b) {
+    BandasRegion salida(destino);
+    Lector la(a), lb(b);
+    constexpr bool soloConA = !Modo::Dentro(false, true);
+    constexpr bool soloConB = !Modo::Dentro(true, false);
+    i32 y = MENOR;
+    while (!(la.Acabado() && lb.Acabado())) {
+        if ((soloConA && la.Acabado()) || (soloConB && lb.Acabado())) break;
+        const auto fa = la.EnFila(y);
+        const auto fb = lb.EnFila(y);
+        const i32 siguiente = std::min(la.Proxima(y), lb.Proxima(y));
+        if (!fa.empty() || !fb.empty()) {
+            salida.Abre(y, siguiente);
+            CombinaBanda<Modo>(fa, fb, salida);
+            salida.Cierra();
+        }
+        y = siguiente;
+        la.Avanza(y);
+        lb.Avanza(y);
+    }
+}
+
+using Combinador = void (*)(Lista&, const Lista&, const Lista&);
+
+Combinador CombinadorDe(int modo) {
+    switch (modo) {
+        case RGN_AND:
+            return CombinaListas<ModoY>;
+        case RGN_OR:
+            return CombinaListas<ModoO>;
+        case RGN_XOR:
+            return CombinaListas<ModoXor>;
+        case RGN_DIFF:
+            return CombinaListas<ModoResta>;
+        default:
+            return nullptr;
+    }
+}
+
+bool MismaBanda(const Rect& a, const Rect& b) {
+    return a.Arr == b.Arr && a.Aba == b.Aba;
+}
+
+bool MismasColumnas(std::span<const Rect> a, std::span<const Rect> b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const Rect& p, const Rect& q) {
+        return p.Izq == q.Izq && p.Der == q.Der;
+    });
+}
+
+i32 Recorta(i64 v) {
+    return static_cast<i32>(std::clamp<i64>(v, MENOR, MAYOR));
+}
+
+}  // namespace
+
+Region::Region(const Rect& r) {
+    if (!r.Vacio()) rects_.push_back(r);
+}
+
+int Region::Codigo() const {
+    if (rects_.empty()) return REGION_VACIA;
+    return rects_.size() == 1 ? REGION_SIMPLE : REGION_COMPLEJA;
+}
+
+Rect Region::Caja() const {
+    if (rects_.empty()) return {};
+    Rect caja = rects_.front();
+    caja.Aba = rects_.back().Aba;
+    for (const Rect& r : rects_) {
+        caja.Izq = std::min(caja.Izq, r.Izq);
+        caja.Der = std::max(caja.Der, r.Der);
+    }
+    return caja;
+}
+
+std::span<const Rect> Region::Desde(i32 y) const {
+    const auto primero = std::partition_point(rects_.begin(), rects_.end(),
+                                              [y](const Rect& r) { return r.Aba <= y; });
+    return {primero, rects_.end()};
+}
+
+std::span<const Rect> Region::Banda(i32 y) const {
+    const auto resto = Desde(y);
+    const auto fin =
+        std::partition_point(resto.begin(), resto.end(), [y](const Rect& r) { return r.Arr <= y; });
+    return {resto.begin(), fin};
+}
+
+bool Region::Contiene(i32 x, i32 y) const {
+    const auto banda = Banda(y);
+    return std::any_of(banda.begin(), banda.end(),
+                       [x](const Rect& r) { return x >= r.Izq && x < r.Der; });
+}
+
+i32 Region::Area() const {
+    i64 suma = 0;
+    for (const Rect& r : rects_) {
+        const i64 ancho = static_cast<i64>(r.Der) - r.Izq;
+        const i64 alto = static_cast<i64>(r.Aba) - r.Arr;
+        if (alto > MAYOR / ancho) return MAYOR;
+        suma += ancho * alto;
+        if (suma > MAYOR) return MAYOR;
+    }
+    return static_cast<i32>(suma);
+}
+
+void Region::Desplaza(i32 dx, i32 dy) {
+    const Rect caja = Caja();
+    // What stays within range after the shift.
+    const Rect cabe{Recorta(static_cast<i64>(MENOR) - dx), Recorta(static_cast<i64>(MENOR) - dy),
+                    Recorta(static_cast<i64>(MAYOR) - dx), Recorta(static_cast<i64>(MAYOR) - dy)};
+    if (Interseccion(caja, cabe) != caja) CombineRgn(*this, *this, Region(cabe), RGN_AND);
+    for (Rect& r : rects_) r = {r.Izq + dx, r.Arr + dy, r.Der + dx, r.Aba + dy};
+}
+
+bool Region::Valida() const {
+    std::span<const Rect> previa;
+    auto p = rects_.begin();
+    while (p != rects_.end()) {
+        const auto fin =
+            std::find_if(p, rects_.end(), [&](const Rect& r) { return !MismaBanda(r, *p); });
+        for (auto r = p; r != fin; ++r) {
+            if (r->Vacio()) return false;
+            if (r != p && (r - 1)->Der >= r->Izq) return false;
+        }
+        const std::span<const Rect> banda(p, fin);
+        if (!previa.empty()) {
+            if (previa.front().Aba > p->Arr) return false;
+            if (previa.front().Aba == p->Arr && MismasColumnas(previa, banda)) return false;
+        }
+        previa = banda;
+        p = fin;
+    }
+    return true;
+}
+
+Region CreateRectRgn(i32 izq, i32 arr, i32 der, i32 aba) {
+    return Region(
+        Rect{std::min(izq, der), std::min(arr, aba), std::max(izq, der), std::max(arr, aba)});
+}
+
+void SetRectRgn(Region& r, i32 izq, i32 arr, i32 der, i32 aba) {
+    r = CreateRectRgn(izq, arr, der, aba);
+}
+
+int CombineRgn(Region& destino, const Region& a, const Region& b, int modo) {
+    if (modo == RGN_COPY) {
+        destino = a;
+        return destino.Codigo();
+    }
+    const Combinador combina = CombinadorDe(modo);
+    if (!combina) {
+        destino = Region();
+    } else if (&destino == &a || &destino == &b) {
+        Lista lista;
+        combina(lista, a.rects_, b.rects_);
+        destino.rects_ = std::move(lista);
+    } else {
+        combina(destino.rects_, a.rects_, b.rects_);
+    }
+    return destino.Codigo();
+}
+
+bool SeCortan(const Region& a, const Region& b) {
+    Lector la(a.Rectangulos()), lb(b.Rectangulos());
+    while (!la.Acabado() && !lb.Acabado()) {
+        const i32 y = std::max(la.Arr(), lb.Arr());
+        for (const Rect& r : la.EnFila(y))
+            for (const Rect& q : lb.EnFila(y))
+                if (!Interseccion(r, q).Vacio()) return true;
+        const i32 siguiente = std::min(la.Proxima(y), lb.Proxima(y));
+        la.Avanza(siguiente);
+        lb.Avanza(siguiente);
+    }
+    return false;
+}
+
+}  // namespace tessario
