@@ -82,6 +82,12 @@ public:
     i32 Height() const { return alto_; }
     virtual void Tamano(i32 ancho, i32 alto);
     Rect Limites() const { return {0, 0, ancho_, alto_}; }
+    // A new size with Picture emptied, all ground; no more work than one pass over the pixels.
+    void TamanoLimpio(i32 ancho, i32 alto);
+    // The same without that pass: the pixels hold anything until the caller has written them all.
+    void TamanoLibre(i32 ancho, i32 alto);
+    // Exchanges drawing and size with another surface, without a copy; both Pictures are emptied.
+    void CambiaDibujo(Superficie& otra);
 
     // --- Persistent layer and ground.
     // Setting either clears the drawing down to Picture over the background colour.

@@ -1,0 +1,151 @@
+#include "pieces/Raster.h"
+
+#include <algorithm>
+
+#include "core/PuzzGbl.h"
+#include "pieces/RasterMascara.h"
+#include "pieces/Superficies.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr Pixel BLANCO = 0xFFFFFF;
+constexpr i32 BLOQUE = 16;  // side of the squares by which a surface is turned, pixels
+
+// One row of a piece's image: the source where the mask is black, 0 where it is white.
+void FilaEnmascarada(Pixel* destino, const Pixel* mascara, const Pixel* origen, i32 n) {
+    for (i32 x = 0; x < n; ++x) destino[x] = origen[x] & ~mascara[x];
+}
+
+// The same where the source has no pixels: the white ground shows through the mask.
+void FondoEnmascarado(Pixel* destino, const Pixel* mascara, i32 n) {
+    for (i32 x = 0; x < n; ++x) destino[x] = BLANCO & ~mascara[x];
+}
+
+// The piece's picture comes from where it belongs, not from where it lies: source copy and the
+// blackening of what is outside the mask (destination and not mask), in one pass.
+void CopiaCara(const Superficie& origen, i32 xo, i32 yo) {
+    const i32 w = Pic_PiezaMascara.Width(), h = Pic_PiezaMascara.Height();
+    Pic_PiezaImagen.TamanoLibre(w, h);
+    const Rect fuente = Interseccion(origen.Limites(), RectDe(xo, yo, w, h));
+    const i32 izq = fuente.Vacio() ? w : fuente.Izq - xo;
+    const i32 der = fuente.Vacio() ? w : fuente.Der - xo;
+    for (i32 y = 0; y < h; ++y) {
+        Pixel* destino = Pic_PiezaImagen.Fila(y);
+        const Pixel* mascara = Pic_PiezaMascara.Fila(y);
+        if (fuente.Vacio() || yo + y < fuente.Arr || yo + y >= fuente.Aba) {
+            FondoEnmascarado(destino, mascara, w);
+            continue;
+        }
+        FondoEnmascarado(destino, mascara, izq);
+        FilaEnmascarada(destino + izq, mascara + izq, origen.Fila(yo + y) + fuente.Izq, der - izq);
+        FondoEnmascarado(destino + der, mascara + der, w - der);
+    }
+}
+
+void Polilinea(Superficie& s, Color color, std::initializer_list<Punto> puntos) {
+    const Punto* anterior = nullptr;
+    for (const Punto& p : puntos) {
+        if (anterior)
+            s.Line(pluma::Desde | pluma::ConColor, anterior->x, anterior->y, p.x, p.y, color);
+        anterior = &p;
+    }
+}
+
+// The bevel of a sliding piece. The pen is two pixels wide, so what it leaves outside the mask is
+// blackened again.
+void RelieveDeslizante() {
+    const i32 lado = Gbl.AnchoPieza;
+    const i32 c = lado / 30, d = lado - 1, e = lado - c - 1, p = c + 2, q = e - 1;
+    Pic_PiezaImagen.DrawWidth = 2;
+    Polilinea(Pic_PiezaImagen, Gbl.ColorPiezasClaro,
+              {{p, d}, {1, q}, {1, p - 1}, {p - 1, 1}, {q + 1, 1}, {d, p - 1}});
+    Polilinea(Pic_PiezaImagen, Gbl.ColorPiezasOscuro, {{d, p}, {d, q}, {q, d}, {p, d}});
+    Pic_PiezaImagen.DrawWidth = 1;
+    Pic_PiezaImagen.PSet(d, p - 2, 0);
+    Pic_PiezaImagen.PSet(p - 2, d, 0);
+    BitBlt(Pic_PiezaImagen, 0, 0, Pic_PiezaImagen.Width(), Pic_PiezaImagen.Height(),
+           Pic_PiezaMascara, 0, 0, DSNA);
+}
+
+void PreparaMascara(i16 piece) {
+    switch (Gbl.JuegoActual) {
+        case JuegoMoviles:
+            return MascaraMoviles(piece);
+        case JuegoDeslizantes:
+            return MascaraDeslizantes();
+        default:
+            return MascaraTangram(piece);
+    }
+}
+
+// Calls paso(x0, y0, x1, y1) for the squares that cover w by h pixels: what is read in rows and
+// written in columns then stays in the nearest cache.
+template <class F>
+void PorBloques(i32 w, i32 h, F&& paso) {
+    for (i32 y = 0; y < h; y += BLOQUE)
+        for (i32 x = 0; x < w; x += BLOQUE)
+            paso(x, y, std::min(x + BLOQUE, w), std::min(y + BLOQUE, h));
+}
+
+void MediaVuelta(const Superficie& s, Superficie& destino) {
+    const i32 w = s.Width(), h = s.Height();
+    for (i32 y = 0; y < h; ++y)
+        std::reverse_copy(s.Fila(y), s.Fila(y) + w, destino.Fila(h - 1 - y));
+}
+
+// A quarter turn: the column x becomes the row x, its rows from the last to the first.
+void CuartoHorario(const Superficie& s, Superficie& destino) {
+    const i32 h = s.Height();
+    PorBloques(s.Width(), h, [&](i32 x0, i32 y0, i32 x1, i32 y1) {
+        for (i32 x = x0; x < x1; ++x) {
+            Pixel* fila = destino.Fila(x);
+            for (i32 y = y0; y < y1; ++y) fila[h - 1 - y] = s.Fila(y)[x];
+        }
+    });
+}
+
+// Three quarters: the column x becomes the row w - 1 - x.
+void CuartoAntihorario(const Superficie& s, Superficie& destino) {
+    const i32 w = s.Width();
+    PorBloques(w, s.Height(), [&](i32 x0, i32 y0, i32 x1, i32 y1) {
+        for (i32 x = x0; x < x1; ++x) {
+            Pixel* fila = destino.Fila(w - 1 - x);
+            for (i32 y = y0; y < y1; ++y) fila[y] = s.Fila(y)[x];
+        }
+    });
+}
+
+}  // namespace
+
+void PreparaPieza(i16 piece) {
+    Gbl.PiezaAux = Gbl.Piezas[piece];
+    PreparaMascara(piece);
+    CopiaCara(Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
+              Gbl.PiezaAux.XBien - Gbl.SalienteX, Gbl.PiezaAux.YBien - Gbl.SalienteY);
+    if (Gbl.DibujarBorde && Gbl.JuegoActual == JuegoTangram)
+        TrazaContorno(Pic_PiezaImagen, piece, 0, 0);
+    if (Gbl.DibujarBorde && Gbl.JuegoActual == JuegoDeslizantes) RelieveDeslizante();
+    if (Gbl.JuegoActual == JuegoMoviles && Gbl.PiezaAux.Giro != 0) {
+        GiraSuperficie(Pic_PiezaMascara, Gbl.PiezaAux.Giro);
+        GiraSuperficie(Pic_PiezaImagen, Gbl.PiezaAux.Giro);
+    }
+}
+
+void GiraSuperficie(Superficie& surface, i16 giro) {
+    if (giro < 1 || giro > 3) return;
+    // Pic_PiezaFinal is free between two paintings: it takes the turned pixels, then the two
+    // surfaces exchange their drawings.
+    if (giro == 2) {
+        Pic_PiezaFinal.TamanoLibre(surface.Width(), surface.Height());
+        MediaVuelta(surface, Pic_PiezaFinal);
+    } else {
+        Pic_PiezaFinal.TamanoLibre(surface.Height(), surface.Width());
+        giro == 1 ? CuartoHorario(surface, Pic_PiezaFinal)
+                  : CuartoAntihorario(surface, Pic_PiezaFinal);
+    }
+    surface.CambiaDibujo(Pic_PiezaFinal);
+}
+
+}  // namespace tessario
