@@ -164,6 +164,12 @@ struct ListaCarpetas : Control {
 struct ListaFicheros : Lista {
     std::string Path;                  // with a trailing "/"
     std::string Pattern;               // "*.bmp;*.jpg", without regard to case
+
+    void Relee();       // the rows anew from the file system; none is chosen
+    void Actualiza();   // the same, only if Path or Pattern differ from what was read last
+
+private:
+    std::string rutaLeida_, patronLeido_;
 };
 
 struct Temporizador {

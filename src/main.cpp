@@ -1,0 +1,52 @@
+// The program: makes the platform on the real window system and hands over to the game.
+#include <QApplication>
+#include <cstdio>
+
+#include "core/Arranque.h"
+#include "core/Servicios.h"
+#include "qt/Accesible.h"
+#include "qt/Estilo.h"
+#include "qt/Pantalla.h"
+#include "qt/PlataformaQt.h"
+#include "qt/Senales.h"
+
+namespace {
+
+constexpr tessario::i16 SONIDO_MANDO = 6;
+
+constexpr char SIN_PANTALLA[] =
+    "tessario: no hay ninguna pantalla en la que abrir la ventana del juego.\n"
+    "Inicie el programa desde una sesión gráfica (variable DISPLAY o WAYLAND_DISPLAY).\n";
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace tessario;
+    if (!HayPantalla()) {
+        std::fputs(SIN_PANTALLA, stderr);
+        return 1;
+    }
+    // Whole factors only: a picture box's pixel is a square of the screen's pixels.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+    int sinArgumentos = 1;
+    Q_UNUSED(argc)
+    QApplication aplicacion(sinArgumentos, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("tessario"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessario"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessario"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/imagenes/icono.png")));
+    VisteAplicacion();
+    InstalaAccesibilidad();
+
+    PlataformaQt plataforma;
+    PonSistema(&plataforma);
+    plataforma.SonidoDeMando = [] { SonidoJuego(1, SONIDO_MANDO); };
+    const Senales senales([&] { plataforma.Termina(); });
+
+    bool sigue = false;
+    plataforma.Entrega([&] { sigue = Main(); });
+    const int estado = sigue ? plataforma.Ejecuta() : 0;
+    PonSistema(nullptr);
+    return estado;
+}

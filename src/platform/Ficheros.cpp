@@ -1,0 +1,128 @@
+#include "platform/Ficheros.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <string_view>
+
+#include "platform/Controles.h"
+
+namespace tessario {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string SinCaja(std::string_view t) {
+    std::string s(t);
+    for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+}
+
+// "*" for any run of characters, "?" for one; both texts in lower case.
+bool Casa(std::string_view texto, std::string_view patron) {
+    std::size_t t = 0, p = 0, estrella = std::string_view::npos, vuelta = 0;
+    while (t < texto.size()) {
+        if (p < patron.size() && (patron[p] == '?' || patron[p] == texto[t])) {
+            ++t;
+            ++p;
+        } else if (p < patron.size() && patron[p] == '*') {
+            estrella = p++;
+            vuelta = t;
+        } else if (estrella != std::string_view::npos) {
+            p = estrella + 1;
+            t = ++vuelta;
+        } else {
+            return false;
+        }
+    }
+    while (p < patron.size() && patron[p] == '*') ++p;
+    return p == patron.size();
+}
+
+std::vector<std::string> Partes(const std::string& patron) {
+    std::vector<std::string> partes;
+    for (std::size_t i = 0; i <= patron.size();) {
+        const std::size_t fin = std::min(patron.find(';', i), patron.size());
+        if (fin > i) partes.push_back(SinCaja(patron.substr(i, fin - i)));
+        i = fin + 1;
+    }
+    return partes;
+}
+
+// The names of a folder for which `vale` holds, in order.
+template <class F>
+std::vector<std::string> Nombres(const std::string& ruta, F&& vale) {
+    std::vector<std::string> nombres;
+    std::error_code e;
+    fs::directory_iterator i(ruta, fs::directory_options::skip_permission_denied, e);
+    for (; !e && i != fs::directory_iterator(); i.increment(e)) {
+        const std::string nombre = i->path().filename().string();
+        if (!nombre.starts_with('.') && vale(*i, nombre)) nombres.push_back(nombre);
+    }
+    std::sort(nombres.begin(), nombres.end(), [](const std::string& a, const std::string& b) {
+        const std::string x = SinCaja(a), y = SinCaja(b);
+        return x != y ? x < y : a < b;
+    });
+    return nombres;
+}
+
+void Montajes(const std::string& base, int hondura, std::vector<Unidad>& salida) {
+    for (const std::string& nombre : CarpetasDe(base)) {
+        if (hondura > 1)
+            Montajes(base + nombre + "/", hondura - 1, salida);
+        else
+            salida.push_back({nombre, base + nombre + "/"});
+    }
+}
+
+}  // namespace
+
+std::vector<Unidad> Unidades() {
+    std::vector<Unidad> u{{"Equipo ( / )", "/"}};
+    if (const passwd* yo = getpwuid(getuid()); yo && yo->pw_dir && yo->pw_dir[0] == '/') {
+        std::string casa = yo->pw_dir;
+        if (casa.back() != '/') casa += '/';
+        if (casa != "/") u.push_back({"Carpeta personal", casa});
+    }
+    // The media that the desktop mounts lie one level below the player's name.
+    Montajes("/media/", 2, u);
+    Montajes("/run/media/", 2, u);
+    Montajes("/mnt/", 1, u);
+    return u;
+}
+
+std::vector<std::string> CarpetasDe(const std::string& ruta) {
+    return Nombres(ruta, [](const fs::directory_entry& d, const std::string&) {
+        std::error_code e;
+        return d.is_directory(e);
+    });
+}
+
+std::vector<std::string> FicherosDe(const std::string& ruta, const std::string& patron) {
+    const std::vector<std::string> partes = Partes(patron);
+    return Nombres(ruta, [&](const fs::directory_entry& d, const std::string& nombre) {
+        std::error_code e;
+        if (!d.is_regular_file(e)) return false;
+        const std::string n = SinCaja(nombre);
+        return partes.empty() || std::any_of(partes.begin(), partes.end(),
+                                             [&](const std::string& p) { return Casa(n, p); });
+    });
+}
+
+void ListaFicheros::Relee() {
+    rutaLeida_ = Path;
+    patronLeido_ = Pattern;
+    Elementos.clear();
+    ListIndex = -1;
+    for (const std::string& nombre : FicherosDe(Path, Pattern)) Elementos.push_back({nombre, 0});
+}
+
+void ListaFicheros::Actualiza() {
+    if (rutaLeida_ != Path || patronLeido_ != Pattern) Relee();
+}
+
+}  // namespace tessario

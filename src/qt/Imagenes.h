@@ -1,0 +1,20 @@
+// Pictures from files, from the program's resources and from other programs, as plain bitmaps.
+#pragma once
+
+#include <QImage>
+#include <string>
+#include <string_view>
+
+#include "platform/Superficie.h"
+
+namespace tessario::imagenes {
+
+// 0, 53 no such file, 7 too large, 481 not a picture. Files are told by their content.
+i32 Carga(const std::string& ruta, Mapa& destino);
+// A 24-bit BMP, replaced whole or not at all: 0, 61 disk full, 75 no access, 76 no such folder.
+i32 Guarda(const std::string& ruta, const Mapa& imagen);
+bool Recurso(std::string_view nombre, Mapa& destino);
+// Any image as 0x00RRGGBB; what is see-through shows white.
+Mapa Convierte(QImage imagen);
+
+}  // namespace tessario::imagenes

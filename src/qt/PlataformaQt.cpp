@@ -1,0 +1,308 @@
+#include "qt/PlataformaQt.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDir>
+#include <QMimeData>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QThread>
+#include <algorithm>
+#include <new>
+
+#include "core/Errores.h"
+#include "qt/Estilo.h"
+#include "qt/Imagenes.h"
+#include "qt/VistaVentana.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr long long PASO_NS = 4'000'000;  // between two looks at the window system's queue
+constexpr long long SEGUIDA_NS = 20'000;  // a call that comes sooner did nothing in between
+constexpr int SEGUIDAS_LIBRES = 300;      // so many of them before the loop is made to rest
+constexpr unsigned long DESCANSO_US = 1000;
+
+// Leaves a handler that still runs when the program ends. No run-time error of the game, so that
+// nothing on the way takes it for one.
+struct FinDelPrograma {};
+
+}  // namespace
+
+PlataformaQt::PlataformaQt() {
+    reloj_.start();
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+PlataformaQt::~PlataformaQt() {
+    for (VistaVentana* v : abiertas_) {
+        v->Termina();
+        delete v;
+    }
+}
+
+int PlataformaQt::Ejecuta() {
+    enMarcha_ = true;
+    if (!terminando_ && abiertas_.empty()) terminando_ = true;
+    return terminando_ ? 0 : QApplication::exec();
+}
+
+// --- Events and painting.
+
+void PlataformaQt::Entrega(const std::function<void()>& manejador) {
+    if (terminando_) return;
+    try {
+        manejador();
+    } catch (const ErrorEjecucion& e) {
+        PonErrorPendiente(e.Numero);
+    } catch (const std::bad_alloc&) {
+        PonErrorPendiente(ERROR_MEMORIA);
+    } catch (const FinDelPrograma&) {
+    }
+    if (!terminando_) Sincroniza(true);
+}
+
+void PlataformaQt::SuenaMando() {
+    if (SonidoDeMando) Entrega(SonidoDeMando);
+}
+
+void PlataformaQt::Sincroniza(bool ya) {
+    // Hiding a control takes its focus away, and the handler of that comes back here.
+    if (sincronizando_) return;
+    sincronizando_ = true;
+    const std::vector<VistaVentana*> ahora = abiertas_;
+    for (VistaVentana* v : ahora) v->Sincroniza();
+    for (VistaVentana* v : ahora) v->Presenta(ya);
+    sincronizando_ = false;
+}
+
+void PlataformaQt::Presenta() {
+    // A window that is painted during its Load comes up now: it has something to show.
+    for (std::size_t i = 0; i < abiertas_.size(); ++i) {
+        VistaVentana* const v = abiertas_[i];
+        if (!v->Ensenada() && !v->Modal() && !v->ventana().PantallaCompleta) {
+            v->Sincroniza();
+            v->Ensena();
+        }
+    }
+    Sincroniza(false);
+}
+
+void PlataformaQt::Duerme(double milisegundos) {
+    const long long fin = reloj_.nsecsElapsed() + static_cast<long long>(milisegundos * 1e6);
+    Presenta();
+    Sincroniza(true);
+    const long long falta = fin - reloj_.nsecsElapsed();
+    if (falta > 0 && !terminando_) QThread::usleep(static_cast<unsigned long>(falta / 1000));
+}
+
+void PlataformaQt::DejaPasarEventos() {
+    if (terminando_) throw FinDelPrograma{};
+    const long long ahora = reloj_.nsecsElapsed();
+    seguidas_ = ahora - ultimaVuelta_ < SEGUIDA_NS ? seguidas_ + 1 : 0;
+    if (seguidas_ > SEGUIDAS_LIBRES) QThread::usleep(DESCANSO_US);
+    if (ahora - ultimoPaso_ >= PASO_NS) {
+        Sincroniza(false);
+        QCoreApplication::processEvents();
+        RevisaPulsadas();
+        ultimoPaso_ = reloj_.nsecsElapsed();
+        if (terminando_) throw FinDelPrograma{};
+    }
+    ultimaVuelta_ = reloj_.nsecsElapsed();
+}
+
+bool PlataformaQt::BotonesApretados() {
+    return !terminando_ && QGuiApplication::mouseButtons() != Qt::NoButton;
+}
+
+// --- Windows.
+
+VistaVentana* PlataformaQt::VistaDe(const Ventana& v) const {
+    const auto i = std::find_if(abiertas_.begin(), abiertas_.end(),
+                                [&](const VistaVentana* a) { return &a->ventana() == &v; });
+    return i == abiertas_.end() ? nullptr : *i;
+}
+
+VistaVentana* PlataformaQt::Cima() const {
+    return abiertas_.empty() ? nullptr : abiertas_.back();
+}
+
+VistaVentana& PlataformaQt::Abre(Ventana& v, bool modal) {
+    auto* const vista = new VistaVentana(v, *this, Cima(), modal);
+    abiertas_.push_back(vista);
+    v.Abierta = true;
+    return *vista;
+}
+
+void PlataformaQt::Muestra(Ventana& v) {
+    if (v.Abierta && VistaDe(v)) {
+        VistaDe(v)->Ensena();
+        return;
+    }
+    Abre(v, false);
+    if (v.Load) Entrega(v.Load);
+    // The window may have been closed by its own Load.
+    if (VistaVentana* const vista = VistaDe(v)) {
+        vista->Sincroniza();
+        vista->Ensena();
+    }
+    if (VistaDe(v) && v.Activate) Entrega(v.Activate);
+    Sincroniza(true);
+}
+
+void PlataformaQt::MuestraModal(Ventana& v) {
+    if (terminando_) throw FinDelPrograma{};
+    if (v.Abierta && VistaDe(v)) return;
+    Abre(v, true);
+    if (v.Load) Entrega(v.Load);
+    if (VistaVentana* const vista = VistaDe(v)) {
+        vista->Sincroniza();
+        AnclaAyuda();
+        vista->Ensena();
+    }
+    if (VistaDe(v) && v.Activate) Entrega(v.Activate);
+    if (const QPointer<VistaVentana> vista = VistaDe(v)) {
+        QEventLoop bucle;
+        vista->PonBucle(&bucle);
+        bucle.exec();
+        if (vista) vista->PonBucle(nullptr);
+    }
+    if (terminando_) throw FinDelPrograma{};
+}
+
+void PlataformaQt::Cierra(Ventana& v) {
+    VistaVentana* const vista = VistaDe(v);
+    if (!v.Abierta || !vista) return;
+    v.Abierta = false;
+    if (v.Unload) Entrega(v.Unload);
+    std::erase(abiertas_, vista);
+    AnclaAyuda();
+    // The widgets go when no event of theirs runs any more.
+    vista->Termina();
+    if (VistaVentana* const otra = Cima(); otra && otra->Ensenada()) otra->activateWindow();
+    if (abiertas_.empty() && enMarcha_) Termina();
+}
+
+void PlataformaQt::PideCerrar(VistaVentana& vista) {
+    Ventana& v = vista.ventana();
+    bool cancela = false;
+    if (v.QueryUnload) Entrega([&] { v.QueryUnload(cancela); });
+    if (!cancela) Entrega([&] { Cierra(v); });
+}
+
+void PlataformaQt::Minimiza(Ventana& v) {
+    if (VistaVentana* const vista = VistaDe(v)) vista->showMinimized();
+}
+
+void PlataformaQt::PonFoco(Control& c) {
+    for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); ++i) {
+        (*i)->Sincroniza();
+        if (Vista* const vista = (*i)->VistaDe(c)) {
+            (*i)->ventana().Foco = (*i)->Ensenada() ? (*i)->ventana().Foco : &c;
+            vista->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+void PlataformaQt::Termina() {
+    if (terminando_) return;
+    terminando_ = true;
+    QCoreApplication::exit(0);  // all loops, the nested ones too
+}
+
+// --- Screen and time.
+
+i32 PlataformaQt::AnchoPantalla() {
+    return QGuiApplication::primaryScreen()->geometry().width();
+}
+i32 PlataformaQt::AltoPantalla() {
+    return QGuiApplication::primaryScreen()->geometry().height();
+}
+
+u32 PlataformaQt::timeGetTime() {
+    return static_cast<u32>(
+        static_cast<unsigned long long>(reloj_.msecsSinceReference() + reloj_.elapsed()));
+}
+
+double PlataformaQt::Timer() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+std::string PlataformaQt::Fecha() {
+    return QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy")).toStdString();
+}
+
+std::string PlataformaQt::Hora() {
+    return QTime::currentTime().toString(QStringLiteral("HH:mm:ss")).toStdString();
+}
+
+// --- Text, pictures, sound.
+
+i32 PlataformaQt::AnchoTexto(const Fuente& f, std::string_view t) {
+    return textos().Ancho(f, t);
+}
+i32 PlataformaQt::AltoTexto(const Fuente& f) {
+    return textos().Alto(f);
+}
+
+void PlataformaQt::PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
+                              Color color) {
+    textos().Pinta(s, x, y, texto, f, color);
+}
+
+i32 PlataformaQt::CargaImagen(const std::string& ruta, Mapa& destino) {
+    return imagenes::Carga(ruta, destino);
+}
+
+i32 PlataformaQt::GuardaImagen(const std::string& ruta, const Mapa& imagen) {
+    return imagenes::Guarda(ruta, imagen);
+}
+
+bool PlataformaQt::RecursoImagen(std::string_view nombre, Mapa& destino) {
+    return imagenes::Recurso(nombre, destino);
+}
+
+void PlataformaQt::Suena(i16 id, bool asincrono) {
+    if (terminando_) return;
+    if (!asincrono) Sincroniza(true);
+    sonidos_.Suena(id, asincrono);
+}
+
+bool PlataformaQt::PortapapelesTieneImagen() {
+    const QMimeData* const datos = QGuiApplication::clipboard()->mimeData();
+    return datos && datos->hasImage() && !QGuiApplication::clipboard()->image().isNull();
+}
+
+bool PlataformaQt::PortapapelesImagen(Mapa& destino) {
+    const QImage imagen = QGuiApplication::clipboard()->image();
+    if (imagen.isNull()) return false;
+    destino = imagenes::Convierte(imagen);
+    return destino.Ancho > 0;
+}
+
+// --- Help and folders.
+
+void PlataformaQt::Ayuda(i32 tema) {
+    if (!ayuda_) ayuda_ = std::make_unique<VentanaAyuda>();
+    AnclaAyuda();
+    ayuda_->Muestra(tema);
+}
+
+void PlataformaQt::AnclaAyuda() {
+    if (ayuda_) ayuda_->Ancla(Cima());
+}
+
+std::string PlataformaQt::CarpetaDelPrograma() {
+    return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString() + "/";
+}
+
+std::string PlataformaQt::CarpetaDelSistema() {
+    const QString ruta = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(ruta);
+    return QFile::encodeName(ruta).toStdString() + "/";
+}
+
+}  // namespace tessario

@@ -1,0 +1,132 @@
+#include "qt/Textos.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRegion>
+
+namespace tessario {
+
+namespace {
+
+constexpr std::size_t ANCHOS_GUARDADOS = 4096;  // widths kept for one font before a fresh start
+constexpr i32 REBORDE = 3;                      // glyphs may reach out of their box by so much
+
+QString Qs(std::string_view t) {
+    return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
+}
+
+QRegion RegionQt(const Region& r) {
+    QRegion q;
+    for (const Rect& c : r.Rectangulos()) q += QRect(c.Izq, c.Arr, c.Ancho(), c.Alto());
+    return q;
+}
+
+// Cuts one paragraph; a word wider than the line is cut within.
+void CortaParrafo(const QString& p, const QFontMetrics& m, i32 ancho,
+                  std::vector<QString>& salida) {
+    qsizetype inicio = 0;
+    do {
+        qsizetype corte = inicio;  // end of the last word that fits
+        qsizetype i = inicio;
+        while (i < p.size()) {
+            qsizetype fin = i;
+            while (fin < p.size() && p[fin] == u' ') ++fin;
+            while (fin < p.size() && p[fin] != u' ') ++fin;
+            if (m.horizontalAdvance(p.mid(inicio, fin - inicio)) > ancho) break;
+            corte = i = fin;
+        }
+        if (corte == inicio && i < p.size()) {
+            corte = inicio + 1;
+            while (corte < p.size() &&
+                   m.horizontalAdvance(p.mid(inicio, corte + 1 - inicio)) <= ancho)
+                ++corte;
+        }
+        salida.push_back(p.mid(inicio, corte - inicio));
+        inicio = corte;
+        while (inicio < p.size() && p[inicio] == u' ') ++inicio;
+    } while (inicio < p.size());
+}
+
+}  // namespace
+
+QFont FuenteQt(const Fuente& f) {
+    QFont q;
+    if (f.Tipo == Familia::Mono) {
+        q.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("monospace")});
+        q.setStyleHint(QFont::Monospace);
+    } else {
+        q.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("sans-serif")});
+        q.setStyleHint(QFont::SansSerif);
+    }
+    q.setPixelSize(std::max<int>(1, f.Tamano));
+    q.setBold(f.Negrita);
+    q.setUnderline(f.Subrayado);
+    q.setHintingPreference(QFont::PreferFullHinting);
+    q.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    return q;
+}
+
+Textos::Ficha& Textos::Entrada(const Fuente& f) {
+    const int clave = (f.Tamano << 3) | (f.Subrayado ? 4 : 0) | (f.Negrita ? 2 : 0) |
+                      (f.Tipo == Familia::Mono ? 1 : 0);
+    const auto i = fichas_.find(clave);
+    return i != fichas_.end() ? i->second : fichas_.emplace(clave, f).first->second;
+}
+
+i32 Textos::Ancho(const Fuente& f, std::string_view texto) {
+    Ficha& e = Entrada(f);
+    std::string clave(texto);
+    const auto i = e.anchos.find(clave);
+    if (i != e.anchos.end()) return i->second;
+    if (e.anchos.size() >= ANCHOS_GUARDADOS) e.anchos.clear();
+    const i32 ancho = e.medida.horizontalAdvance(Qs(texto));
+    e.anchos.emplace(std::move(clave), ancho);
+    return ancho;
+}
+
+i32 Textos::Alto(const Fuente& f) {
+    return Entrada(f).medida.height();
+}
+
+void Textos::Pinta(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
+                   Color color) {
+    if (texto.empty() || s.Limites().Vacio()) return;
+    // Far outside there is nothing to paint, and the sums below could overflow.
+    constexpr i32 LEJOS = 100000;
+    if (x < -LEJOS || x > LEJOS || y < -LEJOS || y > LEJOS) return;
+    Ficha& e = Entrada(f);
+    const Rect caja = Interseccion(
+        s.Limites(),
+        {x - REBORDE, y - REBORDE, x + Ancho(f, texto) + REBORDE, y + e.medida.height() + REBORDE});
+    if (caja.Vacio()) return;
+    {
+        QImage lienzo(reinterpret_cast<uchar*>(s.Fila(0)), s.Width(), s.Height(),
+                      static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32);
+        QPainter p(&lienzo);
+        QRegion recorte(caja.Izq, caja.Arr, caja.Ancho(), caja.Alto());
+        if (s.Recorte()) recorte &= RegionQt(*s.Recorte());
+        p.setClipRegion(recorte);
+        p.setFont(e.letra);
+        p.setPen(QColor::fromRgb(PixelDe(color)));
+        p.drawText(x, y + e.medida.ascent(), Qs(texto));
+    }
+    // The painter leaves 0xFF in the upper byte of what it blends; ours is always 0.
+    for (i32 fila = caja.Arr; fila < caja.Aba; ++fila) {
+        Pixel* const p = s.Fila(fila);
+        for (i32 col = caja.Izq; col < caja.Der; ++col) p[col] &= 0xFFFFFFU;
+    }
+    s.Marca(caja);
+}
+
+std::vector<QString> Textos::Renglones(const Fuente& f, std::string_view texto, i32 ancho) {
+    QString t = Qs(texto);
+    t.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    t.replace(u'\r', u'\n');
+    std::vector<QString> salida;
+    for (const QString& parrafo : t.split(u'\n'))
+        CortaParrafo(parrafo, Entrada(f).medida, ancho, salida);
+    return salida;
+}
+
+}  // namespace tessario

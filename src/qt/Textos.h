@@ -1,0 +1,46 @@
+// Fonts and text: one QFont for each Fuente, widths kept, painting onto surfaces, wrapping.
+// Sizes are pixels and hinting is full, so that the same pixels come out on every screen.
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QString>
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Superficie.h"
+
+namespace tessario {
+
+QFont FuenteQt(const Fuente& f);
+
+class Textos {
+public:
+    i32 Ancho(const Fuente& f, std::string_view texto);
+    i32 Alto(const Fuente& f);
+    // Paints the text with its top left at (x, y), clipped to the surface and its clip region.
+    void Pinta(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f, Color color);
+
+    const QFont& Letra(const Fuente& f) { return Entrada(f).letra; }
+    const QFontMetrics& Medida(const Fuente& f) { return Entrada(f).medida; }
+    // Height from one line of a block to the next.
+    static i32 Interlinea(const Fuente& f) { return f.Tamano + 3; }
+    // The text cut into lines no wider than `ancho`. Runs of blanks are kept within a line and at
+    // its beginning after a line end; those at which a line is broken stay on the line that ends.
+    std::vector<QString> Renglones(const Fuente& f, std::string_view texto, i32 ancho);
+
+private:
+    struct Ficha {
+        QFont letra;
+        QFontMetrics medida;
+        std::unordered_map<std::string, i32> anchos;
+        explicit Ficha(const Fuente& f) : letra(FuenteQt(f)), medida(letra) {}
+    };
+    Ficha& Entrada(const Fuente& f);
+    std::map<int, Ficha> fichas_;
+};
+
+}  // namespace tessario

@@ -1,0 +1,43 @@
+// The help: pages by topic from the program's resources, with index, search and a way back.
+#pragma once
+
+#include <QMap>
+#include <QWidget>
+
+#include "platform/Tipos.h"
+
+class QLineEdit;
+class QListWidget;
+class QTextBrowser;
+
+namespace tessario {
+
+class VentanaAyuda : public QWidget {
+public:
+    VentanaAyuda();
+    // Shows a topic; 0 and topics without a page of their own show the start page.
+    void Muestra(i32 tema);
+    // Ties the window to the one that is on top now, which may be modal: it stays usable beside it.
+    void Ancla(QWidget* duena);
+    QTextBrowser& Hojas() const { return *hojas_; }
+    QListWidget& Indice() const { return *indice_; }
+    QLineEdit& Busqueda() const { return *busca_; }
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    struct Hoja {
+        QString ruta, titulo, texto;  // texto: in lower case, for the search
+    };
+    void LeeHojas();
+    void RellenaIndice(const QString& buscado);
+    void MarcaEnIndice();
+
+    QList<Hoja> hojasTodas_;
+    QTextBrowser* hojas_;
+    QListWidget* indice_;
+    QLineEdit* busca_;
+};
+
+}  // namespace tessario

@@ -1,0 +1,282 @@
+#include "qt/Vista.h"
+
+#include <QAbstractScrollArea>
+#include <QFocusEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "qt/Entrada.h"
+#include "qt/Estilo.h"
+#include "qt/VistaVentana.h"
+
+namespace tessario {
+
+namespace {
+
+QString Qs(const std::string& t) {
+    return QString::fromStdString(t);
+}
+
+bool ReaccionaATeclas(const Control& c) {
+    return c.KeyPress || c.KeyDown || c.GotFocus;
+}
+
+}  // namespace
+
+Vista::Vista(Control& c, VistaVentana& v, QWidget* padre)
+    : QWidget(padre), control_(c), ventana_(v) {
+    setMouseTracking(true);
+    setObjectName(Qs(c.Nombre));
+    hide();
+}
+
+Anfitrion& Vista::anfitrion() const {
+    return ventana_.anfitrion();
+}
+bool Vista::Viva() const {
+    return ventana_.Viva() && ventana_.EsMia(this);
+}
+
+i32 Vista::Sincroniza() {
+    const Control& c = control_;
+    i32 area = 0;
+    const QRect sitio(c.Left, c.Top, c.Width(), c.Height());
+    const bool visible = c.Visible && !sitio.isEmpty();
+    if (geometry() != sitio) {
+        if (visible && visto_.Visible)
+            area += geometry().width() * geometry().height() + sitio.width() * sitio.height();
+        setGeometry(sitio);
+    }
+    if (visto_.primera || visto_.Enabled != c.Enabled) {
+        visto_.Enabled = c.Enabled;
+        if (QWidget* i = Interior()) i->setEnabled(c.Enabled);
+        update();
+    }
+    const i16 puntero = c.MousePointer != PUNTERO_NORMAL || Interior()
+                            ? c.MousePointer
+                            : ventana_.ventana().MousePointer;
+    const std::string& icono =
+        c.MousePointer != PUNTERO_NORMAL ? c.MouseIcon : ventana_.ventana().MouseIcon;
+    if (visto_.puntero != puntero || visto_.icono != icono) {
+        visto_.puntero = puntero;
+        visto_.icono = icono;
+        setCursor(anfitrion().cursores().De(puntero, icono));
+        if (QWidget* i = Interior(); i && puntero != PUNTERO_NORMAL) {
+            const auto* rollo = qobject_cast<QAbstractScrollArea*>(i);
+            (rollo ? rollo->viewport() : i)->setCursor(cursor());
+        }
+    }
+    PonEtiquetas();
+    PonFocoPosible();
+    area += SincronizaPropio();
+    if (visto_.Visible != visible) {
+        visto_.Visible = visible;
+        setVisible(visible);
+        area += sitio.width() * sitio.height();
+    }
+    visto_.primera = false;
+    return area;
+}
+
+void Vista::PonEtiquetas() {
+    const Control& c = control_;
+    if (visto_.sugerencia == c.ToolTipText && visto_.nombre == c.NombreAccesible && !visto_.primera)
+        return;
+    visto_.sugerencia = c.ToolTipText;
+    visto_.nombre = c.NombreAccesible;
+    const QString sugerencia = Qs(c.ToolTipText).trimmed();
+    setToolTip(sugerencia);
+    const QString nombre = c.NombreAccesible.empty() ? sugerencia : Qs(c.NombreAccesible);
+    setAccessibleName(nombre);
+    if (QWidget* i = Interior()) i->setAccessibleName(nombre);
+}
+
+void Vista::PonFocoPosible() {
+    const bool teclas = ReaccionaATeclas(control_) || Interior() || !EsBoton();
+    Qt::FocusPolicy p = Qt::NoFocus;
+    if (control_.Enabled && control_.TabStop)
+        p = teclas ? Qt::StrongFocus : Qt::TabFocus;
+    else if (control_.Enabled && (ReaccionaATeclas(control_) || Interior()))
+        p = Qt::ClickFocus;
+    QWidget* const quien = Interior() ? Interior() : this;
+    if (quien->focusPolicy() != p) quien->setFocusPolicy(p);
+}
+
+void Vista::PonInterior(QWidget* w) {
+    w->setMouseTracking(true);
+    w->installEventFilter(this);
+    setFocusProxy(w);
+    if (auto* rollo = qobject_cast<QAbstractScrollArea*>(w)) {
+        rollo->viewport()->setMouseTracking(true);
+        rollo->viewport()->installEventFilter(this);
+    }
+}
+
+void Vista::resizeEvent(QResizeEvent*) {
+    if (QWidget* i = Interior()) i->setGeometry(rect());
+}
+
+// --- Events.
+
+bool Vista::event(QEvent* e) {
+    switch (e->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseMove:
+            return EventoDeRaton(e, false);
+        case QEvent::KeyPress: {
+            auto& k = static_cast<QKeyEvent&>(*e);
+            const bool tab = k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
+            if (tab && QWidget::event(e) && e->isAccepted()) return true;
+            ventana_.Tecla(k, this);
+            e->accept();
+            return true;
+        }
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            Foco(e->type() == QEvent::FocusIn, static_cast<QFocusEvent*>(e)->reason());
+            break;
+        default:
+            break;
+    }
+    return QWidget::event(e);
+}
+
+bool Vista::eventFilter(QObject* o, QEvent* e) {
+    switch (e->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseMove: {
+            if (!control_.Enabled) return true;
+            const auto* m = static_cast<QMouseEvent*>(e);
+            QMouseEvent propio(m->type(), static_cast<QWidget*>(o)->mapTo(this, m->position()),
+                               m->globalPosition(), m->button(), m->buttons(), m->modifiers());
+            EventoDeRaton(&propio, true);
+            return !Viva();
+        }
+        case QEvent::KeyPress: {
+            if (o != Interior()) return false;
+            auto& k = static_cast<QKeyEvent&>(*e);
+            if (k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab) return false;
+            return ventana_.Tecla(k, this);
+        }
+        case QEvent::FocusIn:
+        case QEvent::FocusOut:
+            if (o == Interior())
+                Foco(e->type() == QEvent::FocusIn, static_cast<QFocusEvent*>(e)->reason());
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool Vista::EventoDeRaton(QEvent* e, bool interior) {
+    // A control that is disabled swallows the mouse: nothing below it is clicked either.
+    e->accept();
+    const auto* m = static_cast<QMouseEvent*>(e);
+    if (!Viva()) return true;
+    if (!control_.Enabled && e->type() != QEvent::MouseButtonRelease) return true;
+    switch (e->type()) {
+        case QEvent::MouseMove:
+            Mueve(m->buttons(), m->modifiers(), m->position());
+            break;
+        case QEvent::MouseButtonRelease:
+            Suelta(m->button(), m->position());
+            break;
+        default:
+            Aprieta(m->button(), m->modifiers(), m->position(),
+                    e->type() == QEvent::MouseButtonDblClick && !interior);
+    }
+    return true;
+}
+
+void Vista::Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble) {
+    const i16 boton = BotonDe(b);
+    if (!boton) return;
+    anfitrion().RevisaPulsadas();
+    if (!Viva()) return;
+    anfitrion().AnotaPulsada(this, b);
+    if (anillo_ && EsBoton()) {
+        anillo_ = false;
+        update();
+    }
+    if (b == Qt::LeftButton) AlApretar(p);
+    if (control_.MouseDown)
+        anfitrion().Entrega([&] {
+            control_.MouseDown(boton, ShiftDe(m), static_cast<float>(p.x()),
+                               static_cast<float>(p.y()));
+        });
+    if (doble && Viva() && control_.DblClick) anfitrion().Entrega(control_.DblClick);
+}
+
+void Vista::Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p) {
+    if (b == Qt::NoButton) anfitrion().RevisaPulsadas();
+    if (!Viva()) return;
+    if (b & Qt::LeftButton) AlArrastrar(p);
+    if (control_.MouseMove)
+        anfitrion().Entrega([&] {
+            control_.MouseMove(BotonesDe(b), ShiftDe(m), static_cast<float>(p.x()),
+                               static_cast<float>(p.y()));
+        });
+}
+
+void Vista::Suelta(Qt::MouseButton b, QPointF p) {
+    if (!anfitrion().TomaPulsada(this, b) || !Viva()) return;
+    if (b == Qt::LeftButton) AlSoltar(p);
+    if (!Viva() || !control_.Enabled) return;
+    const i16 boton = BotonDe(b);
+    if (control_.MouseUp)
+        anfitrion().Entrega([&] {
+            control_.MouseUp(boton, 0, static_cast<float>(p.x()), static_cast<float>(p.y()));
+        });
+    // The standard widgets report their own choice as the click.
+    if (Interior() || b == Qt::MiddleButton || !control_.Click) return;
+    if (Viva() && control_.Visible && control_.Enabled && rect().contains(p.toPoint()))
+        anfitrion().Entrega(control_.Click);
+}
+
+void Vista::Tecla(const QKeyEvent& e) {
+    if (control_.KeyDown && KeyCodeDe(e))
+        anfitrion().Entrega([&] { control_.KeyDown(KeyCodeDe(e), ShiftDe(e.modifiers())); });
+    if (Viva() && control_.KeyPress && KeyAsciiDe(e))
+        anfitrion().Entrega([&] { control_.KeyPress(KeyAsciiDe(e)); });
+    if (Viva() && control_.Enabled) TeclaPropia(e);
+}
+
+bool Vista::PulsaTecla() {
+    if (!EsBoton() || !control_.TabStop || !control_.Enabled) return false;
+    PulsaConTeclado();
+    return true;
+}
+
+void Vista::PulsaConTeclado() {
+    const float x = static_cast<float>(width() / 2), y = static_cast<float>(height() / 2);
+    const auto entrega = [&](const auto& evento) {
+        if (Viva() && control_.Enabled && evento)
+            anfitrion().Entrega([&] { evento(BOTON_IZQUIERDO, 0, x, y); });
+    };
+    entrega(control_.MouseDown);
+    entrega(control_.MouseUp);
+    if (Viva() && control_.Enabled && control_.Click) anfitrion().Entrega(control_.Click);
+}
+
+void Vista::Foco(bool entra, Qt::FocusReason razon) {
+    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason) {
+        update();
+        return;
+    }
+    anillo_ = entra && (razon == Qt::TabFocusReason || razon == Qt::BacktabFocusReason);
+    update();
+    if (!Viva()) return;
+    const auto& evento = entra ? control_.GotFocus : control_.LostFocus;
+    if (evento) anfitrion().Entrega(evento);
+}
+
+void Vista::PintaAnillo(QPainter& p, QRect r) const {
+    if (AnilloVisible()) estilo::Anillo(p, r);
+}
+
+}  // namespace tessario

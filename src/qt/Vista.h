@@ -1,0 +1,78 @@
+// The view of one control record: a widget that shows the record and turns what the window system
+// reports into the record's events. Each kind derives from this and adds its looks.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <string>
+
+#include "platform/Controles.h"
+#include "qt/Anfitrion.h"
+
+namespace tessario {
+
+class VistaVentana;
+
+class Vista : public QWidget, public RecibeSuelta {
+public:
+    Vista(Control& c, VistaVentana& v, QWidget* padre);
+
+    Control& control() const { return control_; }
+    VistaVentana& ventana() const { return ventana_; }
+
+    // Brings the widget in step with the record's fields and marks what must be painted anew.
+    // Returns the area marked, in pixels.
+    i32 Sincroniza();
+    // Delivers what a key does to the control; the window has had it already.
+    void Tecla(const QKeyEvent& e);
+    // MouseDown at the centre, MouseUp, Click: what Space and Enter do.
+    void PulsaConTeclado();
+    // Space or Enter: presses a control that acts as a button; false if it is none.
+    bool PulsaTecla();
+    void Suelta(Qt::MouseButton boton, QPointF punto) override;
+    bool AnilloVisible() const { return anillo_ && hasFocus(); }
+
+protected:
+    // --- What a kind adds.
+    virtual i32 SincronizaPropio() { return 0; }                  // returns the area marked
+    virtual bool TeclaPropia(const QKeyEvent&) { return false; }  // true: used up
+    virtual bool EsBoton() const { return false; }                // Space and Enter press it
+    virtual QWidget* Interior() { return nullptr; }  // a standard widget that fills the view
+    virtual void AlApretar(QPointF) {}               // looks of the press and the release
+    virtual void AlArrastrar(QPointF) {}
+    virtual void AlSoltar(QPointF) {}
+
+    void PonInterior(QWidget* w);  // adopts the standard widget: its events come through here
+    void PintaAnillo(QPainter& p, QRect r) const;
+    Anfitrion& anfitrion() const;
+    bool Viva() const;  // the window is still open
+
+    bool event(QEvent* e) override;
+    bool eventFilter(QObject* o, QEvent* e) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    bool EventoDeRaton(QEvent* e, bool interior);
+    void Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble);
+    void Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
+    void Foco(bool entra, Qt::FocusReason razon);
+    void PonEtiquetas();
+    void PonFocoPosible();
+
+    Control& control_;
+    VistaVentana& ventana_;
+    bool anillo_ = false;
+
+    // The record as it was last seen.
+    struct Visto {
+        bool Visible = false, Enabled = true;
+        i16 puntero = -1;
+        std::string icono, sugerencia, nombre;
+        bool primera = true;
+    } visto_;
+};
+
+// The view that suits the record's kind.
+Vista* CreaVista(Control& c, VistaVentana& v, QWidget* padre);
+
+}  // namespace tessario

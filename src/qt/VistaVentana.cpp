@@ -1,0 +1,300 @@
+#include "qt/VistaVentana.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
+#include <chrono>
+
+#include "qt/Entrada.h"
+#include "qt/VistasPintadas.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr long long CUADRO_MS = 16;         // time between two pictures of the screen
+constexpr int ESPERA_EXPOSICION_MS = 1500;  // at most, for the window to come up
+
+long long Ahora() {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+Qt::WindowFlags Marcas(const Ventana& v, bool modal) {
+    if (v.PantallaCompleta) return Qt::Window | Qt::FramelessWindowHint;
+    return (modal ? Qt::Dialog : Qt::Window) | Qt::FramelessWindowHint;
+}
+
+}  // namespace
+
+VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, QWidget* duena, bool modal)
+    : QWidget(duena, Marcas(v, modal)), ventana_(v), anfitrion_(a), modal_(modal) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setObjectName(QString::fromStdString(v.Nombre));
+    if (modal) setWindowModality(Qt::ApplicationModal);
+}
+
+Vista* VistaVentana::VistaDe(const Control& c) const {
+    const auto i = vistas_.find(&c);
+    return i == vistas_.end() ? nullptr : i->second;
+}
+
+bool VistaVentana::EsMia(const Vista* v) const {
+    const auto i = vistas_.find(&v->control());
+    return i != vistas_.end() && i->second == v;
+}
+
+QRect VistaVentana::Sitio() const {
+    if (ventana_.PantallaCompleta) return QGuiApplication::primaryScreen()->geometry();
+    return {ventana_.Left, ventana_.Top, std::max(ventana_.Width(), 1),
+            std::max(ventana_.Height(), 1)};
+}
+
+// --- Keeping in step.
+
+void VistaVentana::Sincroniza() {
+    if (!viva_) return;
+    const QRect sitio = Sitio();
+    if (sitio_ != sitio) {
+        sitio_ = sitio;
+        if (!ventana_.PantallaCompleta) setFixedSize(sitio.size());
+        setGeometry(sitio);
+    }
+    if (titulo_ != ventana_.Caption || windowTitle().isEmpty()) {
+        titulo_ = ventana_.Caption;
+        const QString t = QString::fromStdString(titulo_).trimmed();
+        setWindowTitle(t.isEmpty() ? QStringLiteral("Tessario") : t);
+    }
+    if (puntero_ != ventana_.MousePointer || icono_ != ventana_.MouseIcon) {
+        puntero_ = ventana_.MousePointer;
+        icono_ = ventana_.MouseIcon;
+        setCursor(anfitrion_.cursores().De(puntero_, icono_));
+    }
+    const Rect r = Interseccion(ventana_.TomaSucio(), ventana_.Limites());
+    if (!r.Vacio()) {
+        update(r.Izq, r.Arr, r.Ancho(), r.Alto());
+        areaPendiente_ += static_cast<long long>(r.Ancho()) * r.Alto();
+    }
+    SincronizaControles();
+    SincronizaReloj();
+}
+
+void VistaVentana::SincronizaControles() {
+    if (orden_ != ventana_.Controles) RehaceVistas();
+    for (std::size_t i = 0; i < enOrden_.size(); ++i) {
+        Vista* const v = enOrden_[i];
+        Control* const c = orden_[i];
+        const auto contenedor = c->Contenedor ? vistas_.find(c->Contenedor) : vistas_.end();
+        QWidget* const padre =
+            contenedor != vistas_.end() ? contenedor->second : static_cast<QWidget*>(this);
+        if (v->parentWidget() != padre) {
+            const bool estaba = v->isVisible();
+            v->setParent(padre);
+            v->setVisible(estaba);
+        }
+        areaPendiente_ += v->Sincroniza();
+    }
+}
+
+void VistaVentana::RehaceVistas() {
+    std::unordered_map<const Control*, Vista*> viejas;
+    viejas.swap(vistas_);
+    enOrden_.clear();
+    orden_ = ventana_.Controles;
+    Vista* anterior = nullptr;
+    for (Control* c : orden_) {
+        const auto v = viejas.find(c);
+        const auto padre = c->Contenedor ? vistas_.find(c->Contenedor) : vistas_.end();
+        QWidget* const donde = padre != vistas_.end() ? padre->second : static_cast<QWidget*>(this);
+        Vista* const vista = v != viejas.end() ? v->second : CreaVista(*c, *this, donde);
+        if (v != viejas.end()) {
+            viejas.erase(v);
+            vista->raise();
+        }
+        vistas_[c] = vista;
+        enOrden_.push_back(vista);
+        if (anterior) setTabOrder(anterior, vista);
+        anterior = vista;
+    }
+    for (const auto& [c, vista] : viejas) {
+        vista->hide();
+        vista->deleteLater();
+    }
+}
+
+void VistaVentana::SincronizaReloj() {
+    for (Temporizador* t : ventana_.Temporizadores) {
+        const auto i = std::find_if(relojes_.begin(), relojes_.end(),
+                                    [&](const auto& r) { return r->registro == t; });
+        if (i != relojes_.end()) continue;
+        auto nuevo = std::make_unique<Reloj>();
+        Reloj* const r = nuevo.get();
+        r->registro = t;
+        r->timer = std::make_unique<QTimer>();
+        r->timer->setTimerType(Qt::PreciseTimer);
+        connect(r->timer.get(), &QTimer::timeout, this, [this, r] {
+            if (!viva_ || r->corriendo || !r->registro->Enabled || !r->registro->Timer) return;
+            r->corriendo = true;
+            anfitrion_.Entrega(r->registro->Timer);
+            r->corriendo = false;
+        });
+        relojes_.push_back(std::move(nuevo));
+    }
+    for (const auto& r : relojes_) {
+        const bool anda = viva_ && r->registro->Enabled && r->registro->Interval > 0;
+        if (anda && (!r->timer->isActive() || r->timer->interval() != r->registro->Interval))
+            r->timer->start(r->registro->Interval);
+        else if (!anda && r->timer->isActive())
+            r->timer->stop();
+    }
+}
+
+void VistaVentana::Presenta(bool ya) {
+    if (!ensenada_ || !viva_) return;
+    if (areaPendiente_ > static_cast<long long>(width()) * height() / 4) {
+        const long long ahora = Ahora();
+        if (!ya && ahora - ultimaGrande_ < CUADRO_MS) return;
+        ultimaGrande_ = ahora;
+    }
+    areaPendiente_ = 0;
+    // Everything that update() has marked in this window is painted and shown in one go.
+    QEvent pinta(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(this, &pinta);
+}
+
+void VistaVentana::Ensena() {
+    if (ensenada_ || !viva_) return;
+    ensenada_ = true;
+    if (ventana_.PantallaCompleta) {
+        // Without a window manager the full-screen form keeps the size that it had.
+        setGeometry(Sitio());
+        showFullScreen();
+    } else {
+        show();
+    }
+    QElapsedTimer t;
+    t.start();
+    while (viva_ && windowHandle() && !windowHandle()->isExposed() &&
+           t.elapsed() < ESPERA_EXPOSICION_MS)
+        QCoreApplication::processEvents(
+            QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+    if (!viva_) return;
+    raise();
+    activateWindow();
+    Sincroniza();
+    Vista* const foco = ventana_.Foco ? VistaDe(*ventana_.Foco) : nullptr;
+    if (foco)
+        foco->setFocus(Qt::OtherFocusReason);
+    else if (!focusWidget())
+        setFocus(Qt::OtherFocusReason);
+    Presenta(true);
+}
+
+void VistaVentana::Termina() {
+    if (!viva_) return;
+    viva_ = false;
+    anfitrion_.OlvidaPulsadas(this);
+    for (const auto& r : relojes_) r->timer->stop();
+    hide();
+    if (bucle_) bucle_->quit();
+    deleteLater();
+}
+
+// --- Events.
+
+bool VistaVentana::Tecla(const QKeyEvent& e, Vista* foco) {
+    if (!viva_) return true;
+    const int k = e.key();
+    // Deliberate: a control that the player has reached with Tab, and that shows it, is pressed by
+    // Space or Enter before the window sees the key, so that what is lit is what happens.
+    const bool pulsa = k == Qt::Key_Space || k == Qt::Key_Return || k == Qt::Key_Enter;
+    if (pulsa && foco && foco->AnilloVisible() && foco->PulsaTecla()) return true;
+    if (ventana_.KeyDown && KeyCodeDe(e))
+        anfitrion_.Entrega([&] { ventana_.KeyDown(KeyCodeDe(e), ShiftDe(e.modifiers())); });
+    if (viva_ && ventana_.KeyPress && KeyAsciiDe(e))
+        anfitrion_.Entrega([&] { ventana_.KeyPress(KeyAsciiDe(e)); });
+    if (viva_ && foco && EsMia(foco)) foco->Tecla(e);
+    return !viva_;
+}
+
+bool VistaVentana::event(QEvent* e) {
+    switch (e->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseMove:
+            Raton(static_cast<QMouseEvent&>(*e));
+            return true;
+        case QEvent::KeyPress: {
+            auto& k = static_cast<QKeyEvent&>(*e);
+            const bool tab = k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
+            if (tab && QWidget::event(e) && e->isAccepted()) return true;
+            Tecla(k, nullptr);
+            e->accept();
+            return true;
+        }
+        default:
+            return QWidget::event(e);
+    }
+}
+
+void VistaVentana::Raton(QMouseEvent& m) {
+    m.accept();
+    if (!viva_) return;
+    const auto x = static_cast<float>(m.position().x());
+    const auto y = static_cast<float>(m.position().y());
+    const i16 shift = ShiftDe(m.modifiers());
+    if (m.type() == QEvent::MouseButtonRelease) {
+        Suelta(m.button(), m.position());
+        return;
+    }
+    if (m.type() == QEvent::MouseMove) {
+        if (m.buttons() == Qt::NoButton) anfitrion_.RevisaPulsadas();
+        if (viva_ && ventana_.MouseMove)
+            anfitrion_.Entrega([&] { ventana_.MouseMove(BotonesDe(m.buttons()), shift, x, y); });
+        return;
+    }
+    if (!BotonDe(m.button())) return;
+    anfitrion_.RevisaPulsadas();
+    if (!viva_) return;
+    anfitrion_.AnotaPulsada(this, m.button());
+    if (ventana_.MouseDown)
+        anfitrion_.Entrega([&] { ventana_.MouseDown(BotonDe(m.button()), shift, x, y); });
+}
+
+void VistaVentana::Suelta(Qt::MouseButton boton, QPointF p) {
+    if (!anfitrion_.TomaPulsada(this, boton) || !viva_ || !ventana_.MouseUp) return;
+    anfitrion_.Entrega([&] {
+        ventana_.MouseUp(BotonDe(boton), 0, static_cast<float>(p.x()), static_cast<float>(p.y()));
+    });
+}
+
+void VistaVentana::paintEvent(QPaintEvent* e) {
+    PintaSuperficie(*this, ventana_, *e);
+}
+
+void VistaVentana::closeEvent(QCloseEvent* e) {
+    e->ignore();
+    if (viva_) anfitrion_.PideCerrar(*this);
+}
+
+// The wheel moves the vertical bar that is in view.
+void VistaVentana::wheelEvent(QWheelEvent* e) {
+    if (!viva_ || anfitrion_.HayPulsadas()) return;
+    for (Control* c : orden_) {
+        auto* const barra = dynamic_cast<BarraDesplazamiento*>(c);
+        if (!barra || !barra->Vertical || !barra->Visible || barra->Max <= barra->Min) continue;
+        const i32 pasos = e->angleDelta().y() / 40;
+        if (pasos)
+            anfitrion_.Entrega([&] { barra->Pon(barra->Value - pasos * barra->SmallChange); });
+        e->accept();
+        return;
+    }
+}
+
+}  // namespace tessario

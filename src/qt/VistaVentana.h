@@ -1,0 +1,79 @@
+// The view of one window record: the widget, the views of its controls in their order, its timers.
+#pragma once
+
+#include <QEventLoop>
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Controles.h"
+#include "qt/Anfitrion.h"
+#include "qt/Vista.h"
+
+namespace tessario {
+
+class VistaVentana : public QWidget, public RecibeSuelta {
+public:
+    VistaVentana(Ventana& v, Anfitrion& a, QWidget* duena, bool modal);
+
+    Ventana& ventana() const { return ventana_; }
+    Anfitrion& anfitrion() const { return anfitrion_; }
+    Vista* VistaDe(const Control& c) const;
+    bool EsMia(const Vista* v) const;
+    bool Viva() const { return viva_; }
+    bool Modal() const { return modal_; }
+
+    // Walks the records and marks what differs from what was seen last.
+    void Sincroniza();
+    // Paints what is marked: at once if `ya` or the area is small, else when the screen is ready
+    // to show another whole picture.
+    void Presenta(bool ya);
+    // On the screen, exposed, with the focus where the record wants it.
+    void Ensena();
+    bool Ensenada() const { return ensenada_; }
+    // The loop that waits for the window, ended when it closes.
+    void PonBucle(QEventLoop* bucle) { bucle_ = bucle; }
+    // The window is closed: no more events; the widget goes away by itself.
+    void Termina();
+
+    // A key: to the window, then to the control. True: used up, or the window is gone.
+    bool Tecla(const QKeyEvent& e, Vista* foco);
+    void Suelta(Qt::MouseButton boton, QPointF punto) override;
+
+protected:
+    bool event(QEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+    void wheelEvent(QWheelEvent* e) override;
+
+private:
+    void SincronizaControles();
+    void RehaceVistas();
+    void SincronizaReloj();
+    QRect Sitio() const;
+    void Raton(QMouseEvent& m);
+
+    struct Reloj {
+        Temporizador* registro = nullptr;
+        std::unique_ptr<QTimer> timer;
+        bool corriendo = false;  // its handler runs
+    };
+
+    Ventana& ventana_;
+    Anfitrion& anfitrion_;
+    bool modal_ = false, viva_ = true, ensenada_ = false;
+    QEventLoop* bucle_ = nullptr;
+    std::vector<Control*> orden_;
+    std::unordered_map<const Control*, Vista*> vistas_;
+    std::vector<Vista*> enOrden_;
+    std::vector<std::unique_ptr<Reloj>> relojes_;
+    i16 puntero_ = -1;
+    std::string icono_, titulo_;
+    QRect sitio_;
+    long long areaPendiente_ = 0;
+    long long ultimaGrande_ = 0;  // ms of the steady clock
+};
+
+}  // namespace tessario

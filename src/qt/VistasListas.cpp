@@ -1,0 +1,279 @@
+#include "qt/VistasListas.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+#include "platform/Ficheros.h"
+#include "qt/Estilo.h"
+#include "qt/VistaVentana.h"
+#include "qt/VistasMandos.h"
+#include "qt/VistasPintadas.h"
+
+namespace tessario {
+
+namespace {
+
+QString Qs(const std::string& t) {
+    return QString::fromStdString(t);
+}
+
+}  // namespace
+
+// --- Scroll bar.
+
+VistaBarra::VistaBarra(BarraDesplazamiento& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre),
+      c_(c),
+      barra_(new QScrollBar(c.Vertical ? Qt::Vertical : Qt::Horizontal, this)) {
+    PonInterior(barra_);
+    connect(barra_, &QScrollBar::valueChanged, this, [this](int valor) {
+        if (Viva() && valor != c_.Value) anfitrion().Entrega([&] { c_.Pon(valor); });
+    });
+}
+
+i32 VistaBarra::SincronizaPropio() {
+    const QSignalBlocker sin(barra_);
+    const auto sentido = c_.Vertical ? Qt::Vertical : Qt::Horizontal;
+    if (barra_->orientation() != sentido) barra_->setOrientation(sentido);
+    const int maximo = std::max(c_.Min, c_.Max);
+    if (barra_->minimum() != c_.Min || barra_->maximum() != maximo)
+        barra_->setRange(c_.Min, maximo);
+    if (barra_->singleStep() != c_.SmallChange) barra_->setSingleStep(c_.SmallChange);
+    if (barra_->pageStep() != c_.LargeChange) barra_->setPageStep(c_.LargeChange);
+    if (barra_->value() != c_.Value) barra_->setValue(c_.Value);
+    return 0;
+}
+
+// --- Text box.
+
+VistaTexto::VistaTexto(CajaTexto& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre), c_(c), linea_(new QLineEdit(this)), fuente_(c.Font) {
+    PonInterior(linea_);
+    linea_->setFont(FuenteQt(fuente_));
+    linea_->setContextMenuPolicy(Qt::NoContextMenu);
+    connect(linea_, &QLineEdit::textEdited, this, [this](const QString& texto) {
+        if (!Viva()) return;
+        visto_ = texto.toStdString();
+        anfitrion().Entrega([&] { c_.Escribe(texto.toStdString()); });
+    });
+}
+
+i32 VistaTexto::SincronizaPropio() {
+    if (!(fuente_ == c_.Font)) {
+        fuente_ = c_.Font;
+        linea_->setFont(FuenteQt(fuente_));
+    }
+    const int largo = c_.MaxLength > 0 ? c_.MaxLength : 32767;
+    if (linea_->maxLength() != largo) linea_->setMaxLength(largo);
+    if (visto_ == c_.Text) return 0;
+    visto_ = c_.Text;
+    if (linea_->text().toStdString() != visto_) linea_->setText(Qs(visto_));
+    return width() * height();
+}
+
+// --- Rows.
+
+VistaFilas::VistaFilas(Control& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre), filas_(new QListWidget(this)) {
+    PonInterior(filas_);
+    filas_->setUniformItemSizes(true);
+    filas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    filas_->setTextElideMode(Qt::ElideRight);
+    filas_->setFont(FuenteQt(Fuente{}));
+    connect(filas_, &QListWidget::currentRowChanged, this, [this](int fila) {
+        if (sincronizando_) return;
+        avisada_ = true;
+        Avisa(fila);
+    });
+    // A press on the row that is already chosen chooses it once more.
+    connect(filas_, &QListWidget::itemClicked, this, [this](QListWidgetItem* i) {
+        if (!avisada_) Avisa(filas_->row(i));
+        avisada_ = false;
+    });
+    connect(filas_, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* i) {
+        const int fila = filas_->row(i);
+        QTimer::singleShot(0, this, [this, fila] {
+            if (Viva() && control().Enabled) Confirmada(fila);
+        });
+    });
+}
+
+void VistaFilas::Avisa(int fila) {
+    QTimer::singleShot(0, this, [this, fila] {
+        if (Viva() && control().Enabled && fila >= 0 && fila < filas_->count()) Elegida(fila);
+    });
+}
+
+void VistaFilas::PonFilas(const QStringList& textos) {
+    sincronizando_ = true;
+    filas_->clear();
+    filas_->addItems(textos);
+    sincronizando_ = false;
+}
+
+void VistaFilas::Marca(int fila) {
+    if (filas_->currentRow() == fila) return;
+    sincronizando_ = true;
+    filas_->setCurrentRow(fila);
+    if (fila < 0) filas_->clearSelection();
+    sincronizando_ = false;
+}
+
+i32 VistaLista::SincronizaPropio() {
+    const auto iguales = [&] {
+        return std::equal(
+            vistos_.begin(), vistos_.end(), l_.Elementos.begin(), l_.Elementos.end(),
+            [](const std::string& a, const Lista::Elemento& b) { return a == b.Texto; });
+    };
+    i32 area = 0;
+    if (primera_ || !(fuente_ == l_.Font)) {
+        fuente_ = l_.Font;
+        filas_->setFont(FuenteQt(fuente_));
+    }
+    if (primera_ || !iguales()) {
+        primera_ = false;
+        vistos_.clear();
+        QStringList textos;
+        for (const Lista::Elemento& e : l_.Elementos) {
+            vistos_.push_back(e.Texto);
+            textos << Qs(e.Texto);
+        }
+        PonFilas(textos);
+        indice_ = -2;
+        area = width() * height();
+    }
+    if (indice_ != l_.ListIndex) {
+        indice_ = l_.ListIndex;
+        Marca(indice_ >= 0 && indice_ < filas_->count() ? indice_ : -1);
+        area = width() * height();
+    }
+    return area;
+}
+
+void VistaLista::Elegida(int fila) {
+    indice_ = fila;
+    anfitrion().Entrega([&] { l_.Selecciona(fila); });
+}
+
+void VistaLista::Confirmada(int) {
+    if (l_.DblClick) anfitrion().Entrega(l_.DblClick);
+}
+
+i32 VistaFicheros::SincronizaPropio() {
+    f_.Actualiza();
+    return VistaLista::SincronizaPropio();
+}
+
+i32 VistaCarpetas::SincronizaPropio() {
+    if (visto_ == c_.Path) return 0;
+    visto_ = c_.Path;
+    rutas_.clear();
+    QStringList textos;
+    QString sangria;
+    const auto fila = [&](const std::string& nombre, const std::string& ruta) {
+        textos << sangria + Qs(nombre);
+        rutas_.push_back(ruta);
+    };
+    const std::string& p = c_.Path;
+    for (std::size_t i = 0; i < p.size();) {
+        const std::size_t fin = std::min(p.find('/', i), p.size() - 1) + 1;
+        fila(i == 0 && fin == 1 ? "/" : p.substr(i, fin - i), p.substr(0, fin));
+        sangria += QStringLiteral("  ");
+        i = fin;
+    }
+    const int actual = static_cast<int>(rutas_.size()) - 1;
+    for (const std::string& nombre : CarpetasDe(p)) fila(nombre, p + nombre + "/");
+    PonFilas(textos);
+    if (actual >= 0) {
+        QFont negrita = filas_->font();
+        negrita.setBold(true);
+        filas_->item(actual)->setFont(negrita);
+    }
+    Marca(actual);
+    return width() * height();
+}
+
+void VistaCarpetas::Confirmada(int fila) {
+    if (fila < 0 || static_cast<std::size_t>(fila) >= rutas_.size()) return;
+    c_.Path = rutas_[static_cast<std::size_t>(fila)];
+    if (c_.Change) anfitrion().Entrega(c_.Change);
+}
+
+bool VistaCarpetas::TeclaPropia(const QKeyEvent& e) {
+    if (e.key() != Qt::Key_Return && e.key() != Qt::Key_Enter) return false;
+    Confirmada(filas_->currentRow());
+    return true;
+}
+
+// --- Drives.
+
+VistaUnidades::VistaUnidades(ListaUnidades& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre), c_(c), caja_(new QComboBox(this)) {
+    PonInterior(caja_);
+    caja_->setFont(FuenteQt(Fuente{}));
+    connect(caja_, &QComboBox::activated, this, [this](int fila) {
+        QTimer::singleShot(0, this, [this, fila] {
+            if (!Viva() || fila >= caja_->count()) return;
+            c_.Drive = caja_->itemData(fila).toString().toStdString();
+            if (c_.Change) anfitrion().Entrega(c_.Change);
+        });
+    });
+}
+
+i32 VistaUnidades::SincronizaPropio() {
+    if (visto_ == c_.Drive) return 0;
+    visto_ = c_.Drive;
+    caja_->clear();
+    for (const Unidad& u : Unidades()) caja_->addItem(Qs(u.Nombre), Qs(u.Ruta));
+    int fila = caja_->findData(Qs(c_.Drive));
+    if (fila < 0 && !c_.Drive.empty()) {
+        caja_->addItem(Qs(c_.Drive), Qs(c_.Drive));
+        fila = caja_->count() - 1;
+    }
+    caja_->setCurrentIndex(fila);
+    return width() * height();
+}
+
+// --- The view for each kind.
+
+namespace {
+
+template <class Registro, class V>
+Vista* Crea(Control& c, VistaVentana& v, QWidget* padre) {
+    auto* const r = dynamic_cast<Registro*>(&c);
+    return r ? new V(*r, v, padre) : nullptr;
+}
+
+class VistaLisa : public Vista {
+public:
+    using Vista::Vista;
+
+protected:
+    bool EsBoton() const override { return true; }
+};
+
+// The kinds that are built on another one come before it.
+constexpr Vista* (*CLASES[])(Control&, VistaVentana&, QWidget*) = {
+    Crea<Cuadro, VistaCuadro>,
+    Crea<Etiqueta, VistaEtiqueta>,
+    Crea<BarraDesplazamiento, VistaBarra>,
+    Crea<ListaFicheros, VistaFicheros>,
+    Crea<Lista, VistaLista>,
+    Crea<CajaTexto, VistaTexto>,
+    Crea<Buleano, VistaBuleano>,
+    Crea<Selector, VistaSelector>,
+    Crea<Potenciometro, VistaPotenciometro>,
+    Crea<Spin, VistaSpin>,
+    Crea<ListaUnidades, VistaUnidades>,
+    Crea<ListaCarpetas, VistaCarpetas>,
+};
+
+}  // namespace
+
+Vista* CreaVista(Control& c, VistaVentana& v, QWidget* padre) {
+    for (const auto crea : CLASES)
+        if (Vista* const vista = crea(c, v, padre)) return vista;
+    return new VistaLisa(c, v, padre);
+}
+
+}  // namespace tessario

@@ -1,0 +1,95 @@
+#include "qt/VistasPintadas.h"
+
+#include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace tessario {
+
+void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
+    QPainter p(&w);
+    const QRect limites(0, 0, s.Width(), s.Height());
+    if (limites.isEmpty()) {
+        p.fillRect(e.rect(), QColor::fromRgb(PixelDe(s.BackColor())));
+        return;
+    }
+    const QImage lienzo(reinterpret_cast<const uchar*>(s.Fila(0)), s.Width(), s.Height(),
+                        static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32);
+    for (const QRect& r : e.region()) {
+        const QRect dentro = r & limites;
+        if (!dentro.isEmpty()) p.drawImage(dentro.topLeft(), lienzo, dentro);
+    }
+    const QRegion fuera = e.region() - limites;
+    for (const QRect& r : fuera) p.fillRect(r, QColor::fromRgb(PixelDe(s.BackColor())));
+}
+
+VistaCuadro::VistaCuadro(Cuadro& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre), cuadro_(c) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+i32 VistaCuadro::SincronizaPropio() {
+    const Rect r = Interseccion(cuadro_.TomaSucio(), cuadro_.Limites());
+    if (r.Vacio() || !isVisible()) return 0;
+    // Only what lies within the container can be seen.
+    const QRect vista = parentWidget()->rect().translated(-pos());
+    const QRect cambio = QRect(r.Izq, r.Arr, r.Ancho(), r.Alto()) & vista;
+    if (cambio.isEmpty()) return 0;
+    update(cambio);
+    return cambio.width() * cambio.height();
+}
+
+// A picture that takes no keys of its own acts as a button.
+bool VistaCuadro::EsBoton() const {
+    return !cuadro_.KeyPress && !cuadro_.KeyDown;
+}
+
+void VistaCuadro::paintEvent(QPaintEvent* e) {
+    PintaSuperficie(*this, cuadro_, *e);
+    for (const QRect& r : e->region()) pintados_ += r.width() * r.height();
+    if (AnilloVisible()) {
+        QPainter p(this);
+        PintaAnillo(p, rect());
+    }
+}
+
+VistaEtiqueta::VistaEtiqueta(Etiqueta& c, VistaVentana& v, QWidget* padre)
+    : Vista(c, v, padre), etiqueta_(c) {}
+
+i32 VistaEtiqueta::SincronizaPropio() {
+    const Etiqueta& c = etiqueta_;
+    const bool corta = texto_ != c.Caption || fuente_ != c.Font || anchoCortado_ != c.Width();
+    if (!corta && tinta_ == c.ForeColor && papel_ == c.BackColor &&
+        transparente_ == c.Transparente && centrada_ == c.Centrada)
+        return 0;
+    if (corta) renglones_ = anfitrion().textos().Renglones(c.Font, c.Caption, c.Width());
+    texto_ = c.Caption;
+    fuente_ = c.Font;
+    anchoCortado_ = c.Width();
+    tinta_ = c.ForeColor;
+    papel_ = c.BackColor;
+    transparente_ = c.Transparente;
+    centrada_ = c.Centrada;
+    if (c.NombreAccesible.empty())
+        setAccessibleName(QString::fromStdString(c.Caption).simplified());
+    update();
+    return width() * height();
+}
+
+void VistaEtiqueta::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (!transparente_) p.fillRect(rect(), QColor::fromRgb(PixelDe(papel_)));
+    Textos& textos = anfitrion().textos();
+    p.setFont(textos.Letra(fuente_));
+    p.setPen(QColor::fromRgb(PixelDe(tinta_)));
+    const QFontMetrics& m = textos.Medida(fuente_);
+    int y = m.ascent();
+    for (const QString& r : renglones_) {
+        const int x = centrada_ ? (width() - m.horizontalAdvance(r)) / 2 : 0;
+        p.drawText(x, y, r);
+        y += Textos::Interlinea(fuente_);
+    }
+    PintaAnillo(p, rect());
+}
+
+}  // namespace tessario

@@ -1,0 +1,46 @@
+// Views that show what the game painted or wrote: picture box and label.
+#pragma once
+
+#include "qt/Vista.h"
+
+namespace tessario {
+
+class VistaCuadro : public Vista {
+public:
+    VistaCuadro(Cuadro& c, VistaVentana& v, QWidget* padre);
+    // Pixels painted on the screen since the start, for whoever checks that only changes are.
+    long long PixelesPintados() const { return pintados_; }
+
+protected:
+    i32 SincronizaPropio() override;
+    bool EsBoton() const override;
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    Cuadro& cuadro_;
+    long long pintados_ = 0;
+};
+
+class VistaEtiqueta : public Vista {
+public:
+    VistaEtiqueta(Etiqueta& c, VistaVentana& v, QWidget* padre);
+
+protected:
+    i32 SincronizaPropio() override;
+    bool EsBoton() const override { return true; }
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    Etiqueta& etiqueta_;
+    std::string texto_;
+    Fuente fuente_;
+    Color tinta_ = 0, papel_ = 0;
+    bool transparente_ = true, centrada_ = false;
+    std::vector<QString> renglones_;
+    i32 anchoCortado_ = -1;
+};
+
+// Shows the rectangles of `e` from the surface.
+void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e);
+
+}  // namespace tessario
