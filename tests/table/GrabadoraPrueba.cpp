@@ -272,6 +272,7 @@ TEST_F(PanelGrabadora, KeysShowPressedWhileTheyAct) {
     Juega(1, 10, 20);
     Juega(1, 40, 20);
     Pulsa(MANDO);
+    Gbl.VelocidadJuego = 75;   // with pauses, at which the screen is looked at
     bool pulsada = false;
     P().alDormir = [&] { pulsada = pulsada || Muestra(14, 57, 65, 57); };
     Pulsa(ATRAS);
