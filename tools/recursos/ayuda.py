@@ -14,7 +14,6 @@ import svg
 
 FUENTES = svg.FUENTES / "ayuda"
 DESTINO = svg.RECURSOS / "ayuda"
-COBALTO, TERRACOTA, CREMA = "#1b3f94", "#b2513c", "#f2e3c4"
 
 ESTILO = """
 body { color: #241c18; background-color: #fffaf0; }
@@ -23,6 +22,7 @@ h2 { color: #b2513c; font-size: large; margin-top: 14px; margin-bottom: 4px; }
 p { margin-top: 6px; margin-bottom: 6px; }
 li { margin-bottom: 3px; }
 a { color: #1b3f94; }
+table { margin-top: 6px; margin-bottom: 8px; }
 """.strip()
 
 ORDENES = [("personalizar", 2111, "Personalizar"), ("ayuda", 1020, "Ayuda"), ("tutor", 2145, "Tutor de juego"),
@@ -91,8 +91,8 @@ def Deslizante():
                           '<path d="M%d %d v-42 h42" fill="none" stroke="#9fe0ac" stroke-width="2"/>'
                           '<text x="%g" y="%d" font-family="Liberation Sans" font-weight="bold" font-size="22" '
                           'text-anchor="middle" fill="#fff">%d</text>' % (x, y, x + 1, y + 43, x + 21.5, y + 30, n))
-    partes.append('<path d="M206 122 h-26 v-7 l-14 11 l14 11 v-7 h26 z" fill="#ffd24a" stroke="#5a3a00"/>'
-                  .replace("206 122", "222 118"))
+    partes.append('<path d="M199 117.5 h-18 v-8 l-15 12 l15 12 v-8 h18 z" fill="#ffd24a" stroke="#5a3a00" '
+                  'stroke-linejoin="round"/>')
     return svg.Rinde('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 320 200">%s</svg>' % "".join(partes),
                      320, 200).convert("RGB")
 
@@ -133,7 +133,9 @@ def Dibuja():
         Guarda(imagen.resize((320, 200), Image.LANCZOS).quantize(160, dither=Image.NONE), nombre + "_grande")
         Guarda(imagen.resize((144, 90), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre)
     for nombre in [o[0] for o in ORDENES] + ["cargar", "guardar", "borrar"]:
-        Guarda(botones.Baldosa(nombre).resize((32, 32), Image.LANCZOS).convert("RGB"), "boton_" + nombre)
+        Guarda(botones.Baldosa(nombre).resize((24, 24), Image.LANCZOS).convert("RGB"), "boton_" + nombre)
+    for nombre, _, _ in ORDENES:
+        Guarda(botones.Baldosa(nombre).resize((32, 32), Image.LANCZOS).convert("RGB"), "tira_" + nombre)
     doble = svg.Rinde(svg.Lee("vario.svg").replace('fill="#c0c0c0"', 'fill="#fffaf0"'), 684, 156, 4).convert("RGB")
     Guarda(doble.crop((0, 0, 100, 150)), "grabadora")
     for k in range(8):
@@ -161,7 +163,7 @@ def Tira():
     filas = []
     for k in range(0, len(ORDENES), 3):
         filas.append("<tr>%s</tr>" % "".join(
-            '<td><img src="imagenes/boton_%s.png"></td><td valign="middle">[[%d|%s]]</td>' % o
+            '<td><img src="imagenes/tira_%s.png"></td><td valign="middle">[[%d|%s]]</td>' % o
             for o in ORDENES[k:k + 3]))
     return '<table cellspacing="4" width="100%%">%s</table>' % "".join(filas)
 
