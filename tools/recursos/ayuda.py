@@ -16,7 +16,7 @@ FUENTES = svg.FUENTES / "ayuda"
 DESTINO = svg.RECURSOS / "ayuda"
 
 ESTILO = """
-body { color: #241c18; background-color: #fffaf0; }
+body { color: #241c18; background-color: #fbf3e2; }
 h1 { color: #1b3f94; font-size: x-large; margin-top: 6px; margin-bottom: 4px; }
 h2 { color: #b2513c; font-size: large; margin-top: 14px; margin-bottom: 4px; }
 p { margin-top: 6px; margin-bottom: 6px; }
@@ -120,9 +120,9 @@ def Cenefa():
     """Band of tiles for the head of a page."""
     careta = svg.Lee("careta.svg")
     patron = re.search(r"<pattern.*?</pattern>", careta, re.S).group(0)
-    texto = ('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1200 60"><defs>%s</defs>'
-             '<rect width="1200" height="60" fill="url(#azulejo)"/></svg>' % patron)
-    return svg.Rinde(texto, 480, 24).convert("RGB")
+    texto = ('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 1160 60"><defs>%s</defs>'
+             '<rect width="1160" height="60" fill="url(#azulejo)"/></svg>' % patron)
+    return svg.Rinde(texto, 464, 24).convert("RGB")
 
 
 def Dibuja():
@@ -136,7 +136,7 @@ def Dibuja():
         Guarda(botones.Baldosa(nombre).resize((24, 24), Image.LANCZOS).convert("RGB"), "boton_" + nombre)
     for nombre, _, _ in ORDENES:
         Guarda(botones.Baldosa(nombre).resize((32, 32), Image.LANCZOS).convert("RGB"), "tira_" + nombre)
-    doble = svg.Rinde(svg.Lee("vario.svg").replace('fill="#c0c0c0"', 'fill="#fffaf0"'), 684, 156, 4).convert("RGB")
+    doble = svg.Rinde(svg.Lee("vario.svg").replace('fill="#c0c0c0"', 'fill="#fbf3e2"'), 684, 156, 4).convert("RGB")
     Guarda(doble.crop((0, 0, 100, 150)), "grabadora")
     for k in range(8):
         Guarda(doble.crop((204 + 60 * k, 0, 262 + 60 * k, 58)), "forma_%d" % k)
@@ -186,7 +186,7 @@ def Compone(texto, titulos):
 
 def Hoja(titulo, cuerpo):
     return ('<!DOCTYPE html>\n<html lang="es">\n<head>\n<meta charset="utf-8">\n<title>%s</title>\n<style>\n%s\n'
-            '</style>\n</head>\n<body>\n<p><img src="imagenes/cenefa.png" width="480" height="24"></p>\n%s\n'
+            '</style>\n</head>\n<body>\n<p><img src="imagenes/cenefa.png" width="464" height="24"></p>\n%s\n'
             '</body>\n</html>\n' % (titulo, ESTILO, cuerpo))
 
 
