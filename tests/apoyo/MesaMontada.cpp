@@ -1,5 +1,6 @@
 #include "apoyo/MesaMontada.h"
 
+#include "core/Arranque.h"
 #include "core/Despacho.h"
 #include "core/PuzzBas.h"
 #include "pieces/Composicion.h"
@@ -9,24 +10,18 @@
 #include "table/Desplazamiento.h"
 #include "table/Mesa.h"
 #include "table/Ordenes.h"
-#include "table/Sugerencias.h"
 
 namespace tessario {
 
 void MesaMontada::SetUp() {
     PruebaBase::SetUp();
-    Gbl.AnchoPantalla = static_cast<i16>(P().ancho);
-    Gbl.AltoPantalla = static_cast<i16>(P().alto);
     Gbl.VelocidadJuego = 100;
     Gbl.Sonido = true;
     Gbl.FinLinea = "\r\n";
-    Gbl.LetrasPiezas = "ABCDEFGHIJKLMNÑOPQRSTUVW";
-    constexpr i16 gemelas[] = {2, 1, 0, 5, 4, 0, 0};
-    for (i16 i = 1; i <= 7; ++i) Gbl.TGemela[i] = gemelas[i - 1];
     Gbl.CarpetaPrograma = P().carpeta;
     Gbl.CarpetaArchivo = P().carpeta + "Archivo/";
-    CargaSugerencias();
     ConectaMesa();
+    Inicializa();
     Mesa.Tamano(P().ancho + 2, P().alto + 2);
     QuitaBarras();
     CargaBotonera();
@@ -83,8 +78,8 @@ void MesaMontada::Tangram(i16 modo) {
     Gbl.NumPiezas = 7;
     Gbl.Piezas.Redimensiona(7);
     Gbl.OrdenPiezas.Redimensiona(7);
-    constexpr Punto sitios[] = {{20, 100}, {230, 100}, {20, 220}, {160, 220},
-                                {260, 220}, {20, 320}, {160, 320}};
+    constexpr Punto sitios[] = {{20, 100},  {230, 100}, {20, 220}, {160, 220},
+                                {260, 220}, {20, 320},  {160, 320}};
     for (i16 i = 1; i <= 7 && modo == MODO_RESOLVER; ++i) {
         Gbl.Piezas[i].XBien = static_cast<i16>(sitios[i - 1].x);
         Gbl.Piezas[i].YBien = static_cast<i16>(sitios[i - 1].y);

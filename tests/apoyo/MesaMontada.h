@@ -20,7 +20,8 @@ protected:
     // The Tangram, freshly dealt. Solving: the seven places stand apart from each other, upright.
     void Tangram(i16 modo);
 
-    // Where a press hits a piece, in table pixels: the first point of its own shape near the middle.
+    // Where a press hits a piece, in table pixels: the first point of its own shape near the
+    // middle.
     Punto PuntoDe(i16 piece);
     // The player drags a piece by that point so that its record ends at (x, y).
     void Arrastra(i16 piece, i32 x, i32 y);
@@ -28,7 +29,7 @@ protected:
     void Pon(i16 piece, i32 x, i32 y, i32 giro = 0);
     // Numbers of the sounds played since the last call.
     std::vector<int> Sonidos();
-    void PulsaOrden(i16 indice);   // moves over a command button and presses it
+    void PulsaOrden(i16 indice);  // moves over a command button and presses it
 
     PunteroPrueba Puntero{Mesa};
 };

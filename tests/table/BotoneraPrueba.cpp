@@ -1,6 +1,5 @@
-#include "table/Botonera.h"
-
 #include "apoyo/MesaMontada.h"
+#include "table/Botonera.h"
 #include "table/Desplazamiento.h"
 
 namespace tessario {
@@ -70,12 +69,12 @@ TEST_F(Botonera, EachButtonShowsItsOwnTile) {
 }
 
 TEST_F(Botonera, SeparatorsLieNinePixelsBelowRowsSevenAndTwelve) {
-    for (const i32 y : {183, 367}) {   // 126 + 48 + 9, 310 + 48 + 9
+    for (const i32 y : {183, 367}) {  // 126 + 48 + 9, 310 + 48 + 9
         EXPECT_EQ(Pic_Botonera.Point(1, y), OSCURO);
         EXPECT_EQ(Pic_Botonera.Point(140, y), OSCURO);
         EXPECT_EQ(Pic_Botonera.Point(1, y + 1), CLARO);
         EXPECT_EQ(Pic_Botonera.Point(139, y + 1), CLARO);
-        EXPECT_EQ(Pic_Botonera.Point(140, y + 1), OSCURO);   // one pixel shorter: the frame's own
+        EXPECT_EQ(Pic_Botonera.Point(140, y + 1), OSCURO);  // one pixel shorter: the frame's own
     }
 }
 
@@ -118,7 +117,7 @@ TEST_F(Botonera, SecondLayoutPutsEverythingBackInPlace) {
     Pic_Botonera.Line(pluma::ConColor | pluma::Desde, 20, 5, 60, 5, 0x00FF00);
     CargaBotonera();
     EXPECT_EQ(Pic_Botonera.Left, 659);
-    EXPECT_NE(Pic_Botonera.Point(30, 5), 0x00FF00U);   // cleared before it is painted
+    EXPECT_NE(Pic_Botonera.Point(30, 5), 0x00FF00U);  // cleared before it is painted
 }
 
 }  // namespace tessario

@@ -1,8 +1,7 @@
-#include "table/Cronometro.h"
-
 #include <bit>
 
 #include "apoyo/MesaMontada.h"
+#include "table/Cronometro.h"
 
 namespace tessario {
 
@@ -14,7 +13,7 @@ Pixel DeRecurso(i32 x, i32 y) {
 
 // Word of state that makes the generator's next draw, times 120, come out as r.
 u32 PalabraPara(double r) {
-    constexpr u32 INVERSO_9 = 0x38E38E39U, INVERSO_5 = 0xCCCCCCCDU;   // modulo 2 to the 32nd
+    constexpr u32 INVERSO_9 = 0x38E38E39U, INVERSO_5 = 0xCCCCCCCDU;  // modulo 2 to the 32nd
     const u32 sorteo = static_cast<u32>(r / 120 * 4294967296.0);
     return std::rotr(sorteo * INVERSO_9, 7) * INVERSO_5;
 }
@@ -25,7 +24,7 @@ void Sortea(double primero, double segundo) {
     const u32 b = PalabraPara(segundo);
     Gbl.Azar[0] = 0;
     Gbl.Azar[1] = a;
-    Gbl.Azar[2] = a ^ b;   // the second draw's word is the exclusive or of the first three
+    Gbl.Azar[2] = a ^ b;  // the second draw's word is the exclusive or of the first three
     Gbl.Azar[3] = 1;
 }
 
@@ -153,7 +152,7 @@ TEST_F(Cronometro, MoveFromTheSwitchOntoTheDisplayLeavesTheZone) {
     CambiaCrono(1);
     const Punto o = PunteroPrueba::Origen(Pic_Cronome);
     Puntero.Mueve(o.x + 20, o.y + 16);
-    Puntero.Mueve(o.x + 20, o.y + 30);   // Pic_CroTime lies there
+    Puntero.Mueve(o.x + 20, o.y + 30);  // Pic_CroTime lies there
     EXPECT_EQ(Puntero.Debajo(), &Pic_CroTime);
     EXPECT_EQ(Gbl.ZonaCrono, 0);
 }
@@ -174,10 +173,10 @@ TEST_F(Cronometro, RaisedDisplayHasItsEdgesGroundAndShadowedText) {
     EXPECT_EQ(s.Point(3, 3), 9218700U);
     EXPECT_EQ(s.Point(56, 23), 10535840U);
     // The block font: 6 pixels a letter at size 12, 14 high. Six letters: x = 11 + 1, y = 5 + 2.
-    EXPECT_EQ(s.Point(11, 7), 3292210U);    // text, one up and one left of its shadow
+    EXPECT_EQ(s.Point(11, 7), 3292210U);  // text, one up and one left of its shadow
     EXPECT_EQ(s.Point(15, 18), 3292210U);
-    EXPECT_EQ(s.Point(16, 10), 7705973U);   // the shadow's own column
-    EXPECT_EQ(s.Point(14, 19), 7705973U);   // and row
+    EXPECT_EQ(s.Point(16, 10), 7705973U);  // the shadow's own column
+    EXPECT_EQ(s.Point(14, 19), 7705973U);  // and row
     EXPECT_EQ(s.Point(10, 10), 10535840U);
 }
 
@@ -208,7 +207,7 @@ TEST_F(Cronometro, RecountShowsPlacedAgainstTotal) {
     Superficie s(58, 25);
     DibujaVisor(s, "1 / 9", 1);
     EXPECT_EQ(Pic_InfoColo.Dibujo().Pixeles, s.Dibujo().Pixeles);
-    Gbl.Piezas[4].X = 500;   // pushed out of its place again
+    Gbl.Piezas[4].X = 500;  // pushed out of its place again
     MuestraColocadas();
     EXPECT_EQ(Gbl.PiezasColocadas, 0);
 }
@@ -234,11 +233,11 @@ TEST_F(Cronometro, HintComesOnlyWhenMoreThanFifteenSecondsHavePassed) {
 }
 
 TEST_F(Cronometro, WaitIsRightAcrossTheWrapOfTheClock) {
-    P().reloj = 4294967296.0 + 14990;   // wrapped: reads 14990
-    Gbl.HoraUltimaSugerencia = 4294967290U;   // 6 ms before the wrap
+    P().reloj = 4294967296.0 + 14990;        // wrapped: reads 14990
+    Gbl.HoraUltimaSugerencia = 4294967290U;  // 6 ms before the wrap
     Sortea(1.5, 110);
     Tic();
-    EXPECT_FALSE(Pic_Sugerencia.Visible);   // 14996 ms
+    EXPECT_FALSE(Pic_Sugerencia.Visible);  // 14996 ms
     P().reloj += 10;
     Tic();
     EXPECT_TRUE(Pic_Sugerencia.Visible);
@@ -311,7 +310,7 @@ TEST_F(Cronometro, DrawsInTheGapsAreRepeated) {
 }
 
 TEST_F(Cronometro, BandsThatAskForPlacedOrUnplacedPieces) {
-    EXPECT_EQ(Elige(13), 21);   // none placed
+    EXPECT_EQ(Elige(13), 21);  // none placed
     EXPECT_EQ(Elige(38), 21);
     EXPECT_EQ(Elige(23), 45);
     EXPECT_EQ(Elige(28), 50);
@@ -357,15 +356,14 @@ TEST_F(Cronometro, BandsOfTheSlidingPuzzle) {
 
 TEST_F(Cronometro, BandsOfTheTangram) {
     Gbl.JuegoActual = JuegoTangram;
-    Gbl.PermitirGiro = false;   // matters in the jigsaw only
+    Gbl.PermitirGiro = false;  // matters in the jigsaw only
     Gbl.ModoJuego = MODO_CREAR;
     EXPECT_EQ(Elige(43), 34);
     EXPECT_EQ(Elige(58), 47);
     EXPECT_EQ(Elige(68), 63);
     EXPECT_EQ(Elige(78), 67);
     EXPECT_EQ(Elige(93), 78);
-    for (const double r : {33.0, 48.0, 53.0, 63.0, 73.0, 83.0, 97.0})
-        EXPECT_EQ(Elige(r), 23) << r;
+    for (const double r : {33.0, 48.0, 53.0, 63.0, 73.0, 83.0, 97.0}) EXPECT_EQ(Elige(r), 23) << r;
     Gbl.ModoJuego = MODO_RESOLVER;
     EXPECT_EQ(Elige(33), 25);
     EXPECT_EQ(Elige(83), 75);

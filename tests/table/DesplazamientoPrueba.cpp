@@ -1,8 +1,7 @@
-#include "table/Desplazamiento.h"
-
 #include "apoyo/MesaMontada.h"
 #include "core/Despacho.h"
 #include "table/Botonera.h"
+#include "table/Desplazamiento.h"
 #include "table/Sugerencias.h"
 
 namespace tessario {
@@ -16,7 +15,7 @@ protected:
 };
 
 TEST_F(Desplazamiento, PictureSmallOnBothSidesHasNoBars) {
-    Imagen(519, 389);   // below 0.65 of 800 and of 600
+    Imagen(519, 389);  // below 0.65 of 800 and of 600
     EXPECT_FALSE(BarraHor.Visible);
     EXPECT_FALSE(BarraVer.Visible);
     EXPECT_FALSE(Pic_Cuadrito.Visible);
@@ -53,8 +52,8 @@ TEST_F(Desplazamiento, BarsLieAtTheEdgesSeventeenThickWithTheSquareBetween) {
 
 TEST_F(Desplazamiento, RangeIsTheOverhangPlusTwoHundredAndTheLongStepATenth) {
     Imagen(1024, 768);
-    EXPECT_EQ(BarraHor.Max, 441);   // 1024 + 200 - 783
-    EXPECT_EQ(BarraVer.Max, 385);   // 768 + 200 - 583
+    EXPECT_EQ(BarraHor.Max, 441);  // 1024 + 200 - 783
+    EXPECT_EQ(BarraVer.Max, 385);  // 768 + 200 - 583
     EXPECT_EQ(BarraHor.LargeChange, 44);
     EXPECT_EQ(BarraVer.LargeChange, 38);
     EXPECT_EQ(BarraHor.SmallChange, 16);
@@ -62,7 +61,7 @@ TEST_F(Desplazamiento, RangeIsTheOverhangPlusTwoHundredAndTheLongStepATenth) {
 
 TEST_F(Desplazamiento, NoOverhangGivesRangeZeroAndLongStepOne) {
     Imagen(200, 391);
-    EXPECT_EQ(BarraHor.Max, 0);   // 200 + 200 fits in 783
+    EXPECT_EQ(BarraHor.Max, 0);  // 200 + 200 fits in 783
     EXPECT_EQ(BarraHor.LargeChange, 1);
 }
 
@@ -78,7 +77,7 @@ TEST_F(Desplazamiento, SmallerPictureBringsTheViewBackWithinTheRange) {
     Imagen(1024, 768);
     BarraHor.Pon(441);
     Imagen(700, 500);
-    EXPECT_EQ(BarraHor.Value, 117);   // 700 + 200 - 783
+    EXPECT_EQ(BarraHor.Value, 117);  // 700 + 200 - 783
     EXPECT_EQ(Pic_Trabajo.Left, -117);
 }
 
@@ -97,12 +96,12 @@ TEST_F(Desplazamiento, VerticalScrollKeepsTheHintAtTheBottomOfTheView) {
     Gbl.VentanaInformacion = true;
     Imagen(1024, 768);
     Sugerencia(10);
-    EXPECT_EQ(Pic_Sugerencia.Top, 519);   // 583 - 64
+    EXPECT_EQ(Pic_Sugerencia.Top, 519);  // 583 - 64
     BarraVer.Pon(60);
     EXPECT_EQ(Pic_Sugerencia.Top, 579);
     EXPECT_EQ(Gbl.SugerenciaActual, 10);
     BarraHor.Pon(100);
-    EXPECT_EQ(Pic_Sugerencia.Left, 0);   // it is not moved back along the horizontal scroll
+    EXPECT_EQ(Pic_Sugerencia.Left, 0);  // it is not moved back along the horizontal scroll
 }
 
 TEST_F(Desplazamiento, WithHintsOffTheScrollShowsNone) {
@@ -114,10 +113,10 @@ TEST_F(Desplazamiento, WithHintsOffTheScrollShowsNone) {
 TEST_F(Desplazamiento, LargeJigsawGetsBarsAndTheStripStandsLeftOfThem) {
     Moviles(4, 640, 480);
     EXPECT_TRUE(BarraVer.Visible);
-    EXPECT_EQ(Pic_Botonera.Left, 642);   // 783 - 141
+    EXPECT_EQ(Pic_Botonera.Left, 642);  // 783 - 141
     EXPECT_EQ(Pic_Trabajo.Width(), 840);
     EXPECT_EQ(Pic_Trabajo.Height(), 680);
-    EXPECT_EQ(BarraHor.Max, 57);   // 640 + 200 - 783
+    EXPECT_EQ(BarraHor.Max, 57);  // 640 + 200 - 783
 }
 
 }  // namespace tessario
