@@ -12,7 +12,8 @@ namespace {
 constexpr i32 PESO_RESTO = 3;         // what makes the search greedy
 constexpr i32 LADO_SIN_CAMINO = 5;    // from this side on the last pieces move without cost
 constexpr i32 COSTE_MAXIMO = 32767;   // the cost is a 16-bit number
-constexpr i32 LIMITE = 32767;
+// Nodes of one stage. Boards of nine a side stay below 25000; a board without a solution ends here.
+constexpr i32 LIMITE_NODOS = 250000;
 constexpr std::size_t TABLA_INICIAL = 1024;   // a power of two
 constexpr std::size_t NODOS_INICIALES = 500;
 
@@ -201,7 +202,7 @@ bool Busqueda::Busca(i32 meta) {
     PonRaiz();
     while (const i32 m = TomaMejor()) {
         if (Expande(m)) return true;
-        if (desborde_ || NumNodos() >= LIMITE) return false;
+        if (desborde_ || NumNodos() >= LIMITE_NODOS) return false;
     }
     return false;
 }
