@@ -103,14 +103,6 @@ TEST_F(Solucion, EveryStagePlacesOneMorePieceAndLosesNone) {
     }
 }
 
-TEST_F(Solucion, RouteLongerThanAHundredMovesIsKeptWhole) {
-    // The three numbered last of a long strip of work: any board will do whose stage is that long;
-    // the array has to grow by fifty beyond its first hundred entries.
-    PreparaTablero(3);
-    PonTablero({1, 2, 3, 4, 5, 6, 7, 0, 8});
-    ASSERT_TRUE(BuscaSolucion());
-    EXPECT_EQ(Gbl.RutaSolucion.Superior(), 100);
-}
 
 TEST_F(Solucion, TableDoesNotChangeWhileTheSearchRuns) {
     PreparaTablero(4);
@@ -208,7 +200,7 @@ TEST_F(Solucion, DamagedBoardsEndTheSearchInOrder) {
     tablero();
     Gbl.Piezas.Redimensiona(4);
     noHay();
-    for (const i16 lado : {-32768, -3, -1, 0, 1, 2, 10, 181, 999, 32767}) {
+    for (const i16 lado : std::initializer_list<i16>{-32768, -3, -1, 0, 1, 2, 10, 181, 999, 32767}) {
         tablero();
         Gbl.PiezasPorLado = lado;
         noHay();

@@ -161,7 +161,7 @@ TEST_F(Tablero, ExactlyTheReachableBoardsOfThreeASideAreSolvable) {
 
 TEST_F(Tablero, SolvabilityAgreesWithTheParityOfCyclesOnOtherSizes) {
     std::mt19937 azar(4);
-    for (const i16 lado : {2, 4, 5, 6, 7, 8, 9}) {
+    for (const i16 lado : std::initializer_list<i16>{2, 4, 5, 6, 7, 8, 9}) {
         PreparaTablero(lado);
         i32 solubles = 0;
         for (int n = 0; n < 1000; ++n) {
@@ -304,7 +304,7 @@ TEST_F(Tablero, InstantShuffleMendsADamagedBoard) {
 }
 
 TEST_F(Tablero, SidesThatTheGameDoesNotOfferDoNoHarm) {
-    for (const i16 lado : {-32768, -182, -10, -3, -2, -1, 0, 1, 2, 10, 11, 40, 181, 182, 999, 32767}) {
+    for (const i16 lado : std::initializer_list<i16>{-32768, -182, -10, -3, -2, -1, 0, 1, 2, 10, 11, 40, 181, 182, 999, 32767}) {
         PreparaTablero(4);
         PonTablero(TableroResuelto(4));
         Gbl.PiezasPorLado = lado;
