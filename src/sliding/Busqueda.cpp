@@ -9,12 +9,12 @@ namespace tessario {
 
 namespace {
 
-constexpr i32 PESO_RESTO = 3;         // what makes the search greedy
-constexpr i32 LADO_SIN_CAMINO = 5;    // from this side on the last pieces move without cost
-constexpr i32 COSTE_MAXIMO = 32767;   // the cost is a 16-bit number
+constexpr i32 PESO_RESTO = 3;        // what makes the search greedy
+constexpr i32 LADO_SIN_CAMINO = 5;   // from this side on the last pieces move without cost
+constexpr i32 COSTE_MAXIMO = 32767;  // the cost is a 16-bit number
 // Nodes of one stage. Boards of nine a side stay below 25000; a board without a solution ends here.
 constexpr i32 LIMITE_NODOS = 250000;
-constexpr std::size_t TABLA_INICIAL = 1024;   // a power of two
+constexpr std::size_t TABLA_INICIAL = 1024;  // a power of two
 constexpr std::size_t NODOS_INICIALES = 500;
 
 // A well-mixed 64-bit number for each pair of piece and cell.
@@ -49,8 +49,8 @@ void Busqueda::PreparaTablas() {
     distancia_.assign(static_cast<std::size_t>(CELDAS_MAXIMAS) * CELDAS_MAXIMAS, 0);
     for (i32 a = 0; a < celdasEnTotal_; ++a)
         for (i32 b = 0; b < celdasEnTotal_; ++b)
-            distancia_[static_cast<std::size_t>(a * CELDAS_MAXIMAS + b)] = static_cast<u8>(
-                std::abs(a / lado_ - b / lado_) + std::abs(a % lado_ - b % lado_));
+            distancia_[static_cast<std::size_t>(a * CELDAS_MAXIMAS + b)] =
+                static_cast<u8>(std::abs(a / lado_ - b / lado_) + std::abs(a % lado_ - b % lado_));
 }
 
 // Pieces after meta_ do not count: boards that differ only in them are one state.
@@ -140,14 +140,14 @@ bool Busqueda::Genera(i32 m, u8 pieza, i32& nuevo) {
     const u8 celda = n.celdas[pieza];
     const u8 hueco = n.celdas[0];
     // How far from the piece that is being brought home, before the move.
-    const i32 d =
-        sinCamino_ ? 0 : Distancia(celda, n.celdas[static_cast<std::size_t>(meta_)]);
+    const i32 d = sinCamino_ ? 0 : Distancia(celda, n.celdas[static_cast<std::size_t>(meta_)]);
     i32 resto = n.resto;
     if (pieza <= meta_) {
         const auto casa = static_cast<u8>(pieza - 1);
         resto += Distancia(hueco, casa) - Distancia(celda, casa);
     }
-    n.clave ^= ClaveDe(0, hueco) ^ ClaveDe(0, celda) ^ ClaveDe(pieza, celda) ^ ClaveDe(pieza, hueco);
+    n.clave ^=
+        ClaveDe(0, hueco) ^ ClaveDe(0, celda) ^ ClaveDe(pieza, celda) ^ ClaveDe(pieza, hueco);
     std::swap(n.celdas[0], n.celdas[pieza]);
     if (!Anota(nuevo)) {
         nodos_.pop_back();

@@ -11,7 +11,7 @@
 
 namespace tessario {
 
-inline constexpr i32 CELDAS_MAXIMAS = 81;   // of a board with nine a side
+inline constexpr i32 CELDAS_MAXIMAS = 81;  // of a board with nine a side
 
 // A state: which cell, from 0, each piece stands in, by piece number; number 0 is the hole.
 using CeldasDePiezas = std::array<u8, CELDAS_MAXIMAS>;
@@ -31,13 +31,13 @@ public:
 private:
     struct Nodo {
         CeldasDePiezas celdas;
-        u8 movida = 0;         // piece moved to come here; 0 for the root
-        i16 coste = 0;         // resto * 3 + camino; smaller is better
-        i16 resto = 0;         // cells that the pieces 1 to meta are away from home, in all
-        i16 camino = 0;        // accumulated cost of the moves
+        u8 movida = 0;   // piece moved to come here; 0 for the root
+        i16 coste = 0;   // resto * 3 + camino; smaller is better
+        i16 resto = 0;   // cells that the pieces 1 to meta are away from home, in all
+        i16 camino = 0;  // accumulated cost of the moves
         i32 padre = 0;
-        i32 siguiente = 0;     // next node of the same cost, in order of arrival
-        std::uint64_t clave = 0;   // hash of the state
+        i32 siguiente = 0;        // next node of the same cost, in order of arrival
+        std::uint64_t clave = 0;  // hash of the state
     };
     // Nodes of one cost that are still open: first come, first served.
     struct Cola {
@@ -66,10 +66,10 @@ private:
     bool sinCamino_ = false;
     bool desborde_ = false;
     std::vector<u8> distancia_;
-    std::vector<Nodo> nodos_;          // from 1
-    std::vector<i32> tabla_;           // open addressing, indices of nodes, 0 free
-    std::vector<Cola> colas_;          // by cost
-    i32 minimo_ = 0;                   // no queue below this one holds a node
+    std::vector<Nodo> nodos_;  // from 1
+    std::vector<i32> tabla_;   // open addressing, indices of nodes, 0 free
+    std::vector<Cola> colas_;  // by cost
+    i32 minimo_ = 0;           // no queue below this one holds a node
     std::vector<u8> ruta_;
 };
 

@@ -23,8 +23,8 @@ constexpr double PARTE_DE_CELDA = 0.8;
 
 // The sunken frame around the board, pixels.
 constexpr i16 GROSOR_MARCO = 3;
-constexpr i32 FUERA_MARCO = 2;   // from the board to the frame's corner
-constexpr i32 CRECE_MARCO = 3;   // by how much its sides are longer than the board's
+constexpr i32 FUERA_MARCO = 2;  // from the board to the frame's corner
+constexpr i32 CRECE_MARCO = 3;  // by how much its sides are longer than the board's
 
 constexpr i32 BORDE_MUESTRA = 15;  // from the sample view to the screen's edges
 

@@ -15,15 +15,15 @@ namespace tessario {
 namespace {
 
 constexpr i16 SONIDO_DESLIZA = 53;
-constexpr i16 ESPERA = 0, SIN_ESPERA = 1;   // modes of SonidoJuego
+constexpr i16 ESPERA = 0, SIN_ESPERA = 1;  // modes of SonidoJuego
 constexpr i16 CRONO_EN_MARCHA = 1;
 
 // Cursor ids by LadoHueco, and the one of the manual ordering.
 constexpr i16 CURSOR_PROHIBIDO = 12, CURSOR_CRUZ = 15;
 constexpr i16 CURSORES_LADO[] = {CURSOR_PROHIBIDO, 25, 26, 27, 28};
 
-constexpr i32 JUGADAS_POR_PIEZA = 4;   // of the animated shuffle before its first test
-constexpr i16 PAUSA_JUGADA = 15;       // ms at speed 50
+constexpr i32 JUGADAS_POR_PIEZA = 4;  // of the animated shuffle before its first test
+constexpr i16 PAUSA_JUGADA = 15;      // ms at speed 50
 
 // A question of the manual ordering: six lines, two buttons.
 struct Pregunta {
@@ -117,6 +117,7 @@ void BarajaConMovimientos() {
     if (!TableroEntero() || !TieneSolucion()) {
         BarajaDeslizantes();
         ColocaPiezas(0);
+        if (!TieneSolucion()) return;
     }
     i16 previa = 0;
     for (i32 cuenta = 1;; ++cuenta) {

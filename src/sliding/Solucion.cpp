@@ -13,7 +13,7 @@ namespace tessario {
 
 namespace {
 
-constexpr i32 RUTA_INICIAL = 100, CRECE_RUTA = 50;   // upper bounds of RutaSolucion
+constexpr i32 RUTA_INICIAL = 100, CRECE_RUTA = 50;  // upper bounds of RutaSolucion
 
 // The first piece that is not in its place; NumPiezas + 1 when all are.
 i32 PrimeraSuelta() {

@@ -15,8 +15,8 @@ namespace {
 
 constexpr i16 NORTE = 1, ESTE = 2, SUR = 3, OESTE = 4, NINGUNO = 0;
 constexpr i16 MAX_VECINOS = 4;
-constexpr i16 MARCA_HUECO = 999;     // greater than every piece number in the count of inversions
-constexpr i32 CAMBIOS_POR_PIEZA = 3; // swaps of the instant shuffle before its first test
+constexpr i16 MARCA_HUECO = 999;      // greater than every piece number in the count of inversions
+constexpr i32 CAMBIOS_POR_PIEZA = 3;  // swaps of the instant shuffle before its first test
 constexpr i32 MOVIMIENTOS_INICIALES = 100;  // upper bound of a new log
 constexpr i16 CRONO_EN_MARCHA = 1;
 
@@ -169,8 +169,10 @@ void BarajaDeslizantes() {
         PintaFondoCaras();
         PintaRotulos();
     }
-    // Fewer than two pieces have nothing to swap and would never leave the loop.
-    for (i32 cuenta = 1; Gbl.NumPiezas > 1; ++cuenta) {
+    // Fewer than two pieces, or sizes that make no board even when laid out anew, would never leave
+    // the loop.
+    const bool barajable = Gbl.NumPiezas > 1 && TableroEntero();
+    for (i32 cuenta = 1; barajable; ++cuenta) {
         const auto i = static_cast<i32>(Int(Gbl.NumPiezas * Rnd())) + 1;
         const auto j = static_cast<i32>(Int(Gbl.NumPiezas * Rnd())) + 1;
         std::swap(Gbl.Piezas[i].X, Gbl.Piezas[j].X);

@@ -20,7 +20,7 @@ struct SolucionLiteral {
     };
 
     std::vector<NodoBusqueda> Nodos;
-    std::vector<i16> Ruta;   // the last move first
+    std::vector<i16> Ruta;  // the last move first
 
     // One stage from the table as it stands. False when no node is open any more or their number
     // passes `limite`. The table is left as it was.

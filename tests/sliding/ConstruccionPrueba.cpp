@@ -63,7 +63,9 @@ void PonImagen(i16 lado) {
     Pic_FonTamModi.PonPicture(Pic_FonTamModi.Image());
 }
 
-Pixel Marca(i32 x, i32 y) { return static_cast<Pixel>(x) << 12 | static_cast<Pixel>(y); }
+Pixel Marca(i32 x, i32 y) {
+    return static_cast<Pixel>(x) << 12 | static_cast<Pixel>(y);
+}
 
 }  // namespace
 
@@ -88,9 +90,9 @@ TEST_F(Construccion, TableFillsTheScreenAndTheFacesTheirMargins) {
 TEST_F(Construccion, SunkenFrameIsDarkAboveAndLeftLightBelowAndRight) {
     Monta(4, FONDO_NUMEROS);
     // Corners (149, 87) and (508, 446), pen of three.
-    for (const Superficie* s : {static_cast<const Superficie*>(&Pic_Imagen),
-                                static_cast<const Superficie*>(&Pic_Fondo),
-                                static_cast<const Superficie*>(&Pic_Trabajo)}) {
+    for (const Superficie* s :
+         {static_cast<const Superficie*>(&Pic_Imagen), static_cast<const Superficie*>(&Pic_Fondo),
+          static_cast<const Superficie*>(&Pic_Trabajo)}) {
         EXPECT_EQ(s->Point(300, 87), FONDO_OSCURO);
         EXPECT_EQ(s->Point(149, 200), FONDO_OSCURO);
         EXPECT_EQ(s->Point(508, 200), FONDO_CLARO);
@@ -99,8 +101,8 @@ TEST_F(Construccion, SunkenFrameIsDarkAboveAndLeftLightBelowAndRight) {
         EXPECT_EQ(s->Point(300, 86), FONDO_OSCURO);
         EXPECT_EQ(s->Point(509, 200), FONDO_CLARO);
         EXPECT_EQ(s->Point(507, 200), FONDO_CLARO);
-        EXPECT_EQ(s->Point(300, 89), FONDO);     // first line of the board
-        EXPECT_EQ(s->Point(506, 200), FONDO);    // its last column
+        EXPECT_EQ(s->Point(300, 89), FONDO);   // first line of the board
+        EXPECT_EQ(s->Point(506, 200), FONDO);  // its last column
         EXPECT_EQ(s->Point(300, 84), FONDO);
         EXPECT_EQ(s->Point(512, 200), FONDO);
     }
@@ -190,7 +192,7 @@ TEST_F(Construccion, LettersHaveEnyeInFifteenthPlaceAndEndAtW) {
 
 TEST_F(Construccion, LetterFacesOfTooManyPiecesAreBlankNotAnError) {
     Monta(6, FONDO_LETRAS);
-    ASSERT_EQ(T().impresos.size() >= 48U, true);
+    ASSERT_GE(T().impresos.size(), 48U);
     EXPECT_EQ(T().impresos[47].texto, "W");
 }
 
@@ -201,8 +203,8 @@ TEST_F(Construccion, LabelsStandAtTheHomesWhereverThePiecesAre) {
     CreaDeslizantes(0);
     ASSERT_EQ(T().impresos.size(), 16U);
     // Margins 169 and 107, cells of 107; the font of 50 gives 26 x 52.
-    EXPECT_EQ(T().impresos[1].x, 210);   // 40.5 + 169, to even
-    EXPECT_EQ(T().impresos[1].y, 134);   // 27.5 + 107, to even
+    EXPECT_EQ(T().impresos[1].x, 210);  // 40.5 + 169, to even
+    EXPECT_EQ(T().impresos[1].y, 134);  // 27.5 + 107, to even
     EXPECT_EQ(CeldasDelTablero(), (std::vector<i16>{8, 7, 6, 5, 4, 3, 2, 1, 0}));
 }
 
@@ -307,7 +309,7 @@ TEST_F(Construccion, RepairedBoardShowsItsFacesAtTheNewHomes) {
 TEST_F(Construccion, PieceWithBorderHasCutCornersAndARelief) {
     Gbl.DibujarBorde = true;
     Monta(4, FONDO_NUMEROS);
-    Gbl.TipoFondo = FONDO_IMAGEN;   // bare faces: no picture, no label
+    Gbl.TipoFondo = FONDO_IMAGEN;  // bare faces: no picture, no label
     PintaFondoCaras();
     PreparaPieza(6);
     constexpr Color NEGRO = 0, BLANCO = 0xFFFFFF;
@@ -345,7 +347,7 @@ TEST_F(Construccion, PieceWithBorderHasCutCornersAndARelief) {
     EXPECT_EQ(s.Point(85, 88), PIEZAS_OSCURO);
     EXPECT_EQ(s.Point(88, 4), PIEZAS_OSCURO);
     EXPECT_EQ(s.Point(4, 88), PIEZAS_OSCURO);
-    EXPECT_EQ(s.Point(88, 2), NEGRO);   // where the two colours meet
+    EXPECT_EQ(s.Point(88, 2), NEGRO);  // where the two colours meet
     EXPECT_EQ(s.Point(2, 88), NEGRO);
     EXPECT_EQ(s.Point(0, 0), NEGRO);
 }

@@ -1,5 +1,3 @@
-#include "sliding/Movimientos.h"
-
 #include <algorithm>
 #include <random>
 #include <set>
@@ -11,6 +9,7 @@
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
 #include "pieces/Superficies.h"
+#include "sliding/Movimientos.h"
 #include "table/Barajado.h"
 #include "table/Cronometro.h"
 #include "table/Grabadora.h"
@@ -26,8 +25,10 @@ class Movimientos : public PruebaBase {};
 constexpr const char* TITULO_ENTRAR = "Ordenar las piezas manualmente";
 constexpr const char* TEXTO_ENTRAR =
     "Si pulsa este botón  para  colocar manualmente  las  piezas, cuando finalize  ese  proceso "
-    "comenzará  la  resolución  del puzzle  con  las  piezas  en  la  posición  que  Usted  prefiera. "
-    "Pulse el botón Aceptar para colocar las piezas como desee y  comenzar  un  nuevo  puzzle.  Si  "
+    "comenzará  la  resolución  del puzzle  con  las  piezas  en  la  posición  que  Usted  "
+    "prefiera. "
+    "Pulse el botón Aceptar para colocar las piezas como desee y  comenzar  un  nuevo  puzzle.  Si "
+    " "
     "pulsa  el  botón  Cancelar podrá continuar resolviendo el puzzle actual.";
 constexpr const char* TITULO_INSOLUBLE = "Configuración sin solución";
 constexpr const char* TEXTO_INSOLUBLE =
@@ -90,7 +91,7 @@ TEST_F(Movimientos, CursorIsTheCrossOverAnyPieceInTheManualOrdering) {
     Gbl.OrdenManual = true;
     EXPECT_EQ(CursorSobre(1), 15);
     EXPECT_EQ(CursorSobre(2), 15);
-    EXPECT_FALSE(CursorDeslizante(8));   // the walk goes on
+    EXPECT_FALSE(CursorDeslizante(8));  // the walk goes on
     EXPECT_EQ(Gbl.PiezaActual, 8);
 }
 
@@ -107,7 +108,7 @@ TEST_F(Movimientos, PressMovesTheNeighbourIntoTheHole) {
     EXPECT_EQ(CeldasDelTablero(), (std::vector<i16>{1, 2, 3, 4, 5, 0, 6, 7, 8}));
     EXPECT_EQ(Gbl.OrdenPiezas[1], 5);
     EXPECT_TRUE(Gbl.CronoEnMarcha);
-    EXPECT_TRUE(Gbl.ArrastrandoPieza);   // the release is what closes the move
+    EXPECT_TRUE(Gbl.ArrastrandoPieza);  // the release is what closes the move
     EXPECT_EQ(Gbl.NumMovimientos, 0);
     ASSERT_EQ(P().sonidos.size(), 1U);
     EXPECT_EQ(P().sonidos[0], (std::pair<i16, bool>{53, false}));
@@ -241,7 +242,7 @@ TEST_F(Movimientos, ShuffleMakesFourMovesAPieceNeverLosingSolvabilityNorUndoingT
         BarajaConMovimientos();
         P().alDejarPasar = nullptr;
         const i32 jugadas = 4 * Gbl.NumPiezas;
-        EXPECT_EQ(vistas, jugadas - 1);   // after the last one the loop is left
+        EXPECT_EQ(vistas, jugadas - 1);  // after the last one the loop is left
         ASSERT_EQ(P().sonidos.size(), static_cast<std::size_t>(jugadas));
         for (const auto& s : P().sonidos) EXPECT_EQ(s, (std::pair<i16, bool>{53, true}));
         EXPECT_TRUE(TieneSolucion());

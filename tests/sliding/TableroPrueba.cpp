@@ -1,5 +1,3 @@
-#include "sliding/Tablero.h"
-
 #include <array>
 #include <deque>
 #include <random>
@@ -9,6 +7,7 @@
 #include "apoyo/TableroDeslizante.h"
 #include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
+#include "sliding/Tablero.h"
 
 namespace tessario {
 
@@ -68,8 +67,8 @@ TEST_F(Tablero, CellIsTheNearestOneRowByRow) {
     EXPECT_EQ(CeldaDePosicion(240, 89), 2);
     EXPECT_EQ(CeldaDePosicion(151, 178), 5);
     EXPECT_EQ(CeldaDePosicion(418, 356), 16);
-    EXPECT_EQ(CeldaDePosicion(195, 89), 1);   // 44 of 89 pixels
-    EXPECT_EQ(CeldaDePosicion(196, 89), 2);   // 45 of 89
+    EXPECT_EQ(CeldaDePosicion(195, 89), 1);  // 44 of 89 pixels
+    EXPECT_EQ(CeldaDePosicion(196, 89), 2);  // 45 of 89
 }
 
 TEST_F(Tablero, CellHalfwayGoesToTheEvenColumn) {
@@ -91,19 +90,19 @@ TEST_F(Tablero, DistanceIsColumnsPlusRows) {
 TEST_F(Tablero, SideNamesTheDirectionInWhichThePieceWouldTravel) {
     PreparaTablero(3);
     PonTablero({1, 2, 3, 4, 0, 5, 6, 7, 8});
-    EXPECT_EQ(Lado(7), 1);   // below the hole: north
-    EXPECT_EQ(Lado(4), 2);   // at its left: east
-    EXPECT_EQ(Lado(2), 3);   // above: south
-    EXPECT_EQ(Lado(5), 4);   // at its right: west
+    EXPECT_EQ(Lado(7), 1);  // below the hole: north
+    EXPECT_EQ(Lado(4), 2);  // at its left: east
+    EXPECT_EQ(Lado(2), 3);  // above: south
+    EXPECT_EQ(Lado(5), 4);  // at its right: west
 }
 
 TEST_F(Tablero, DiagonalAndDistantPiecesAreNotNextToTheHole) {
     PreparaTablero(4);
     PonTablero({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
-    EXPECT_EQ(Lado(5), 0);    // diagonal
-    EXPECT_EQ(Lado(2), 0);    // two columns away
-    EXPECT_EQ(Lado(8), 0);    // two rows away
-    EXPECT_EQ(Lado(3), 0);    // end of the row
+    EXPECT_EQ(Lado(5), 0);  // diagonal
+    EXPECT_EQ(Lado(2), 0);  // two columns away
+    EXPECT_EQ(Lado(8), 0);  // two rows away
+    EXPECT_EQ(Lado(3), 0);  // end of the row
     EXPECT_EQ(Lado(1), 4);
     EXPECT_EQ(Lado(4), 1);
 }
@@ -244,8 +243,7 @@ TEST_F(Tablero, InstantShuffleSwapsThreeTimesAPieceAndThenUntilSolvable) {
             const auto i = static_cast<std::size_t>(n * Rnd()) + 1;
             const auto j = static_cast<std::size_t>(n * Rnd()) + 1;
             std::swap(lugar[i], lugar[j]);
-            for (std::size_t k = 1; k < lugar.size(); ++k)
-                esperado[lugar[k]] = static_cast<i16>(k);
+            for (std::size_t k = 1; k < lugar.size(); ++k) esperado[lugar[k]] = static_cast<i16>(k);
             if (cambio >= 3 * n && SolublePorCiclos(lado, esperado)) break;
         }
         Randomize(semilla);
@@ -280,17 +278,27 @@ TEST_F(Tablero, InstantShuffleStartsTheCountAndFiguresTheDifficulty) {
     EXPECT_TRUE(Gbl.PuzzleArchivable);
     EXPECT_EQ(Gbl.SegundosJuego, 0);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
-    EXPECT_GT(Gbl.Dificultad, 6.6F);   // numbers at 3 a side alone give 20 / 3
+    EXPECT_GT(Gbl.Dificultad, 6.6F);  // numbers at 3 a side alone give 20 / 3
 }
 
 TEST_F(Tablero, InstantShuffleMendsADamagedBoard) {
     const auto dana = [](int modo) {
         switch (modo) {
-            case 0: Gbl.Piezas[1] = Gbl.Piezas[2]; break;
-            case 1: Gbl.Piezas[1].X = static_cast<i16>(Gbl.Piezas[1].X + 7); break;
-            case 2: Gbl.HuecoX = -30000; break;
-            case 3: Gbl.Piezas[7].YBien = 31000; break;
-            default: Gbl.Piezas.Redimensiona(2); break;
+            case 0:
+                Gbl.Piezas[1] = Gbl.Piezas[2];
+                break;
+            case 1:
+                Gbl.Piezas[1].X = static_cast<i16>(Gbl.Piezas[1].X + 7);
+                break;
+            case 2:
+                Gbl.HuecoX = -30000;
+                break;
+            case 3:
+                Gbl.Piezas[7].YBien = 31000;
+                break;
+            default:
+                Gbl.Piezas.Redimensiona(2);
+                break;
         }
     };
     for (int modo = 0; modo < 5; ++modo) {
@@ -304,7 +312,8 @@ TEST_F(Tablero, InstantShuffleMendsADamagedBoard) {
 }
 
 TEST_F(Tablero, SidesThatTheGameDoesNotOfferDoNoHarm) {
-    for (const i16 lado : std::initializer_list<i16>{-32768, -182, -10, -3, -2, -1, 0, 1, 2, 10, 11, 40, 181, 182, 999, 32767}) {
+    for (const i16 lado : std::initializer_list<i16>{-32768, -182, -10, -3, -2, -1, 0, 1, 2, 10, 11,
+                                                     40, 181, 182, 999, 32767}) {
         PreparaTablero(4);
         PonTablero(TableroResuelto(4));
         Gbl.PiezasPorLado = lado;
