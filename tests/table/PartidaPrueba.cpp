@@ -1,0 +1,179 @@
+// Whole games, played with the pointer from the deal to the last message.
+#include <algorithm>
+#include <fstream>
+
+#include "apoyo/MesaMontada.h"
+#include "core/PuzzBas.h"
+#include "pieces/Composicion.h"
+#include "records/Texto.h"
+#include "sliding/Tablero.h"
+#include "table/Final.h"
+#include "table/Grabadora.h"
+
+namespace tessario {
+
+class Partida : public MesaMontada {
+protected:
+    // Turns with the right button until the piece is upright, then drags it near its place. The
+    // piece is brought on top first, as a player would dig it out.
+    void Coloca(i16 piece) {
+        SubePieza(PosicionEnOrden(piece));
+        ColocaPiezas(1);
+        for (int n = 0; n < 8 && !GiroCorrecto(piece); ++n) {
+            const Punto p = PuntoDe(piece);
+            Puntero.Pulsa(p.x, p.y, BOTON_DERECHO);
+        }
+        ASSERT_TRUE(GiroCorrecto(piece));
+        Arrastra(piece, Gbl.Piezas[piece].XBien + 3, Gbl.Piezas[piece].YBien + 2);
+    }
+    std::vector<std::string> Historico() {
+        std::string bytes;
+        LeeFichero(P().carpeta + "TESSA33.his", bytes);
+        return Lineas(bytes);
+    }
+};
+
+TEST_F(Partida, JigsawOfNineIsPlayedToItsEndAndIntoTheHistory) {
+    Moviles(3, 300, 300);
+    Gbl.NombreJugador = "Ana";
+    Gbl.VelocidadJuego = 50;
+    for (i16 i = 1; i <= 8; ++i) {
+        Coloca(i);
+        EXPECT_EQ(Gbl.PiezasColocadas, i);
+        EXPECT_FALSE(Gbl.PuzzleTerminado);
+    }
+    EXPECT_TRUE(P().avisos.empty());
+    Gbl.SegundosJuego = 83;
+    P().respuestas = {true};
+    const double antes = P().dormido;
+    Coloca(9);
+    EXPECT_GE(P().dormido - antes, 500);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+    EXPECT_FALSE(Gbl.CronoEnMarcha);
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_FALSE(Gbl.SoltandoPieza);
+    EXPECT_EQ(P().sonidos.back(), (std::pair<i16, bool>{14, true}));
+    ASSERT_EQ(P().avisos.size(), 2U);
+    EXPECT_EQ(P().avisos[0].titulo, "TESSARIO");
+    EXPECT_EQ(P().avisos[0].texto, "Ha conseguido resolver el puzzle");
+    EXPECT_EQ(P().avisos[0].modo, 1);
+    EXPECT_EQ(P().avisos[0].botones, 1);
+    EXPECT_EQ(P().avisos[1].titulo, "Histórico de puzzles resueltos");
+    EXPECT_EQ(P().avisos[1].texto, "¿Se actualiza el Histórico de puzzles?");
+    EXPECT_EQ(P().avisos[1].modo, 1);
+    EXPECT_EQ(P().avisos[1].botones, 2);
+    EXPECT_EQ(P().avisos[1].ayuda, 2161);
+    ASSERT_EQ(Historico().size(), 1U);
+    EXPECT_NE(Historico()[0].find(",83,20,2,0,\"Ana\""), std::string::npos) << Historico()[0];
+    // The joints are gone: the table shows the picture itself.
+    for (const Punto p : {Punto{99, 50}, {100, 50}, {150, 199}, {0, 0}, {299, 299}})
+        EXPECT_EQ(Pic_Trabajo.Fila(p.y)[p.x], Pic_FonTamModi.Fila(p.y)[p.x]);
+}
+
+TEST_F(Partida, FinishedJigsawGivesTheNoticeOnItsPieces) {
+    Moviles(3, 300, 300);
+    for (i16 i = 1; i <= 9; ++i) Coloca(i);
+    const auto antes = P().avisos.size();
+    Puntero.Pulsa(400, 400);
+    EXPECT_EQ(P().avisos.size(), antes);
+    Puntero.Pulsa(150, 150);
+    ASSERT_EQ(P().avisos.size(), antes + 1);
+    EXPECT_EQ(P().avisos.back().titulo, "Puzzle resuelto");
+}
+
+TEST_F(Partida, RefusedHistoryIsNotWrittenAndNotAskedAgain) {
+    Moviles(3, 300, 300);
+    P().respuestas = {false};
+    for (i16 i = 1; i <= 9; ++i) Coloca(i);
+    EXPECT_EQ(P().avisos.size(), 2U);
+    EXPECT_TRUE(Historico().empty());
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
+}
+
+TEST_F(Partida, HelpedResultIsCongratulatedButNotOfferedToTheHistory) {
+    Moviles(3, 300, 300);
+    Gbl.PuzzleArchivable = false;
+    P().respuestas = {true};
+    for (i16 i = 1; i <= 9; ++i) Coloca(i);
+    ASSERT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(P().avisos[0].titulo, "TESSARIO");
+    EXPECT_TRUE(Historico().empty());
+}
+
+TEST_F(Partida, EveryShapeCanBeDealtAndSolvedByHand) {
+    for (i16 forma = 0; forma <= 7; ++forma) {
+        P().avisos.clear();
+        Moviles(2, 300, 240, forma);
+        for (i16 i = 1; i <= Gbl.NumPiezas; ++i) Coloca(i);
+        EXPECT_TRUE(Gbl.PuzzleTerminado) << forma;
+        EXPECT_EQ(P().avisos.size(), 2U) << forma;
+    }
+}
+
+TEST_F(Partida, SlidingBoardIsFinishedByItsLastMove) {
+    Deslizantes(3);
+    TableroResuelto();
+    const Punto p6 = PuntoDe(6);
+    Puntero.Pulsa(p6.x, p6.y);
+    EXPECT_EQ(Gbl.PiezasColocadas, 7);
+    EXPECT_TRUE(P().avisos.empty());
+    P().respuestas = {true};
+    const Punto vuelta = PuntoDe(6);
+    Puntero.Pulsa(vuelta.x, vuelta.y);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+    EXPECT_EQ(P().avisos.size(), 2U);
+    EXPECT_EQ(Historico().size(), 1U);
+}
+
+TEST_F(Partida, TangramModelIsSolvedByHand) {
+    Tangram(MODO_RESOLVER);
+    Gbl.NombrePuzzle = "Barca";
+    P().respuestas = {true};
+    for (i16 i = 1; i <= 7; ++i) Arrastra(i, Gbl.Piezas[i].XBien + 2, Gbl.Piezas[i].YBien + 1);
+    EXPECT_EQ(Gbl.PiezasColocadas, 7);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+    ASSERT_EQ(Historico().size(), 1U);
+    EXPECT_NE(Historico()[0].find("\"Barca\""), std::string::npos);
+}
+
+TEST_F(Partida, TangramWithoutBordersShowsThemWhenFinished) {
+    Gbl.DibujarBorde = false;
+    Tangram(MODO_RESOLVER);
+    for (i16 i = 1; i <= 7; ++i) {
+        Gbl.Piezas[i].X = Gbl.Piezas[i].XBien;
+        Gbl.Piezas[i].Y = Gbl.Piezas[i].YBien;
+    }
+    ColocaPiezas(1);
+    const auto sinBordes = Pic_Trabajo.Dibujo().Pixeles;
+    EntraEnCompleto();
+    EXPECT_FALSE(Gbl.DibujarBorde);
+    EXPECT_NE(Pic_Trabajo.Dibujo().Pixeles, sinBordes);
+    SaleDeCompleto();
+    EXPECT_FALSE(Gbl.PuzzleTerminado);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, sinBordes);
+}
+
+TEST_F(Partida, JigsawThatIsTakenBackShowsItsJointsAgain) {
+    Moviles(3, 300, 300);
+    for (i16 i = 1; i <= 9; ++i) Pon(i, Gbl.Piezas[i].XBien, Gbl.Piezas[i].YBien);
+    const auto conJuntas = Pic_Trabajo.Dibujo().Pixeles;
+    EntraEnCompleto();
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+    EXPECT_NE(Pic_Trabajo.Dibujo().Pixeles, conJuntas);
+    SaleDeCompleto();
+    EXPECT_FALSE(Gbl.PuzzleTerminado);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, conJuntas);
+}
+
+TEST_F(Partida, HistoryThatCannotBeWrittenIsReportedByNumber) {
+    Moviles(3, 300, 300);
+    Gbl.CarpetaPrograma = P().carpeta + "no/existe/";
+    P().respuestas = {true};
+    FinDeJuego();
+    ASSERT_EQ(P().avisos.size(), 3U);
+    EXPECT_EQ(P().avisos[2].texto.substr(0, 10), "HIS ERROR ");
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
+}
+
+}  // namespace tessario
