@@ -14,6 +14,10 @@ namespace tessario {
 
 class Partida : public MesaMontada {
 protected:
+    void SetUp() override {
+        MesaMontada::SetUp();
+        Gbl.MostrarMuestra = false;  // the sample view would lie over dealt pieces
+    }
     // Turns with the right button until the piece is upright, then drags it near its place. The
     // piece is brought on top first, as a player would dig it out.
     void Coloca(i16 piece) {
