@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Medidas.h"
 #include "pieces/Superficies.h"
@@ -57,7 +59,7 @@ TEST_F(Medidas, CurvedPiecesGetOddCells) {
 }
 
 TEST_F(Medidas, OtherShapesKeepTheirCells) {
-    for (const i16 forma : {0, 2, 4, 5, 6, 7}) {
+    for (const i16 forma : std::array<i16, 6>{0, 2, 4, 5, 6, 7}) {
         Jigsaw(640, 485, forma, 1);
         EXPECT_EQ(Gbl.AnchoCelda, 128) << forma;
         EXPECT_EQ(Gbl.AltoCelda, 97) << forma;

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Avisos.h"
 #include "core/Servicios.h"
@@ -167,7 +169,7 @@ TEST_F(VentanasNucleo, HelpOpensItsTopicAndTheMessageStays) {
 }
 
 TEST_F(VentanasNucleo, AnyKeyMeansYes) {
-    for (const i16 tecla : {27, 13, 65, 112}) {
+    for (const i16 tecla : std::array<i16, 4>{27, 13, 65, 112}) {
         Abre(1, 2, 0, [&](PunteroPrueba&) {
             Mensajes.KeyDown(tecla, 0);
             EXPECT_FALSE(Mensajes.Abierta);
