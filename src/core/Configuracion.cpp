@@ -197,6 +197,7 @@ void LeeAjustesJuego(const std::string& Fichero) {
     BorraError();
     AjustesPorDefecto();
     MesaPorDefecto();
+    Gbl.PuzzleArchivable = false;  // once more: dealing begins a puzzle that could be kept
     GuardaAjustesJuego();
     BorraError();
 }
