@@ -52,6 +52,12 @@ void PintaTecla(Tecla t, bool pulsada) {
     Sistema().Presenta();
 }
 
+// A move or a run of moves is under way and will still enter the log.
+bool HayTareaEnCurso() {
+    return Gbl.Barajando || Gbl.OrdenandoPiezas || Gbl.ResolviendoPuzzle || Gbl.TareaAutomatica ||
+           Gbl.GirandoPieza || Gbl.ArrastrandoPieza;
+}
+
 // Can the key be pressed now? This is what the hover shows.
 bool Activa(Tecla t) {
     const bool encendida = Gbl.GrabadoraEncendida;
@@ -60,7 +66,7 @@ bool Activa(Tecla t) {
     const bool hayAdelante = Gbl.NumMovimientos < Gbl.FinMovimientos;
     switch (t) {
         case Mando:
-            return true;
+            return encendida || !HayTareaEnCurso();
         case AtrasUno:
             return encendida && hayAtras && ninguno;
         case AdelanteUno:

@@ -202,6 +202,7 @@ void PunteroPrueba::Mueve(i32 x, i32 y) {
 }
 
 void PunteroPrueba::Aprieta(i16 boton) {
+    if (!apretado_) Mueve(x_, y_);  // as on a real screen, a press always follows a move
     preso_ = Debajo();
     apretado_ = true;
     boton_ = boton;

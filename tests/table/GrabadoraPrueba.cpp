@@ -203,6 +203,20 @@ TEST_F(PanelGrabadora, PowerOffDuringAnAutomaticRunEndsBoth) {
     EXPECT_FALSE(Gbl.AutoAtras);
 }
 
+TEST_F(PanelGrabadora, CannotBeSwitchedOnWhileMovesAreStillBeingMade) {
+    Juega(1, 10, 20);
+    for (Booleano* bandera : {&Gbl.Barajando, &Gbl.OrdenandoPiezas, &Gbl.ResolviendoPuzzle,
+                              &Gbl.TareaAutomatica, &Gbl.GirandoPieza, &Gbl.ArrastrandoPieza}) {
+        *bandera = true;
+        EXPECT_EQ(LetreroEn(MANDO), "");
+        Pulsa(MANDO);
+        EXPECT_FALSE(Gbl.GrabadoraEncendida);
+        *bandera = false;
+    }
+    Pulsa(MANDO);
+    EXPECT_TRUE(Gbl.GrabadoraEncendida);
+}
+
 TEST_F(PanelGrabadora, TooltipsTellWhatEachKeyCanDo) {
     Juega(1, 10, 20);
     Juega(1, 40, 20);
