@@ -41,13 +41,15 @@ double EnUnaVuelta(double angulo) {
 
 class Elipse {
 public:
-    Elipse(double cx, double cy, double semiejeX, double semiejeY)
+    // conAngulos: the crossings' angles will be asked for; else they are left at 0.
+    Elipse(double cx, double cy, double semiejeX, double semiejeY, bool conAngulos)
         : entX_(Entera(cx)),
           entY_(Entera(cy)),
           x_(Fraccion(cx)),
           y_(Fraccion(cy)),
           a_(std::max(semiejeX, SEMIEJE_MINIMO)),
-          b_(std::max(semiejeY, SEMIEJE_MINIMO)) {}
+          b_(std::max(semiejeY, SEMIEJE_MINIMO)),
+          conAngulos_(conAngulos) {}
 
     // The two crossings with a column or a row, lattice number k from the centre's whole part;
     // there must be some: |k - centre| at most the semi-axis.
@@ -116,7 +118,9 @@ private:
     static double Fraccion(double c) { return EnPartes(c) - std::floor(EnPartes(c)); }
 
     // Counter-clockwise as seen on the screen, where y grows downwards.
-    static double Angulo(double u, double v) { return EnUnaVuelta(std::atan2(-v, u)); }
+    double Angulo(double u, double v) const {
+        return conAngulos_ ? EnUnaVuelta(std::atan2(-v, u)) : 0;
+    }
 
     // The lattice numbers from desde up to hasta that the curve crosses.
     static std::pair<i32, i32> Rango(double centro, double semieje, i32 desde, i32 hasta) {
@@ -127,6 +131,7 @@ private:
     i32 entX_, entY_;  // whole part of the centre
     double x_, y_;     // the rest of it
     double a_, b_;     // semi-axes
+    bool conAngulos_;
 };
 
 // Leaves only the crossings on the arc, both ends included.
@@ -182,11 +187,12 @@ void Superficie::Circle(int flags, double cx, double cy, double radio, Color col
     CurrentX = cx;
     CurrentY = cy;
 
-    const Elipse elipse = aspecto < 1 ? Elipse(cx, cy, radio, radio * aspecto)
-                                      : Elipse(cx, cy, radio / aspecto, radio);
     const bool cerrada = !(flags & (pluma::AnguloIni | pluma::AnguloFin));
     std::optional<std::pair<double, double>> arco;
     if (!cerrada && std::abs(fin - inicio) < VUELTA - ANGULO_MINIMO) arco.emplace(inicio, fin);
+    const double semiejeX = aspecto < 1 ? radio : radio / aspecto;
+    const double semiejeY = aspecto < 1 ? radio * aspecto : radio;
+    const Elipse elipse(cx, cy, semiejeX, semiejeY, arco.has_value());
 
     const Punta punta(DrawWidth);
     Trazo trazo(*this, flags & pluma::ConColor ? color : ForeColor);

@@ -29,15 +29,16 @@ struct DestinoSinFuente {
     static Pixel Mezcla(Pixel d, Pixel s) { return d & ~s; }
 };
 
-// One row of n pixels. The two do not overlap.
+// One row of n pixels. The two rows are the same or do not overlap: no pixel depends on another.
 template <class Operacion>
-void MezclaFila(Pixel* __restrict d, const Pixel* __restrict s, i32 n) {
+void MezclaFila(Pixel* d, const Pixel* s, i32 n) {
+#pragma GCC ivdep
     for (i32 i = 0; i < n; ++i) d[i] = Operacion::Mezcla(d[i], s[i]);
 }
 
 template <>
-void MezclaFila<CopiaFuente>(Pixel* __restrict d, const Pixel* __restrict s, i32 n) {
-    std::memcpy(d, s, static_cast<std::size_t>(n) * sizeof(Pixel));
+void MezclaFila<CopiaFuente>(Pixel* d, const Pixel* s, i32 n) {
+    std::memmove(d, s, static_cast<std::size_t>(n) * sizeof(Pixel));
 }
 
 using Mezclador = void (*)(Pixel*, const Pixel*, i32);
@@ -136,7 +137,8 @@ void BitBlt(Superficie& destino, i32 xd, i32 yd, i32 ancho, i32 alto, const Supe
     const auto sx = static_cast<i32>(dx), sy = static_cast<i32>(dy);
     const Rect leido{caja.Izq + sx, caja.Arr + sy, caja.Der + sx, caja.Aba + sy};
     const Mezclador mezcla = MezcladorDe(operacion);
-    if (&destino == &origen && !Interseccion(caja, leido).Vacio()) {
+    const bool enSitio = sx == 0 && sy == 0;
+    if (&destino == &origen && !enSitio && !Interseccion(caja, leido).Vacio()) {
         const Mapa copia = CopiaDe(origen, leido);
         PorElRecorte(destino, caja, [&](const Rect& r) {
             for (i32 y = r.Arr; y < r.Aba; ++y)
@@ -169,19 +171,18 @@ void StretchBlt(Superficie& destino, i32 xd, i32 yd, i32 anchoD, i32 altoD,
     for (i32 x = cx.Desde; x < cx.Hasta; ++x)
         columnas.push_back(xo + IndiceEstirado(static_cast<i64>(x) - xd, anchoO, anchoD));
 
-    std::vector<Pixel> fila(columnas.size());
     const Mezclador mezcla = MezcladorDe(operacion);
-    i32 reunida = -1;  // the source row that fila holds
+    const bool copiaSola = mezcla == MezclaFila<CopiaFuente>;
+    std::vector<Pixel> fila(copiaSola ? 0 : columnas.size());
     PorElRecorte(destino, {cx.Desde, cy.Desde, cx.Hasta, cy.Hasta}, [&](const Rect& r) {
+        const auto primera = columnas.begin() + (r.Izq - cx.Desde);
         for (i32 y = r.Arr; y < r.Aba; ++y) {
-            const i32 ys = yo + IndiceEstirado(static_cast<i64>(y) - yd, altoO, altoD);
-            if (ys != reunida) {
-                const Pixel* p = fuente.Fila(ys);
-                std::transform(columnas.begin(), columnas.end(), fila.begin(),
-                               [p](i32 c) { return p[c]; });
-                reunida = ys;
-            }
-            mezcla(destino.Fila(y) + r.Izq, fila.data() + (r.Izq - cx.Desde), r.Ancho());
+            const Pixel* p =
+                fuente.Fila(yo + IndiceEstirado(static_cast<i64>(y) - yd, altoO, altoD));
+            Pixel* const d = destino.Fila(y) + r.Izq;
+            Pixel* const reunida = copiaSola ? d : fila.data();
+            std::transform(primera, primera + r.Ancho(), reunida, [p](i32 c) { return p[c]; });
+            if (!copiaSola) mezcla(d, reunida, r.Ancho());
         }
     });
 }

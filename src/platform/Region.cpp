@@ -15,20 +15,6 @@ using i64 = std::int64_t;
 constexpr i32 MENOR = std::numeric_limits<i32>::min();
 constexpr i32 MAYOR = std::numeric_limits<i32>::max();
 
-// Is a point in the result, given whether it is in a and in b? One row for each mode.
-struct ModoY {
-    static constexpr bool Dentro(bool a, bool b) { return a && b; }
-};
-struct ModoO {
-    static constexpr bool Dentro(bool a, bool b) { return a || b; }
-};
-struct ModoXor {
-    static constexpr bool Dentro(bool a, bool b) { return a != b; }
-};
-struct ModoResta {
-    static constexpr bool Dentro(bool a, bool b) { return a && !b; }
-};
-
 // A region read band by band.
 class Lector {
 public:
@@ -61,49 +47,100 @@ private:
     const Rect* finBanda_ = nullptr;
 };
 
-// Walks along the ends of the spans of both bands, from left to right.
-template <class Modo>
-void CombinaBanda(std::span<const Rect> a, std::span<const Rect> b, BandasRegion& salida) {
-    std::size_t i = 0, j = 0;
-    bool enA = false, enB = false, dentro = false;
-    i32 inicio = 0;
-    while (i < a.size() || j < b.size()) {
-        const i32 xa = i == a.size() ? MAYOR : (enA ? a[i].Der : a[i].Izq);
-        const i32 xb = j == b.size() ? MAYOR : (enB ? b[j].Der : b[j].Izq);
-        const i32 x = std::min(xa, xb);
-        if (xa == x && i < a.size()) {
-            i += enA;
-            enA = !enA;
+using Banda = std::span<const Rect>;
+
+// What a mode makes of two bands of the same rows, and which of the two must be there at all for
+// anything to come out.
+struct ModoY {
+    static constexpr bool QuiereA = true, QuiereB = true;
+    static void Combina(Banda a, Banda b, BandasRegion& salida) {
+        auto p = a.begin(), q = b.begin();
+        while (p != a.end() && q != b.end()) {
+            const i32 izq = std::max(p->Izq, q->Izq), der = std::min(p->Der, q->Der);
+            if (izq < der) salida.Aparte(izq, der);
+            if (p->Der < q->Der)
+                ++p;
+            else
+                ++q;
         }
-        if (xb == x && j < b.size()) {
-            j += enB;
-            enB = !enB;
-        }
-        const bool ahora = Modo::Dentro(enA, enB);
-        if (ahora == dentro) continue;
-        if (ahora)
-            inicio = x;
-        else
-            salida.Tramo(inicio, x);
-        dentro = ahora;
     }
-}
+};
+
+struct ModoO {
+    static constexpr bool QuiereA = false, QuiereB = false;
+    static void Combina(Banda a, Banda b, BandasRegion& salida) {
+        auto p = a.begin(), q = b.begin();
+        const auto primero = [&]() -> const Rect& {
+            const bool deA = q == b.end() || (p != a.end() && p->Izq <= q->Izq);
+            return deA ? *p++ : *q++;
+        };
+        i32 izq = 0, der = 0;
+        bool abierto = false;
+        while (p != a.end() || q != b.end()) {
+            const Rect& r = primero();
+            if (abierto && r.Izq <= der) {
+                der = std::max(der, r.Der);
+                continue;
+            }
+            if (abierto) salida.Aparte(izq, der);
+            izq = r.Izq;
+            der = r.Der;
+            abierto = true;
+        }
+        if (abierto) salida.Aparte(izq, der);
+    }
+};
+
+struct ModoResta {
+    static constexpr bool QuiereA = true, QuiereB = false;
+    static void Combina(Banda a, Banda b, BandasRegion& salida) {
+        auto q = b.begin();
+        for (const Rect& r : a) {
+            i32 izq = r.Izq;
+            while (q != b.end() && q->Izq < r.Der) {
+                if (izq < q->Izq) salida.Aparte(izq, q->Izq);
+                izq = std::max(izq, q->Der);
+                if (q->Der > r.Der) break;  // it may reach into the next one
+                ++q;
+            }
+            if (izq < r.Der) salida.Aparte(izq, r.Der);
+        }
+    }
+};
+
+struct ModoXor {
+    static constexpr bool QuiereA = false, QuiereB = false;
+    // The ends of the spans of both, from left to right: between each two the side changes.
+    static void Combina(Banda a, Banda b, BandasRegion& salida) {
+        std::size_t i = 0, j = 0;
+        const auto fin = [](Banda banda, std::size_t k) {
+            const Rect& r = banda[k / 2];
+            return k % 2 ? r.Der : r.Izq;
+        };
+        bool dentro = false;
+        i32 inicio = 0;
+        while (i < 2 * a.size() || j < 2 * b.size()) {
+            const bool deA = j == 2 * b.size() || (i < 2 * a.size() && fin(a, i) <= fin(b, j));
+            const i32 x = deA ? fin(a, i++) : fin(b, j++);
+            if (dentro) salida.Tramo(inicio, x);
+            inicio = x;
+            dentro = !dentro;
+        }
+    }
+};
 
 template <class Modo>
 void CombinaListas(Lista& destino, const Lista& a, const Lista& b) {
     BandasRegion salida(destino);
     Lector la(a), lb(b);
-    constexpr bool soloConA = !Modo::Dentro(false, true);
-    constexpr bool soloConB = !Modo::Dentro(true, false);
     i32 y = MENOR;
     while (!(la.Acabado() && lb.Acabado())) {
-        if ((soloConA && la.Acabado()) || (soloConB && lb.Acabado())) break;
-        const auto fa = la.EnFila(y);
-        const auto fb = lb.EnFila(y);
+        if ((Modo::QuiereA && la.Acabado()) || (Modo::QuiereB && lb.Acabado())) break;
+        const Banda fa = la.EnFila(y), fb = lb.EnFila(y);
         const i32 siguiente = std::min(la.Proxima(y), lb.Proxima(y));
-        if (!fa.empty() || !fb.empty()) {
+        if ((!Modo::QuiereA || !fa.empty()) && (!Modo::QuiereB || !fb.empty())) {
             salida.Abre(y, siguiente);
-            CombinaBanda<Modo>(fa, fb, salida);
+            Modo::Combina(fa, fb, salida);
             salida.Cierra();
         }
         y = siguiente;
@@ -238,6 +275,12 @@ void SetRectRgn(Region& r, i32 izq, i32 arr, i32 der, i32 aba) {
 int CombineRgn(Region& destino, const Region& a, const Region& b, int modo) {
     if (modo == RGN_COPY) {
         destino = a;
+        return destino.Codigo();
+    }
+    if (modo == RGN_AND && a.rects_.size() == 1 && b.rects_.size() == 1) {
+        const Rect comun = Interseccion(a.rects_.front(), b.rects_.front());
+        destino.rects_.resize(comun.Vacio() ? 0 : 1, comun);
+        if (!comun.Vacio()) destino.rects_.front() = comun;
         return destino.Codigo();
     }
     const Combinador combina = CombinadorDe(modo);

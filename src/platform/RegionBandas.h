@@ -19,14 +19,17 @@ public:
         banda_ = lista_.size();
     }
 
-    // A span of the open band. It may touch the one before but starts no further left than that
-    // one ends.
+    // A span of the open band that is not empty and lies clear of the one before.
+    void Aparte(i32 izq, i32 der) { lista_.push_back({izq, arr_, der, aba_}); }
+
+    // A span of the open band, or an empty one, which adds nothing. It may touch the one before but
+    // starts no further left than that one ends.
     void Tramo(i32 izq, i32 der) {
         if (izq >= der) return;
         if (lista_.size() > banda_ && lista_.back().Der == izq)
             lista_.back().Der = der;
         else
-            lista_.push_back({izq, arr_, der, aba_});
+            Aparte(izq, der);
     }
 
     // Ends the band; one with the columns of the band just above it becomes part of that.

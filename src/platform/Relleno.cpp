@@ -5,9 +5,11 @@ namespace tessario {
 
 namespace {
 
-// A stretch of one row: columns [Izq, Der).
+// A stretch of one row: columns [Izq, Der). A pending one lies beside a stretch of the same columns
+// already painted, one row further in the direction Sentido.
 struct Tramo {
     i32 y, Izq, Der;
+    i32 Sentido = 0;
 };
 
 class Relleno {
@@ -17,7 +19,9 @@ public:
     // Everything that can be reached from the point gets the border's colour, which at once marks
     // it as done; then the stretches found get the fill's.
     Rect Pinta(i32 x, i32 y, Pixel relleno) {
-        pendientes_.push_back({y, x, x + 1});
+        const Tramo primero = Toma(x, Permitido(x, y));
+        Deja(primero, 1);
+        Deja(primero, -1);
         while (!pendientes_.empty()) {
             const Tramo t = pendientes_.back();
             pendientes_.pop_back();
@@ -44,26 +48,42 @@ public:
     }
 
 private:
-    // Looks along a stretch that is beside one already painted, and paints all that it touches.
+    // Marks all that can be painted in the row without a break around x, which can.
+    Tramo Toma(i32 x, const Tramo& cabe) {
+        Pixel* fila = s_.Fila(cabe.y);
+        i32 izq = x, der = x + 1;
+        while (izq > cabe.Izq && fila[izq - 1] != borde_) --izq;
+        while (der < cabe.Der && fila[der] != borde_) ++der;
+        std::fill(fila + izq, fila + der, borde_);
+        hechos_.push_back({cabe.y, izq, der});
+        return hechos_.back();
+    }
+
+    // The row beside a stretch is to be looked at.
+    void Deja(const Tramo& t, i32 sentido) {
+        const i32 y = t.y + sentido;
+        if (t.Izq < t.Der && y >= 0 && y < s_.Height())
+            pendientes_.push_back({y, t.Izq, t.Der, sentido});
+    }
+
+    // Looks along a pending stretch and paints all that it touches. Going back is needed only
+    // where what was found is wider than the stretch from which it was reached.
     void Recorre(const Tramo& t) {
-        Pixel* fila = s_.Fila(t.y);
+        const Pixel* fila = s_.Fila(t.y);
         i32 x = t.Izq;
         while (x < t.Der) {
             const Tramo cabe = Permitido(x, t.y);
             const i32 fin = std::min(cabe.Der, t.Der);
             while (x < fin && fila[x] == borde_) ++x;
             if (x >= fin) {
-                x = std::max(x, fin) + (cabe.Izq == cabe.Der);
+                x += cabe.Izq == cabe.Der;  // outside the clip
                 continue;
             }
-            i32 izq = x, der = x + 1;
-            while (izq > cabe.Izq && fila[izq - 1] != borde_) --izq;
-            while (der < cabe.Der && fila[der] != borde_) ++der;
-            std::fill(fila + izq, fila + der, borde_);
-            hechos_.push_back({t.y, izq, der});
-            if (t.y > 0) pendientes_.push_back({t.y - 1, izq, der});
-            if (t.y + 1 < s_.Height()) pendientes_.push_back({t.y + 1, izq, der});
-            x = der;
+            const Tramo hallado = Toma(x, cabe);
+            Deja(hallado, t.Sentido);
+            Deja({t.y, hallado.Izq, t.Izq}, -t.Sentido);
+            Deja({t.y, t.Der, hallado.Der}, -t.Sentido);
+            x = hallado.Der;
         }
     }
 

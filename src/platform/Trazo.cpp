@@ -57,6 +57,10 @@ private:
 };
 
 void PintaFinos(Trazo& trazo, std::vector<Punto>& puntos) {
+    if (!trazo.Invierte()) {
+        for (const Punto& p : puntos) trazo.Punto(p.x, p.y);
+        return;
+    }
     const auto orden = [](const Punto& a, const Punto& b) {
         return a.y != b.y ? a.y < b.y : a.x < b.x;
     };

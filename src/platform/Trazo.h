@@ -25,6 +25,7 @@ public:
     void PonColor(Color color) { pixel_ = PixelDe(color); }
     // Where pixels can appear at all: the surface and the box of its clip.
     const Rect& Zona() const { return zona_; }
+    bool Invierte() const { return invierte_; }
     void Caja(const Rect& r);
     void Punto(i32 x, i32 y) { Caja({x, y, x + 1, y + 1}); }
 
