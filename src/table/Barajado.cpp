@@ -236,10 +236,7 @@ void BarajaPiezas() {
         }
     });
     ReiniciaPartida();
-    if (Gbl.JuegoActual != JuegoDeslizantes)
-        ColocaPiezas(0);
-    else
-        MuestraColocadas();  // its pieces lie there already; only the counter is behind
+    if (Gbl.JuegoActual != JuegoDeslizantes) ColocaPiezas(0);
     Gbl.Barajando = false;
     AplicaCursor(CURSOR_NORMAL);
 }

@@ -5,7 +5,8 @@
 
 namespace tessario {
 
-// Swaps XBien, YBien, GiroBien and VolteoBien of a piece with those of its twin.
+// Swaps XBien, YBien, GiroBien and VolteoBien of a piece with those of its twin. A piece without a
+// twin, and a number that is no Tangram piece, change nothing.
 void TCambiaGemela(i16 piece);
 
 }  // namespace tessario

@@ -1,0 +1,210 @@
+#include "records/Modelos.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+#include "core/PuzzGbl.h"
+#include "pieces/Formas.h"
+#include "records/Texto.h"
+
+namespace tessario {
+
+namespace {
+
+// Columns of a record, counted from 0. One byte is one character.
+constexpr std::size_t LARGO_REGISTRO = 126;
+constexpr std::size_t LARGO_NOMBRE = 25;
+constexpr std::size_t COLUMNA_PIEZAS = LARGO_NOMBRE;
+constexpr std::size_t LARGO_BLOQUE = 10;  // one piece: X 4, Y 4, Giro 1, Volteo 1
+constexpr i32 PIEZAS_TANGRAM = 7;
+constexpr std::size_t FIN_PIEZAS = COLUMNA_PIEZAS + LARGO_BLOQUE * PIEZAS_TANGRAM;
+constexpr std::size_t COLUMNA_FIN = 124;  // carriage return and line feed
+constexpr i32 MAX_MODELOS = 32767;        // ModeloActual holds no larger number
+constexpr i16 ULTIMO_GIRO = 7;
+constexpr const char* NOMBRE_FICHERO = "Modelos.tpu";
+
+std::string RegistroLibre() {
+    return std::string(LARGO_NOMBRE, ' ') + std::string(COLUMNA_FIN - LARGO_NOMBRE, '0') + "\r\n";
+}
+
+// Number of records in the file, a last one that is cut short included.
+i32 CuentaRegistros(std::string_view fichero) {
+    const std::size_t n = (fichero.size() + LARGO_REGISTRO - 1) / LARGO_REGISTRO;
+    return static_cast<i32>(std::min<std::size_t>(n, MAX_MODELOS));
+}
+
+// A record by its number, from 1. One that is missing, or cut short before the end of its pieces,
+// is a free one.
+std::string Registro(std::string_view fichero, i32 numero) {
+    if (numero < 1 || numero > CuentaRegistros(fichero)) return RegistroLibre();
+    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
+    std::string registro(fichero.substr(desde, LARGO_REGISTRO));
+    if (registro.size() < FIN_PIEZAS) return RegistroLibre();
+    registro += RegistroLibre().substr(registro.size());
+    return registro;
+}
+
+std::string_view Nombre(std::string_view registro) {
+    return registro.substr(0, LARGO_NOMBRE);
+}
+
+// A name in one byte for a character, with blanks for what cannot be seen.
+std::string Visible(std::string_view nombre) {
+    std::string s(nombre);
+    for (char& c : s)
+        if (static_cast<unsigned char>(c) < ' ') c = ' ';
+    return s;
+}
+
+// Blanks, and the zero bytes of a file that was extended without being written.
+bool EsLibre(std::string_view registro) {
+    return Nombre(registro).find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
+}
+
+std::string SinBlancos(const std::string& s) {
+    const auto primero = s.find_first_not_of(' ');
+    if (primero == std::string::npos) return "";
+    return s.substr(primero, s.find_last_not_of(' ') - primero + 1);
+}
+
+// A field of digits; a field that holds anything else counts as 0.
+i16 Campo(std::string_view campo) {
+    i16 valor = 0;
+    for (const char c : campo) {
+        if (c < '0' || c > '9') return 0;
+        valor = static_cast<i16>(valor * 10 + (c - '0'));
+    }
+    return valor;
+}
+
+// A number with leading zeros; too wide a one is cut on the right.
+std::string Columnas(i16 valor, std::size_t ancho) {
+    std::string digitos = std::to_string(valor);
+    if (digitos.size() < ancho) digitos.insert(0, ancho - digitos.size(), '0');
+    return digitos.substr(0, ancho);
+}
+
+void LeeBloque(std::string_view bloque, Pieza& p) {
+    p.XBien = Campo(bloque.substr(0, 4));
+    p.YBien = Campo(bloque.substr(4, 4));
+    p.GiroBien = Campo(bloque.substr(8, 1));
+    p.VolteoBien = Campo(bloque.substr(9, 1));
+    // A damaged digit would name an orientation that no piece has.
+    if (p.GiroBien > ULTIMO_GIRO) p.GiroBien = 0;
+    p.VolteoBien = p.VolteoBien != 0;
+}
+
+std::string EscribeBloque(const Pieza& p) {
+    return Columnas(p.X, 4) + Columnas(p.Y, 4) + Columnas(p.Giro, 1) + Columnas(p.Volteo, 1);
+}
+
+// The whole file. A missing one is an empty one; any other failure is noted and answered false.
+bool LeeModelos(std::string& bytes) {
+    bytes.clear();
+    const i16 error = LeeFichero(FicheroModelos(), bytes);
+    if (error == 0) return true;
+    bytes.clear();
+    if (error == ERROR_FICHERO) return true;
+    PonErrorPendiente(error);
+    return false;
+}
+
+// Puts RegistroModelo at a place and replaces the file whole.
+void EscribeModelo(std::string bytes, i16 numero) {
+    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
+    while (bytes.size() < desde) {
+        // Only the last record can be short: it is a damaged one, and becomes free.
+        bytes.resize(bytes.size() / LARGO_REGISTRO * LARGO_REGISTRO);
+        bytes += RegistroLibre();
+    }
+    if (bytes.size() < desde + LARGO_REGISTRO) bytes.resize(desde + LARGO_REGISTRO);
+    bytes.replace(desde, LARGO_REGISTRO, Gbl.RegistroModelo);
+    const i16 error = EscribeFichero(FicheroModelos(), bytes);
+    if (error != 0) PonErrorPendiente(error);
+}
+
+// The first free record, or the one after the last.
+i16 BuscaHueco(std::string_view fichero) {
+    const i32 registros = CuentaRegistros(fichero);
+    i32 numero = 1;
+    while (numero <= registros && !EsLibre(Registro(fichero, numero))) ++numero;
+    return Corto(numero);
+}
+
+void MuevePiezas(i32 dx, i32 dy) {
+    for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
+        Gbl.Piezas[i].X = Corto(Gbl.Piezas[i].X + dx);
+        Gbl.Piezas[i].Y = Corto(Gbl.Piezas[i].Y + dy);
+    }
+}
+
+// Name and placements of the pieces as they stand.
+std::string RegistroDeLaMesa(const std::string& nombre) {
+    const std::string columnas = Visible(A1252(SinBlancos(nombre)).substr(0, LARGO_NOMBRE));
+    std::string registro = RegistroLibre();
+    registro.replace(0, columnas.size(), columnas);
+    for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
+        const auto desde = COLUMNA_PIEZAS + LARGO_BLOQUE * static_cast<std::size_t>(i - 1);
+        registro.replace(desde, LARGO_BLOQUE, EscribeBloque(Gbl.Piezas[i]));
+    }
+    return registro;
+}
+
+}  // namespace
+
+std::string FicheroModelos() {
+    return BuscaRuta(Gbl.CarpetaArchivo + NOMBRE_FICHERO);
+}
+
+void CargaListaModelos(Lista& lista) {
+    lista.Clear();
+    std::string bytes;
+    if (!LeeModelos(bytes)) return;
+    for (i32 numero = 1; numero <= CuentaRegistros(bytes); ++numero) {
+        const std::string registro = Registro(bytes, numero);
+        if (!EsLibre(registro)) lista.AddItem(De1252(Visible(Nombre(registro))), numero);
+    }
+}
+
+void LeeModelo() {
+    std::string bytes;
+    LeeModelos(bytes);
+    Gbl.RegistroModelo = Registro(bytes, Gbl.ModeloActual);
+    if (EsLibre(Gbl.RegistroModelo)) Gbl.RegistroModelo = RegistroLibre();
+    if (Gbl.Piezas.Superior() < PIEZAS_TANGRAM) Gbl.Piezas.Amplia(PIEZAS_TANGRAM);
+    const std::string_view registro = Gbl.RegistroModelo;
+    for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
+        const auto desde = COLUMNA_PIEZAS + LARGO_BLOQUE * static_cast<std::size_t>(i - 1);
+        LeeBloque(registro.substr(desde, LARGO_BLOQUE), Gbl.Piezas[i]);
+    }
+}
+
+void GuardaModelo(const std::string& nombre) {
+    if (Gbl.Piezas.Superior() < PIEZAS_TANGRAM) return;
+    std::string bytes;
+    if (!LeeModelos(bytes)) return;  // what cannot be read is not replaced
+    Sigue([&] {
+        const i16 hueco = BuscaHueco(bytes);
+        TCajaFigura(1);
+        const i32 dx = Gbl.CajaIzq - Gbl.MargenX, dy = Gbl.CajaArr - Gbl.MargenY;
+        const Arreglo<Pieza> enLaMesa = Gbl.Piezas;
+        Sigue([&] {
+            MuevePiezas(-dx, -dy);
+            Gbl.ModeloActual = hueco;
+            Gbl.RegistroModelo = RegistroDeLaMesa(nombre);
+            EscribeModelo(bytes, hueco);
+        });
+        Gbl.Piezas = enLaMesa;  // back to where they stood
+    });
+}
+
+void BorraModelo() {
+    std::string bytes;
+    if (!LeeModelos(bytes)) return;
+    if (Gbl.ModeloActual < 1 || Gbl.ModeloActual > CuentaRegistros(bytes)) return;
+    Gbl.RegistroModelo = RegistroLibre();
+    EscribeModelo(bytes, Gbl.ModeloActual);
+}
+
+}  // namespace tessario
