@@ -1,0 +1,285 @@
+#include "jigsaw/MesaMoviles.h"
+#include "pieces/Raster.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr Pixel BLANCO = 0xFFFFFF;
+
+// Pixels of the image that are not 0 although the mask is white there.
+i32 FueraDeMascara() {
+    i32 n = 0;
+    for (i32 y = 0; y < Pic_PiezaMascara.Height(); ++y)
+        for (i32 x = 0; x < Pic_PiezaMascara.Width(); ++x)
+            n += !Negro(x, y) && Pic_PiezaImagen.Fila(y)[x] != 0;
+    return n;
+}
+
+i32 AreaNegra() {
+    i32 n = 0;
+    for (const Pixel p : Pic_PiezaMascara.Dibujo().Pixeles) n += p == 0;
+    return n;
+}
+
+}  // namespace
+
+class Raster : public MesaMoviles {
+protected:
+    void Tangram(bool borde) {
+        Gbl.JuegoActual = JuegoTangram;
+        Gbl.AnchoPantalla = 800;
+        Gbl.AltoPantalla = 600;
+        Gbl.DibujarBorde = borde;
+        CalculaTamanos();
+        Gbl.Piezas.Redimensiona(7);
+        Gbl.OrdenPiezas.Redimensiona(7);
+        for (i16 p = 1; p <= 7; ++p) Gbl.OrdenPiezas[p] = p;
+        Pic_Bitmap.Tamano(800, 600);
+        Pic_Bitmap.PonBackColor(0x123456);
+    }
+    void Deslizantes(bool borde, i16 celda) {
+        Gbl.JuegoActual = JuegoDeslizantes;
+        Gbl.DibujarBorde = borde;
+        Gbl.NumPiezas = 8;
+        Gbl.AnchoCelda = Gbl.AltoCelda = Gbl.AnchoPieza = Gbl.AltoPieza = celda;
+        Gbl.ColorPiezasClaro = 0x28A828;
+        Gbl.ColorPiezasOscuro = 0x005800;
+        Gbl.Piezas.Redimensiona(8);
+        Pic_Bitmap.Tamano(400, 400);
+        Pic_Bitmap.PonBackColor(0x008000);
+    }
+};
+
+TEST_F(Raster, ARectangleShowsItsOwnPartOfThePicture) {
+    Monta(0, 4, 320, 240);  // cells of 80 by 60
+    Coloca(6, 500, 300);    // where it lies does not matter; it belongs at (80, 60)
+    PreparaPieza(6);
+    ASSERT_EQ(Pic_PiezaImagen.Width(), 80);
+    ASSERT_EQ(Pic_PiezaImagen.Height(), 60);
+    EXPECT_EQ(AreaNegra(), 80 * 60);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[0], PixelDeMuestra(80, 60));
+    EXPECT_EQ(Pic_PiezaImagen.Fila(59)[79], PixelDeMuestra(159, 119));
+    EXPECT_EQ(Gbl.PiezaAux, Gbl.Piezas[6]);
+}
+
+TEST_F(Raster, ACurvedCornerPieceHasTwoStraightSides) {
+    Monta(1, 4, 400, 300);  // cells of 99 by 75
+    const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda, m = Gbl.SalienteX, n = Gbl.SalienteY;
+    // Piece 1: hollow above (template A), bulging to the left. Piece 4, at the right end of the
+    // first row, has the other template.
+    for (const i16 p : {i16{1}, i16{4}}) {
+        PreparaPieza(p);
+        const i32 lado = p == 1 ? m : m + w - 1;
+        for (i32 x = m; x < m + w; ++x) EXPECT_TRUE(Negro(x, n)) << p << ' ' << x;
+        for (i32 y = n; y < n + h; ++y) EXPECT_TRUE(Negro(lado, y)) << p << ' ' << y;
+        for (i32 x = 0; x < Gbl.AnchoPieza; ++x)
+            for (i32 y = 0; y < n; ++y) EXPECT_FALSE(Negro(x, y)) << p;
+        for (i32 y = 0; y < Gbl.AltoPieza; ++y)
+            EXPECT_FALSE(Negro(p == 1 ? m - 1 : m + w + 1, y)) << p << ' ' << y;
+    }
+}
+
+TEST_F(Raster, ASingleCurvedPieceIsTheWholePicture) {
+    Monta(1, 1, 121, 91);
+    PreparaPieza(1);
+    for (i32 y = 0; y < 91; ++y)
+        for (i32 x = 0; x < 121; ++x)
+            EXPECT_TRUE(Negro(Gbl.SalienteX + x, Gbl.SalienteY + y)) << x << ' ' << y;
+}
+
+TEST_F(Raster, TheTwoPiecesOfADoubleCellCompleteEachOther) {
+    for (i16 forma = 4; forma <= 7; ++forma) {
+        Monta(forma, 3, 320, 240);
+        PreparaPieza(1);
+        const Mapa figura = Pic_PiezaMascara.Dibujo();
+        const i32 area = AreaNegra();
+        EXPECT_TRUE(Negro(Gbl.AnchoCelda / 2, Gbl.AltoCelda / 2)) << forma;
+        EXPECT_FALSE(Negro(0, 0)) << forma;
+        PreparaPieza(2);
+        EXPECT_EQ(AreaNegra() + area, Gbl.AnchoCelda * Gbl.AltoCelda) << forma;
+        for (std::size_t i = 0; i < figura.Pixeles.size(); ++i)
+            ASSERT_NE(figura.Pixeles[i] == 0, Pic_PiezaMascara.Dibujo().Pixeles[i] == 0) << forma;
+    }
+}
+
+TEST_F(Raster, InnerRectangleKeepsAFifthOfTheCellAllAround) {
+    Monta(5, 4, 400, 300);  // 100 by 75: insets 20 and 15
+    PreparaPieza(1);
+    EXPECT_EQ(AreaNegra(), 60 * 45);
+    EXPECT_TRUE(Negro(20, 15));
+    EXPECT_TRUE(Negro(79, 59));
+    EXPECT_FALSE(Negro(19, 15));
+    EXPECT_FALSE(Negro(79, 60));
+}
+
+TEST_F(Raster, EachTriangleLiesOnItsSideOfTheCell) {
+    Monta(3, 5, 400, 300);  // 79 by 60
+    const struct {
+        i16 piece;
+        i32 x, y;  // in the middle of its side
+    } casos[] = {{1, 78, 30}, {2, 39, 59}, {3, 0, 30}, {4, 39, 0}};
+    for (const auto& c : casos) {
+        PreparaPieza(c.piece);
+        EXPECT_TRUE(Negro(c.x, c.y)) << c.piece;
+        for (const auto& otro : casos) {
+            if (otro.piece == c.piece) continue;
+            EXPECT_FALSE(Negro(otro.x, otro.y)) << c.piece << ' ' << otro.piece;
+        }
+        EXPECT_NEAR(AreaNegra(), 79 * 60 / 4, 79) << c.piece;
+    }
+}
+
+TEST_F(Raster, TheImageIsBlackWhereverTheMaskIsWhite) {
+    for (i16 forma = 0; forma <= 7; ++forma) {
+        Monta(forma, 4, 400, 300, true);
+        for (i16 p = 1; p <= Gbl.NumPiezas; ++p) {
+            Gbl.Piezas[p].Giro = static_cast<i16>(p % 4);
+            PreparaPieza(p);
+            ASSERT_EQ(FueraDeMascara(), 0) << forma << ' ' << p;
+        }
+    }
+    Tangram(true);
+    for (i16 p = 1; p <= 7; ++p)
+        for (i16 g = 0; g < 8; ++g) {
+            Gbl.Piezas[p].Giro = g;
+            PreparaPieza(p);
+            ASSERT_EQ(FueraDeMascara(), 0) << p << ' ' << g;
+        }
+    for (const i16 celda : {i16{40}, i16{67}, i16{89}, i16{107}}) {
+        Deslizantes(true, celda);
+        PreparaPieza(1);
+        ASSERT_EQ(FueraDeMascara(), 0) << celda;
+    }
+}
+
+TEST_F(Raster, ATurnedPieceExchangesItsBox) {
+    Monta(0, 4, 320, 240);
+    Coloca(6, 0, 0, 1);
+    PreparaPieza(6);
+    EXPECT_EQ(Pic_PiezaMascara.Width(), 60);
+    EXPECT_EQ(Pic_PiezaMascara.Height(), 80);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[59], PixelDeMuestra(80, 60));  // top left to top right
+    EXPECT_EQ(Pic_PiezaImagen.Fila(79)[59], PixelDeMuestra(159, 60));
+    Coloca(6, 0, 0, 2);
+    PreparaPieza(6);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(59)[79], PixelDeMuestra(80, 60));
+    Coloca(6, 0, 0, 3);
+    PreparaPieza(6);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(79)[0], PixelDeMuestra(80, 60));
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[0], PixelDeMuestra(159, 60));
+}
+
+TEST_F(Raster, TurningASurfaceMovesEveryPixelClockwise) {
+    for (const i32 ancho : {1, 7, 16, 33})
+        for (const i32 alto : {1, 5, 16, 35})
+            for (i16 giro = 1; giro <= 3; ++giro) {
+                Superficie s(ancho, alto);
+                s.PonPicture(ImagenDeMuestra(ancho, alto));
+                GiraSuperficie(s, giro);
+                ASSERT_EQ(s.Width(), giro == 2 ? ancho : alto);
+                ASSERT_EQ(s.Height(), giro == 2 ? alto : ancho);
+                EXPECT_EQ(s.Picture(), nullptr);
+                for (i32 y = 0; y < alto; ++y)
+                    for (i32 x = 0; x < ancho; ++x) {
+                        const Punto d = giro == 1   ? Punto{alto - 1 - y, x}
+                                        : giro == 2 ? Punto{ancho - 1 - x, alto - 1 - y}
+                                                    : Punto{y, ancho - 1 - x};
+                        ASSERT_EQ(s.Fila(d.y)[d.x], PixelDeMuestra(x, y)) << giro;
+                    }
+            }
+}
+
+TEST_F(Raster, ShowingThePlacedPiecesReplacesThePictureByAFlatColour) {
+    Monta(2, 4, 400, 300);
+    Pic_PiezaColor.Tamano(Pic_Bitmap.Width(), Pic_Bitmap.Height());
+    Pic_PiezaColor.PonBackColor(0x0000FF);  // red
+    Gbl.MostrandoColocadas = true;
+    PreparaPieza(6);
+    for (i32 y = 0; y < Pic_PiezaImagen.Height(); ++y)
+        for (i32 x = 0; x < Pic_PiezaImagen.Width(); ++x)
+            ASSERT_EQ(Pic_PiezaImagen.Fila(y)[x], Negro(x, y) ? 0xFF0000U : 0U);
+}
+
+TEST_F(Raster, TangramFaceHasAnOutlineOnlyWithBorders) {
+    Tangram(true);
+    Pic_PiezaImagen.ForeColor = 0xFFFFFF;
+    PreparaPieza(6);  // the square, 63 by 63
+    EXPECT_EQ(AreaNegra(), 63 * 63);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[30], BLANCO);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(30)[62], BLANCO);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(30)[30], 0x563412U);
+    Gbl.DibujarBorde = false;
+    PreparaPieza(6);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[30], 0x563412U);
+}
+
+TEST_F(Raster, TangramMaskIsTheOutlinedPolygon) {
+    Tangram(false);
+    PreparaPieza(1);  // corners (0, 88), (88, 0), (176, 88)
+    ASSERT_EQ(Pic_PiezaMascara.Width(), 177);
+    ASSERT_EQ(Pic_PiezaMascara.Height(), 89);
+    EXPECT_EQ(AreaNegra(), 89 * 89);  // rows of 1, 3, 5, ... 177 pixels
+    EXPECT_TRUE(Negro(88, 0));
+    EXPECT_FALSE(Negro(87, 0));
+    EXPECT_TRUE(Negro(0, 88));
+}
+
+TEST_F(Raster, SlidingPieceWithoutBorderIsAFullSquare) {
+    Deslizantes(false, 89);
+    PreparaPieza(1);
+    EXPECT_EQ(AreaNegra(), 89 * 89);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(0)[0], 0x008000U);
+}
+
+TEST_F(Raster, SlidingPieceWithBorderLosesItsCornersAndHasARelief) {
+    Deslizantes(true, 90);  // corners of 3 pixels
+    PreparaPieza(1);
+    // The corner triangles outside the cut from (3, 0) to (0, 3): 3 + 2 + 1 pixels each.
+    EXPECT_EQ(AreaNegra(), 90 * 90 - 4 * 6);
+    EXPECT_FALSE(Negro(2, 0));
+    EXPECT_TRUE(Negro(3, 0));
+    EXPECT_TRUE(Negro(0, 3));
+    EXPECT_EQ(Pic_PiezaImagen.Fila(45)[1], PixelDe(0x28A828));  // light on the left
+    EXPECT_EQ(Pic_PiezaImagen.Fila(1)[45], PixelDe(0x28A828));
+    EXPECT_EQ(Pic_PiezaImagen.Fila(45)[88], PixelDe(0x005800));  // dark on the right
+    EXPECT_EQ(Pic_PiezaImagen.Fila(88)[45], PixelDe(0x005800));
+    EXPECT_EQ(Pic_PiezaImagen.Fila(3)[89], 0U);  // where the two meet
+    EXPECT_EQ(Pic_PiezaImagen.Fila(89)[3], 0U);
+    EXPECT_EQ(Pic_PiezaImagen.Fila(45)[45], 0x008000U);
+    EXPECT_EQ(Pic_PiezaImagen.DrawWidth, 1);
+}
+
+TEST_F(Raster, SilhouettePaintsAndErasesTheModelPlaces) {
+    Tangram(false);
+    Gbl.ColorFondo = 0x800000;
+    Gbl.ColorContraste = 0xFFFFFF;
+    for (i16 p = 1; p <= 7; ++p) {
+        Gbl.Piezas[p].XBien = static_cast<i16>(20 + (p - 1) % 4 * 190);
+        Gbl.Piezas[p].YBien = static_cast<i16>(20 + (p - 1) / 4 * 150);
+        Gbl.Piezas[p].GiroBien = p;
+    }
+    Pic_Imagen.Tamano(800, 400);
+    TPintaFigura(Pic_Imagen);
+    EXPECT_EQ(Pic_Imagen.BackColor(), 0x800000U);
+    i32 antes = 0;
+    for (const Pixel q : Pic_Imagen.Dibujo().Pixeles) antes += q == BLANCO;
+    for (i16 p = 1; p <= 7; ++p) {
+        TPuntoInterior(p, p, 0);
+        const Pieza& z = Gbl.Piezas[p];
+        EXPECT_EQ(Pic_Imagen.Point(z.XBien + Gbl.XInterior, z.YBien + Gbl.YInterior), 0xFFFFFFU)
+            << p;
+        TBorraFigura(p);
+        i32 despues = 0;
+        for (const Pixel q : Pic_Imagen.Dibujo().Pixeles) despues += q == BLANCO;
+        EXPECT_LT(despues, antes) << p;
+        antes = despues;
+    }
+    EXPECT_EQ(antes, 0);
+    TPintaFigura(Pic_Imagen, 6);  // one piece only, and no new ground
+    i32 uno = 0;
+    for (const Pixel q : Pic_Imagen.Dibujo().Pixeles) uno += q == BLANCO;
+    EXPECT_EQ(uno, 63 * 63);
+}
+
+}  // namespace tessario
