@@ -188,6 +188,7 @@ bool LeeEstado(const std::vector<std::string>& lineas) {
     CalculaColores();
     Repara();
     CalculaTamanos();
+    AdaptaTablero();
     return Gbl.NumPiezas == leidas && RegistroCoherente();
 }
 

@@ -186,9 +186,32 @@ bool CeldasDistintas() {
         ocupada[static_cast<std::size_t>(c)] = true;
         return true;
     };
-    for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
-        if (!ocupa(Gbl.Piezas[i].X, Gbl.Piezas[i].Y)) return false;
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
+        const Pieza& p = Gbl.Piezas[i];
+        if (!ocupa(p.X, p.Y) || CeldaDePosicion(p.XBien, p.YBien) != i) return false;
+    }
     return ocupa(Gbl.HuecoX, Gbl.HuecoY);
+}
+
+// ---------------------------------------------------------------- boards of other screens
+
+// Corner and pitch of a board's cells, pixels.
+struct Rejilla {
+    i32 x, y, paso;
+    friend bool operator==(const Rejilla&, const Rejilla&) = default;
+};
+
+// The first two pieces belong on the first two cells and so tell the grid of their time.
+Rejilla RejillaGuardada() {
+    const Pieza& p = Gbl.Piezas[1];
+    return {p.XBien, p.YBien, Gbl.Piezas[2].XBien - p.XBien};
+}
+
+void Pasa(i16& x, i16& y, const Rejilla& de, const Rejilla& a) {
+    const i16 columna = Entero(static_cast<double>(x - de.x) / de.paso);
+    const i16 fila = Entero(static_cast<double>(y - de.y) / de.paso);
+    x = Corto(a.x + columna * a.paso);
+    y = Corto(a.y + fila * a.paso);
 }
 
 }  // namespace
@@ -269,6 +292,26 @@ void LeeMovimientos(const std::string& linea) {
                 Gbl.Movimientos[i].*c.dato = Corto(Numero(Trozo(entrada, c.columna, c.ancho)));
             });
     }
+}
+
+void AdaptaTablero() {
+    if (Gbl.JuegoActual != JuegoDeslizantes || !LadoPosible() || Gbl.Piezas.Superior() < 2) return;
+    const Rejilla vieja = RejillaGuardada();
+    const Rejilla nueva{Gbl.MargenX, Gbl.MargenY, Gbl.AnchoCelda};
+    if (vieja.paso <= 0 || vieja == nueva) return;
+    Sigue([&] {
+        for (i32 i = 1; i <= Gbl.Piezas.Superior(); ++i) {
+            Pieza& p = Gbl.Piezas[i];
+            Pasa(p.X, p.Y, vieja, nueva);
+            Pasa(p.XBien, p.YBien, vieja, nueva);
+        }
+        Pasa(Gbl.HuecoX, Gbl.HuecoY, vieja, nueva);
+        for (i32 i = 1; i <= Gbl.Movimientos.Superior(); ++i) {
+            Movimiento& m = Gbl.Movimientos[i];
+            Pasa(m.XAntes, m.YAntes, vieja, nueva);
+            Pasa(m.XDespues, m.YDespues, vieja, nueva);
+        }
+    });
 }
 
 bool RegistroCoherente() {
