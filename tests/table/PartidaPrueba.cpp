@@ -23,6 +23,8 @@ protected:
     void Coloca(i16 piece) {
         SubePieza(PosicionEnOrden(piece));
         ColocaPiezas(1);
+        // What shows of it may lie under the strip, as only its cell's centre is kept clear of it.
+        if (PuntoDe(piece).x >= Pic_Botonera.Left) Pon(piece, 330, 200, Gbl.Piezas[piece].Giro);
         for (int n = 0; n < 8 && !GiroCorrecto(piece); ++n) {
             const Punto p = PuntoDe(piece);
             Puntero.Pulsa(p.x, p.y, BOTON_DERECHO);
