@@ -1,8 +1,7 @@
-#include "jigsaw/Corte.h"
-
 #include <algorithm>
 
 #include "core/PuzzBas.h"
+#include "jigsaw/Corte.h"
 #include "jigsaw/MesaMoviles.h"
 
 namespace tessario {
@@ -58,8 +57,8 @@ TEST_F(Corte, WithoutBordersThePictureHasNoLinesButTheSameParameters) {
 }
 
 TEST_F(Corte, ShapeParametersOfTheInnerFigures) {
-    Monta(4, 4, 400, 300);   // cells of 100 by 75
-    EXPECT_EQ(Gbl.RadioForma, 26);   // the integer part of 26.25
+    Monta(4, 4, 400, 300);          // cells of 100 by 75
+    EXPECT_EQ(Gbl.RadioForma, 26);  // the integer part of 26.25
     Monta(5, 4, 400, 300);
     EXPECT_EQ(Gbl.RecorteX, 20);
     EXPECT_EQ(Gbl.RecorteY, 15);
@@ -74,27 +73,27 @@ TEST_F(Corte, ShapeParametersOfTheInnerFigures) {
 }
 
 TEST_F(Corte, OverhangIsCrossedBetweenWidthAndHeight) {
-    Monta(1, 4, 400, 300);   // 99 by 75
-    EXPECT_EQ(Gbl.SalienteX, 13);   // 75 * 0.17 = 12.75
-    EXPECT_EQ(Gbl.SalienteY, 17);   // 99 * 0.17 = 16.83
+    Monta(1, 4, 400, 300);         // 99 by 75
+    EXPECT_EQ(Gbl.SalienteX, 13);  // 75 * 0.17 = 12.75
+    EXPECT_EQ(Gbl.SalienteY, 17);  // 99 * 0.17 = 16.83
     EXPECT_EQ(Gbl.AnchoPieza, 125);
     EXPECT_EQ(Gbl.AltoPieza, 109);
     EXPECT_EQ(Gbl.PasoOrdenar, 125);
-    Monta(2, 4, 400, 300);   // 100 by 75
-    EXPECT_EQ(Gbl.SalienteX, 15);   // 15.375
-    EXPECT_EQ(Gbl.SalienteY, 20);   // 20.5, halves to even
+    Monta(2, 4, 400, 300);         // 100 by 75
+    EXPECT_EQ(Gbl.SalienteX, 15);  // 15.375
+    EXPECT_EQ(Gbl.SalienteY, 20);  // 20.5, halves to even
     Monta(0, 4, 400, 300);
     EXPECT_EQ(Gbl.SalienteX, 0);
     EXPECT_EQ(Gbl.AnchoPieza, 100);
 }
 
 TEST_F(Corte, AnEvenCurvedCellIsHollowAboveAndBulgesAtItsSides) {
-    Monta(1, 5, 400, 300);   // 79 by 59, piece 7 at row 1, column 1: even
+    Monta(1, 5, 400, 300);  // 79 by 59, piece 7 at row 1, column 1: even
     PreparaPieza(7);
     const i32 m = Gbl.SalienteX, n = Gbl.SalienteY;
     EXPECT_FALSE(Negro(m + 39, n + 5));
     EXPECT_TRUE(Negro(m - 5, n + 29));
-    PreparaPieza(8);         // odd: the other way round
+    PreparaPieza(8);  // odd: the other way round
     EXPECT_TRUE(Negro(m + 39, n - 5));
     EXPECT_FALSE(Negro(m + 5, n + 29));
 }
@@ -118,10 +117,10 @@ TEST_F(Corte, AnUnknownShapeDrawsNothing) {
 TEST_F(Corte, BarsHideOnlyWhenBothSidesAreSmall) {
     P().ancho = 1000;
     P().alto = 600;
-    Monta(0, 4, 640, 389);   // under 650 and under 390
+    Monta(0, 4, 640, 389);  // under 650 and under 390
     EXPECT_FALSE(BarraHor.Visible);
     EXPECT_FALSE(BarraVer.Visible);
-    Monta(0, 4, 640, 392);   // the height alone is too much
+    Monta(0, 4, 640, 392);  // the height alone is too much
     EXPECT_TRUE(BarraHor.Visible);
     EXPECT_TRUE(BarraVer.Visible);
 }
@@ -133,8 +132,7 @@ TEST_F(Corte, TheTableLeaves200PixelsBesideThePicture) {
     EXPECT_EQ(Pic_Imagen.Width(), 800);
     EXPECT_EQ(Pic_Imagen.Height(), 600);
     Monta(0, 8, 800, 560);
-    for (const Superficie* s :
-         {&Pic_Imagen, &Pic_Fondo, static_cast<Superficie*>(&Pic_Trabajo)}) {
+    for (const Superficie* s : {&Pic_Imagen, &Pic_Fondo, static_cast<Superficie*>(&Pic_Trabajo)}) {
         EXPECT_EQ(s->Width(), 1000);
         EXPECT_EQ(s->Height(), 760);
     }
@@ -184,7 +182,7 @@ TEST_F(Corte, ARebuildLeavesThePiecesWhereTheyAre) {
 }
 
 TEST_F(Corte, ANewPuzzleNumbersThePiecesRowByRow) {
-    Monta(3, 3, 320, 240);   // cells of 105 by 80, 36 pieces
+    Monta(3, 3, 320, 240);  // cells of 105 by 80, 36 pieces
     Gbl.Piezas.Redimensiona(-1);
     Randomize(1);
     CreaMoviles(true);
@@ -202,9 +200,9 @@ TEST_F(Corte, ANewPuzzleNumbersThePiecesRowByRow) {
 }
 
 TEST_F(Corte, TemplatesAreSizedByTheBox) {
-    Monta(1, 4, 400, 300);   // box of 125 by 109
-    EXPECT_EQ(Pic_Temporal.Width(), 262);    // 262.5, halves to even
-    EXPECT_EQ(Pic_Temporal.Height(), 120);   // 119.9
+    Monta(1, 4, 400, 300);                  // box of 125 by 109
+    EXPECT_EQ(Pic_Temporal.Width(), 262);   // 262.5, halves to even
+    EXPECT_EQ(Pic_Temporal.Height(), 120);  // 119.9
 }
 
 }  // namespace tessario
