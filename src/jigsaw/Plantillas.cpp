@@ -68,12 +68,19 @@ constexpr ArcoIrregular IRREGULARES_B[] = {
     {NIVEL, 0.5, 0, 1, -0.09, 0.12, LENGUETA, 300, 245, -1, 1},
     {NIVEL, 0.78, 0, 1, 0, 0.22, JOROBA, 180, 0}};
 
+// The ends of a tab lie inside the piece, past the humps that close the outline. They stop so many
+// pixels short: else the pixels at the two ends would shut the neck of a small tab.
+constexpr double HOLGURA_CUELLO = 0.75;
+
 Arco ArcoDe(const ArcoIrregular& a, double x, double y) {
     const double w = Gbl.AnchoCelda, h = Gbl.AltoCelda, n = Gbl.PiezasPorLado;
-    const double aspecto = !a.joroba ? 0 : a.nivelado ? IRREGULAR_ASPECTO : IRREGULAR_ASPECTO2;
-    return {
-        x + w * a.enW + h * a.haciaX, y + h * a.enH + w * a.haciaY, (a.nivelado ? w : h) * a.radio,
-        a.inicio + a.inicioN * n,     a.fin + a.finN * n,           aspecto};
+    const double radio = (a.nivelado ? w : h) * a.radio;
+    const double holgura = a.joroba ? 0 : HOLGURA_CUELLO / radio / GRADO;
+    Arco arco{x + w * a.enW + h * a.haciaX, y + h * a.enH + w * a.haciaY, radio, 0, 0, 0};
+    arco.inicio = a.inicio + a.inicioN * n + holgura;
+    arco.fin = a.fin + a.finN * n - holgura;
+    if (a.joroba) arco.aspecto = a.nivelado ? IRREGULAR_ASPECTO : IRREGULAR_ASPECTO2;
+    return arco;
 }
 
 // Margins and box of a piece, and the empty surface for the templates.

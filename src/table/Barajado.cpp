@@ -236,7 +236,10 @@ void BarajaPiezas() {
         }
     });
     ReiniciaPartida();
-    if (Gbl.JuegoActual != JuegoDeslizantes) ColocaPiezas(0);
+    if (Gbl.JuegoActual != JuegoDeslizantes)
+        ColocaPiezas(0);
+    else
+        MuestraColocadas();  // its pieces lie there already; only the counter is behind
     Gbl.Barajando = false;
     AplicaCursor(CURSOR_NORMAL);
 }

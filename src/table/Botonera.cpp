@@ -9,7 +9,7 @@ namespace tessario {
 
 namespace {
 
-constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = 0x3C51B2;
+constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = 0x4060C0;
 constexpr i32 LADO_BOTON = 48, PASO_BOTON = 49;  // tiles of Pic_BmpBoton
 
 struct LugarBoton {
@@ -42,7 +42,7 @@ constexpr LugarAparato LUGAR_CRONOME{10, 11, 58, 45};
 constexpr LugarAparato LUGAR_INFOCOLO{10, 61, 58, 25};
 constexpr LugarAparato LUGAR_GRABADORA{77, 11, 50, 75};
 constexpr Rect LUGAR_CROTIME{3, 20, 55, 42};  // in Pic_Cronome
-constexpr Color COLOR_CRONOME = 0xC0C0C0;
+constexpr Color COLOR_CRONOME = 0xA85028;
 
 void LineaRecta(Superficie& s, i32 x1, i32 y1, i32 x2, i32 y2, Color color) {
     s.Line(pluma::ConColor | pluma::Desde, x1, y1, x2, y2, color);

@@ -51,19 +51,6 @@ void LlenaControles() {
     Pic_CroTime.Contenedor = &Pic_Cronome;
 }
 
-void CargaDibujos() {
-    const struct {
-        Superficie* superficie;
-        const char* recurso;
-    } dibujos[] = {{&Pic_BmpBoton, "BmpBoton"}, {&Pic_BmpVario, "BmpVario"}};
-    for (const auto& d : dibujos) {
-        auto mapa = std::make_shared<Mapa>();
-        if (!Sistema().RecursoImagen(d.recurso, *mapa)) continue;
-        d.superficie->Tamano(mapa->Ancho, mapa->Alto);
-        d.superficie->PonPicture(mapa);
-    }
-}
-
 void ConectaTabla() {
     Pic_Trabajo.MouseDown = Raton(Pic_Trabajo_MouseDown);
     Pic_Trabajo.MouseMove = Raton(Pic_Trabajo_MouseMove);
@@ -135,7 +122,6 @@ void ConectaVentana() {
 
 void ConectaMesa() {
     LlenaControles();
-    CargaDibujos();
     // Where the panel will appear counts before its first hint is shown.
     Pic_Sugerencia.Tamano(SUGERENCIA_ANCHO, SUGERENCIA_ALTO);
     Pic_Sugerencia.Mueve(0, Sistema().AltoPantalla() - SUGERENCIA_ALTO);

@@ -54,13 +54,18 @@ public:
     void Corre(long eventos) {
         Arranca();
         for (numero_ = 1; numero_ <= eventos; ++numero_) {
+            const i16 antes = Gbl.NumMovimientos;
             Evento();
+            jugadas_ += Gbl.NumMovimientos > antes;
             if (p_->terminado) Arranca();
             Comprueba();
         }
     }
     long Numero() const { return numero_; }
     const std::string& Ultimo() const { return ultimo_; }
+    long Pulsos() const { return pulsos_; }
+    long Fotos() const { return fotos_; }
+    long Jugadas() const { return jugadas_; }
 
 private:
     i32 Hasta(i32 n) { return static_cast<i32>(azar_() % static_cast<unsigned>(n)); }
@@ -145,8 +150,27 @@ private:
             return {c.Izq + Hasta(std::max(1, c.Ancho())) - BarraHor.Value,
                     c.Arr + Hasta(std::max(1, c.Alto())) - BarraVer.Value};
         }
-        if (suerte < 8) return {Pic_Botonera.Left + Hasta(141), Hasta(463)};
+        if (suerte < 8) return LugarDeLaBotonera();
         return {Hasta(p_->ancho), Hasta(p_->alto)};
+    }
+
+    // A command button, a key of the recorder or the clock's switch.
+    Punto LugarDeLaBotonera() {
+        static constexpr Punto TECLAS[] = {{20, 12}, {20, 12}, {14, 31}, {35, 31},
+                                           {14, 47}, {35, 47}, {24, 63}};
+        const i32 cual = Hasta(20);
+        if (cual < 12) {
+            const Cuadro& boton = Pic_Boton(cual + 1);
+            const Punto o = PunteroPrueba::Origen(boton);
+            return {o.x + Hasta(boton.Width()), o.y + Hasta(boton.Height())};
+        }
+        if (cual < 19) {
+            const Punto o = PunteroPrueba::Origen(Pic_Grabadora);
+            const Punto t = TECLAS[cual - 12];
+            return {o.x + t.x, o.y + t.y};
+        }
+        const Punto o = PunteroPrueba::Origen(Pic_Cronome);
+        return {o.x + 20, o.y + 10};
     }
 
     void Evento() {
@@ -203,6 +227,7 @@ private:
         if (!Una(4)) Mueve(Lugar());
         ultimo_ += boton == BOTON_DERECHO ? " right press" : " left press";
         apretado_ = p_->botones = true;
+        ++pulsos_;
         puntero_.Aprieta(boton);
     }
 
@@ -219,7 +244,10 @@ private:
         CompruebaBanderas();
         if (Gbl.JuegoActual == JuegoDeslizantes && !Gbl.ArrastrandoPieza) CompruebaCeldas();
         Exige(Gbl.JuegoActual == juego_, "the game is the one that was started");
-        if (!Gbl.ArrastrandoPieza) CompruebaImagen();
+        // The picture is looked at when something was drawn on it.
+        const Rect imagen = Pic_Imagen.TomaSucio(), vista = Pic_Trabajo.TomaSucio();
+        dibujado_ = dibujado_ || !imagen.Vacio() || !vista.Vacio();
+        if (!Gbl.ArrastrandoPieza && dibujado_) CompruebaImagen();
     }
 
     static void CompruebaOrden() {
@@ -257,7 +285,9 @@ private:
         Exige(!Gbl.TareaAutomatica, "no automatic run under way between events");
         Exige(!Gbl.AutoAtras && !Gbl.AutoAdelante, "no replay under way between events");
         Exige(Gbl.MarcaPausa == 0, "no pause under way between events");
-        Exige(Gbl.PiezasColocadas == CuentaColocadas(), "the count of placed pieces is right");
+        // A piece in hand is counted when it is dropped.
+        Exige(Gbl.ArrastrandoPieza || Gbl.PiezasColocadas == CuentaColocadas(),
+              "the count of placed pieces is right");
     }
 
     static void CompruebaCeldas() {
@@ -277,6 +307,7 @@ private:
 
     // Lays the table afresh and compares; then what the player sees is put back.
     void CompruebaImagen() {
+        ++fotos_;
         if (Gbl.PuzzleTerminado) excepciones_ |= Terminado;
         if (Gbl.MostrandoColocadas) excepciones_ |= DosColores;
         const bool goma = Pic_Trabajo.DrawMode == MODO_INVIERTE;
@@ -294,6 +325,9 @@ private:
         }
         Gbl.PiezaActual = prepara;
         Gbl.PiezaAux = aux;
+        dibujado_ = false;
+        Pic_Imagen.TomaSucio();
+        Pic_Trabajo.TomaSucio();
     }
 
     i16 juego_;
@@ -301,9 +335,11 @@ private:
     std::unique_ptr<PlataformaPrueba> p_;
     PunteroPrueba puntero_;
     bool apretado_ = false;
+    bool dibujado_ = true;
     int anidado_ = 0;
     unsigned excepciones_ = 0;
     long numero_ = 0;
+    long pulsos_ = 0, fotos_ = 0, jugadas_ = 0;
     std::string ultimo_;
 };
 
@@ -318,7 +354,10 @@ bool Suelta(i16 juego, long eventos, unsigned semilla) {
         return false;
     }
     PonSistema(nullptr);
-    std::printf("game %d: %ld events, nothing to complain of\n", juego, eventos);
+    std::printf(
+        "game %d: %ld events, %ld presses, %ld pictures compared, %ld moves logged: "
+        "nothing to complain of\n",
+        juego, eventos, mono.Pulsos(), mono.Fotos(), mono.Jugadas());
     return true;
 }
 

@@ -10,7 +10,7 @@ from PIL import Image
 import svg
 
 PASO = 49
-TERRACOTA = (192, 96, 64)
+TERRACOTA = (178, 81, 60)   # colour of the strip
 FILAS = [
     ["barajar", "personalizar", "tutor", "estadisticas", "historico", "ayuda", "salir", "modelo",
      "ocultas", "colocadas", "ordenar", "resolver"],

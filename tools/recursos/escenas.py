@@ -531,8 +531,10 @@ def Vidriera():
     a = d.Imagen()
     # Panes at random round the window; the rose and the lancets keep their own leading.
     y, x = np.mgrid[0:h, 0:w]
-    dentro = (np.hypot(x - 240, y - 226) < 199) | ((y > 424) & (np.abs((x - 20) % 112 - 52) < 52 *
-                                                               np.clip((y - 424) / 62, 0, 1) ** .5))
+    rosa = np.hypot(x - 240, y - 226) < 199
+    ancho = 52 * np.clip((y - 424) / 62, 0, 1) ** .5
+    ojivas = (y > 424) & (x > 17) & (x < 463) & (np.abs((x - 20) % 112 - 52) < ancho)
+    dentro = rosa | ojivas
     luz = 26 * lienzo.Fractal(w, h, 26, 87, 4, .6)[:, :, None]
     a = np.where(dentro[:, :, None], a + luz, lienzo.Vidrio(a, 30, 83, grueso=2))
     return AImagen(lienzo.Grano(a, 85, 4))
