@@ -111,6 +111,7 @@ public:
     bool Sale();
     PartidaLeida LeePartida(int juego) const;
     const std::string& Carpeta() const { return carpeta_; }
+    pid_t Pid() const { return pid_; }
 
     // Corner of a command button on the screen.
     struct Lugar {
