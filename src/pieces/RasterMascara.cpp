@@ -70,6 +70,7 @@ void EnderezaHorizontal(bool lejos) {
 // Shapes 1 and 2: the template of the cell's parity, cut off and straightened on the picture's
 // edges.
 void MascaraDePlantilla(const Pieza& z) {
+    if (Gbl.AnchoCelda == 0 || Gbl.AltoCelda == 0) throw ErrorEjecucion(ERROR_DIVISION);
     const i32 columna = z.XBien / Gbl.AnchoCelda;
     const i32 fila = z.YBien / Gbl.AltoCelda;
     const i32 t = (columna + fila) % 2 != 0 ? Gbl.AnchoPieza : 0;

@@ -80,6 +80,17 @@ TEST_F(Raster, ACurvedCornerPieceHasTwoStraightSides) {
     }
 }
 
+TEST_F(Raster, ACellWithoutSizeIsAnErrorAndNoCrash) {
+    Monta(1, 4, 400, 300);
+    Gbl.AnchoCelda = 0;
+    try {
+        PreparaPieza(1);
+        FAIL() << "no error";
+    } catch (const ErrorEjecucion& e) {
+        EXPECT_EQ(e.Numero, ERROR_DIVISION);
+    }
+}
+
 TEST_F(Raster, ASingleCurvedPieceIsTheWholePicture) {
     Monta(1, 1, 121, 91);
     PreparaPieza(1);
