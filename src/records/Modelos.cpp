@@ -110,15 +110,16 @@ bool LeeModelos(std::string& bytes) {
     return false;
 }
 
-// Puts RegistroModelo at a place and replaces the file whole.
+// Puts RegistroModelo at a place and replaces the file whole. A last record that is cut short is
+// made whole first.
 void EscribeModelo(std::string bytes, i16 numero) {
-    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
-    while (bytes.size() < desde) {
-        // Only the last record can be short: it is a damaged one, and becomes free.
-        bytes.resize(bytes.size() / LARGO_REGISTRO * LARGO_REGISTRO);
-        bytes += RegistroLibre();
+    const i32 registros = CuentaRegistros(bytes);
+    if (bytes.size() % LARGO_REGISTRO != 0) {
+        const std::string ultimo = Registro(bytes, registros);
+        bytes.replace(bytes.size() / LARGO_REGISTRO * LARGO_REGISTRO, LARGO_REGISTRO, ultimo);
     }
-    if (bytes.size() < desde + LARGO_REGISTRO) bytes.resize(desde + LARGO_REGISTRO);
+    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
+    if (bytes.size() < desde + LARGO_REGISTRO) bytes.resize(desde + LARGO_REGISTRO, '0');
     bytes.replace(desde, LARGO_REGISTRO, Gbl.RegistroModelo);
     const i16 error = EscribeFichero(FicheroModelos(), bytes);
     if (error != 0) PonErrorPendiente(error);

@@ -299,6 +299,7 @@ TEST_F(Desolape, NoCurrentPieceOrOneOutOfRangeDoesNothing) {
 TEST_F(Desolape, TableWithNoFreePlaceEndsWithThePieceWhereItFell) {
     Gbl.AnchoPantalla = 100;
     Gbl.AltoPantalla = 100;
+    Pic_Botonera.Mueve(0, 0);  // the panel over all of it
     PonPieza(1, 0, 0, 7);
     PonPieza(2, 0, 0, 3);
     PonPieza(6, 20, 20, 0);
