@@ -84,7 +84,7 @@ void Registra(const std::string& nombre, double limite, const std::function<doub
 }
 
 bool RegistraTodo() {
-    Registra("tangram/push_worst_drop", 0.5, [] { return Mide(TDesolapaPieza); });
+    Registra("tangram/push_worst_drop", 0.25, [] { return Mide(TDesolapaPieza); });
     Registra("tangram/cling_worst_drop", 0.25, [] {
         TDesolapaPieza();
         return Mide(PegaDosPiezas);

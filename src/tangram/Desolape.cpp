@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
@@ -71,23 +72,54 @@ const Region* PrimeraDebajo(const Entorno& e, const Region& a) {
     return nullptr;
 }
 
-// Pixel by pixel in one direction until the two regions are clear of each other. Other pieces are
-// not looked at. A region moved by whole pixels is the region of the moved polygon.
-i32 CosteDeSalida(Region a, const Region& b, i16 d) {
+// A piece's region row by row. The pieces are convex: each row is one run of points.
+struct Perfil {
+    i32 arr = 0;
+    std::vector<i32> izq, der;  // by row from arr; right exclusive
+    i32 Filas() const { return static_cast<i32>(izq.size()); }
+};
+
+Perfil PerfilDe(const Region& region) {
+    Perfil p;
+    p.arr = region.Caja().Arr;
+    for (const Rect& r : region.Rectangulos()) {
+        p.izq.insert(p.izq.end(), static_cast<std::size_t>(r.Alto()), r.Izq);
+        p.der.insert(p.der.end(), static_cast<std::size_t>(r.Alto()), r.Der);
+    }
+    return p;
+}
+
+// Has the first, moved by (dx, dy), a point in common with the second?
+bool ChocaMovida(const Perfil& a, const Perfil& b, i32 dx, i32 dy) {
+    const i32 desde = std::max(a.arr + dy, b.arr);
+    const i32 filas = std::min(a.arr + dy + a.Filas(), b.arr + b.Filas()) - desde;
+    if (filas <= 0) return false;
+    const i32* ai = a.izq.data() + (desde - dy - a.arr);
+    const i32* ad = a.der.data() + (desde - dy - a.arr);
+    const i32* bi = b.izq.data() + (desde - b.arr);
+    const i32* bd = b.der.data() + (desde - b.arr);
+    i32 comunes = 0;  // counted without a branch, so that rows go several at a time
+    for (i32 i = 0; i < filas; ++i) comunes += (ai[i] + dx < bd[i]) & (bi[i] < ad[i] + dx);
+    return comunes != 0;
+}
+
+// Pixel by pixel in one direction until the two are clear of each other. Other pieces are not
+// looked at. A region moved by whole pixels is the region of the moved polygon.
+i32 CosteDeSalida(const Perfil& a, const Perfil& b, i16 d) {
     const Punto paso = PASOS[static_cast<std::size_t>(d)];
     i32 pasos = 0;
     do {
         ++pasos;
-        a.Desplaza(paso.x, paso.y);
-    } while (SeCortan(a, b));
+    } while (ChocaMovida(a, b, pasos * paso.x, pasos * paso.y));
     return pasos * (std::abs(paso.x) + std::abs(paso.y)) + 1;
 }
 
 // The eight ways, the cheapest first, ways of equal cost in order of direction.
 Salidas OrdenaSalidas(const Region& a, const Region& b) {
+    const Perfil pa = PerfilDe(a), pb = PerfilDe(b);
     Salidas s;
     for (i16 d = 0; d < DIRECCIONES; ++d)
-        s[static_cast<std::size_t>(d)] = {d, CosteDeSalida(a, b, d)};
+        s[static_cast<std::size_t>(d)] = {d, CosteDeSalida(pa, pb, d)};
     std::stable_sort(s.begin(), s.end(),
                      [](const Salida& x, const Salida& y) { return x.coste < y.coste; });
     return s;
