@@ -9,7 +9,7 @@ namespace tessario {
 
 namespace {
 
-constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = 0x4060C0;
+constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = 0x3C51B2;
 constexpr i32 LADO_BOTON = 48, PASO_BOTON = 49;  // tiles of Pic_BmpBoton
 
 struct LugarBoton {

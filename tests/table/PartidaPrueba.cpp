@@ -18,18 +18,33 @@ protected:
         MesaMontada::SetUp();
         Gbl.MostrarMuestra = false;  // the sample view would lie over dealt pieces
     }
-    // Turns with the right button until the piece is upright, then drags it near its place. The
-    // piece is brought on top first, as a player would dig it out.
+    // Where a press reaches the piece. What shows of it can lie under the strip or beyond the
+    // screen's edge, as only its cell's centre is kept clear of them: then it is fetched out first.
+    Punto Alcanza(i16 piece) {
+        const Punto p = PuntoDe(piece);
+        Puntero.Mueve(p.x, p.y);
+        if (Puntero.Debajo() == &Pic_Trabajo) return p;
+        Pon(piece, 330, 200, Gbl.Piezas[piece].Giro);
+        return PuntoDe(piece);
+    }
+    // A short press of the right button: its release comes in while the piece turns.
+    void Gira(Punto p) {
+        P().botones = true;
+        P().eventos.push_back([this] {
+            P().botones = false;
+            Puntero.Suelta();
+        });
+        Puntero.Mueve(p.x, p.y);
+        Puntero.Aprieta(BOTON_DERECHO);
+    }
+    // Turns the piece until it is upright, then drags it near its place. It is brought on top
+    // first, as a player would dig it out.
     void Coloca(i16 piece) {
         SubePieza(PosicionEnOrden(piece));
         ColocaPiezas(1);
-        // What shows of it may lie under the strip, as only its cell's centre is kept clear of it.
-        if (PuntoDe(piece).x >= Pic_Botonera.Left) Pon(piece, 330, 200, Gbl.Piezas[piece].Giro);
-        for (int n = 0; n < 8 && !GiroCorrecto(piece); ++n) {
-            const Punto p = PuntoDe(piece);
-            Puntero.Pulsa(p.x, p.y, BOTON_DERECHO);
-        }
+        for (int n = 0; n < 4 && !GiroCorrecto(piece); ++n) Gira(Alcanza(piece));
         ASSERT_TRUE(GiroCorrecto(piece));
+        Alcanza(piece);
         Arrastra(piece, Gbl.Piezas[piece].XBien + 3, Gbl.Piezas[piece].YBien + 2);
     }
     std::vector<std::string> Historico() {
