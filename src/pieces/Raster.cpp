@@ -11,7 +11,7 @@ namespace tessario {
 namespace {
 
 constexpr Pixel BLANCO = 0xFFFFFF;
-constexpr i32 BLOQUE = 16;  // side of the squares by which a surface is turned, pixels
+constexpr i32 LADO = 4;  // of the squares by which a surface is turned, pixels
 
 // One row of a piece's image: the source where the mask is black, 0 where it is white.
 void FilaEnmascarada(Pixel* destino, const Pixel* mascara, const Pixel* origen, i32 n) {
@@ -80,13 +80,30 @@ void PreparaMascara(i16 piece) {
     }
 }
 
-// Calls paso(x0, y0, x1, y1) for the squares that cover w by h pixels: what is read in rows and
-// written in columns then stays in the nearest cache.
-template <class F>
-void PorBloques(i32 w, i32 h, F&& paso) {
-    for (i32 y = 0; y < h; y += BLOQUE)
-        for (i32 x = 0; x < w; x += BLOQUE)
-            paso(x, y, std::min(x + BLOQUE, w), std::min(y + BLOQUE, h));
+// Four pixels side by side, wherever they stand in memory.
+using Cuatro = Pixel __attribute__((vector_size(16), aligned(4)));
+
+Cuatro Lee(const Pixel* p) {
+    return *reinterpret_cast<const Cuatro*>(p);
+}
+void Escribe(Pixel* p, Cuatro v) {
+    *reinterpret_cast<Cuatro*>(p) = v;
+}
+
+struct Cuadrado {
+    Cuatro Filas[LADO];
+};
+
+// Columns of four rows as rows.
+Cuadrado Traspone(Cuatro a, Cuatro b, Cuatro c, Cuatro d) {
+    const Cuatro ab0 = __builtin_shufflevector(a, b, 0, 4, 1, 5);
+    const Cuatro ab2 = __builtin_shufflevector(a, b, 2, 6, 3, 7);
+    const Cuatro cd0 = __builtin_shufflevector(c, d, 0, 4, 1, 5);
+    const Cuatro cd2 = __builtin_shufflevector(c, d, 2, 6, 3, 7);
+    return {{__builtin_shufflevector(ab0, cd0, 0, 1, 4, 5),
+             __builtin_shufflevector(ab0, cd0, 2, 3, 6, 7),
+             __builtin_shufflevector(ab2, cd2, 0, 1, 4, 5),
+             __builtin_shufflevector(ab2, cd2, 2, 3, 6, 7)}};
 }
 
 void MediaVuelta(const Superficie& s, Superficie& destino) {
@@ -95,26 +112,27 @@ void MediaVuelta(const Superficie& s, Superficie& destino) {
         std::reverse_copy(s.Fila(y), s.Fila(y) + w, destino.Fila(h - 1 - y));
 }
 
-// A quarter turn: the column x becomes the row x, its rows from the last to the first.
-void CuartoHorario(const Superficie& s, Superficie& destino) {
-    const i32 h = s.Height();
-    PorBloques(s.Width(), h, [&](i32 x0, i32 y0, i32 x1, i32 y1) {
-        for (i32 x = x0; x < x1; ++x) {
-            Pixel* fila = destino.Fila(x);
-            for (i32 y = y0; y < y1; ++y) fila[h - 1 - y] = s.Fila(y)[x];
+// A quarter turn clockwise brings the column x to the row x, its rows from the last to the first;
+// three quarters bring it to the row w - 1 - x. By squares of four pixels, and what is left of the
+// sides one by one.
+template <bool horario>
+void CuartoDeVuelta(const Superficie& s, Superficie& destino) {
+    const i32 w = s.Width(), h = s.Height(), w4 = w - w % LADO, h4 = h - h % LADO;
+    const auto fila = [&](i32 x) { return destino.Fila(horario ? x : w - 1 - x); };
+    const auto suelto = [&](i32 x, i32 y) { fila(x)[horario ? h - 1 - y : y] = s.Fila(y)[x]; };
+    for (i32 y = 0; y < h4; y += LADO) {
+        const Pixel* f[LADO];
+        for (i32 i = 0; i < LADO; ++i) f[i] = s.Fila(horario ? y + LADO - 1 - i : y + i);
+        const i32 columna = horario ? h - LADO - y : y;
+        for (i32 x = 0; x < w4; x += LADO) {
+            const auto t = Traspone(Lee(f[0] + x), Lee(f[1] + x), Lee(f[2] + x), Lee(f[3] + x));
+            for (i32 i = 0; i < LADO; ++i) Escribe(fila(x + i) + columna, t.Filas[i]);
         }
-    });
-}
-
-// Three quarters: the column x becomes the row w - 1 - x.
-void CuartoAntihorario(const Superficie& s, Superficie& destino) {
-    const i32 w = s.Width();
-    PorBloques(w, s.Height(), [&](i32 x0, i32 y0, i32 x1, i32 y1) {
-        for (i32 x = x0; x < x1; ++x) {
-            Pixel* fila = destino.Fila(w - 1 - x);
-            for (i32 y = y0; y < y1; ++y) fila[y] = s.Fila(y)[x];
-        }
-    });
+        for (i32 x = w4; x < w; ++x)
+            for (i32 i = 0; i < LADO; ++i) suelto(x, y + i);
+    }
+    for (i32 y = h4; y < h; ++y)
+        for (i32 x = 0; x < w; ++x) suelto(x, y);
 }
 
 }  // namespace
@@ -142,8 +160,8 @@ void GiraSuperficie(Superficie& surface, i16 giro) {
         MediaVuelta(surface, Pic_PiezaFinal);
     } else {
         Pic_PiezaFinal.TamanoLibre(surface.Height(), surface.Width());
-        giro == 1 ? CuartoHorario(surface, Pic_PiezaFinal)
-                  : CuartoAntihorario(surface, Pic_PiezaFinal);
+        giro == 1 ? CuartoDeVuelta<true>(surface, Pic_PiezaFinal)
+                  : CuartoDeVuelta<false>(surface, Pic_PiezaFinal);
     }
     surface.CambiaDibujo(Pic_PiezaFinal);
 }

@@ -147,7 +147,12 @@ void MascaraMoviles(i16 piece) {
     if (Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2) {
         MascaraDePlantilla(Gbl.PiezaAux);
     } else {
-        Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
+        // A rectangle fills its whole box, so nothing need be cleared for it.
+        if (Gbl.FormaPiezas == 0 && Gbl.AnchoPieza == Gbl.AnchoCelda &&
+            Gbl.AltoPieza == Gbl.AltoCelda)
+            Pic_PiezaMascara.TamanoLibre(Gbl.AnchoPieza, Gbl.AltoPieza);
+        else
+            Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
         MascaraFigura(piece);
     }
     if (piece % 2 == 0 && Gbl.FormaPiezas >= PRIMERA_DOBLE)
