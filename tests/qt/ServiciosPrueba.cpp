@@ -1,0 +1,341 @@
+// Text, pictures, sound and clipboard.
+#include <QBuffer>
+#include <QClipboard>
+#include <QColorSpace>
+#include <QFile>
+#include <QImage>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <cstring>
+
+#include "PruebaQt.h"
+#include "qt/Imagenes.h"
+#include "qt/Sonidos.h"
+
+namespace tessario {
+
+namespace {
+
+class VistaDeServicios : public PruebaQt {
+protected:
+    std::string Fichero(const char* nombre, const QByteArray& bytes) {
+        const QString ruta = carpeta.filePath(nombre);
+        QFile f(ruta);
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+        return ruta.toStdString();
+    }
+    static QByteArray En(const QImage& im, const char* formato) {
+        QByteArray b;
+        QBuffer m(&b);
+        m.open(QIODevice::WriteOnly);
+        im.save(&m, formato, 95);
+        return b;
+    }
+    static QImage Lisa(int w, int h, QRgb color) {
+        QImage im(w, h, QImage::Format_RGB32);
+        im.fill(color);
+        return im;
+    }
+    // A BMP header of 24 bits for a picture of the given size.
+    static QByteArray CabezaBmp(quint32 w, quint32 h) {
+        QByteArray b(54, '\0');
+        b[0] = 'B';
+        b[1] = 'M';
+        const auto pon = [&](int donde, quint32 v) { std::memcpy(b.data() + donde, &v, 4); };
+        pon(2, 54);
+        pon(10, 54);
+        pon(14, 40);
+        pon(18, w);
+        pon(22, h);
+        b[26] = 1;
+        b[28] = 24;
+        return b;
+    }
+    QTemporaryDir carpeta;
+    Mapa m;
+};
+
+// --- Text.
+
+TEST_F(VistaDeServicios, MessageLinesFitTheirWidthInAsManyLinesAsTheyAreGiven) {
+    const struct {
+        const char* texto;
+        std::size_t renglones;
+    } TEXTOS[] = {
+        {"Este  programa  se  ha  diseñado  para  funcionar  con  una resolución mínima de "
+         "pantalla de 800x600 con profundidad de color de 16 bits o superior.  La resolución "
+         "seleccionada actualmente es de (640x480).  Pulse  Aceptar  para cambiar  la  "
+         "resolución  de  la  pantalla  a  800x600  o  Cancelar  para abandonar el programa.",
+         6},
+        {"Si   desea   consultar   una   descripción   general   de   este programa  para  "
+         "conocer  rápidamente  su  funcionamiento, pulse el botón de Ayuda.",
+         3},
+        {"Tiene que apagar la Grabadora de movimientos antes de poder salir del programa.", 2},
+        {"Este puzzle ya se ha resuelto. Si desea deshacerlo y volver atrás, utilice la "
+         "Grabadora de movimientos.",
+         2},
+        {"¿Desea abandonar el programa?", 1},
+        {"Cuando se modifica  el  valor  de esta lista,  finaliza  el  juego actual  y  se  "
+         "inicia la modalidad de juego  seleccionada.  Si pulsa  el botón Aceptar comenzará el "
+         "nuevo juego.  Si pulsa el botón Cancelar no se modificará ningún valor y continuará "
+         "el juego actual.",
+         5},
+    };
+    Textos t;
+    for (const auto& caso : TEXTOS) {
+        const auto renglones = t.Renglones(Fuente{}, caso.texto, 365);
+        EXPECT_LE(renglones.size(), caso.renglones) << caso.texto;
+        for (const QString& r : renglones)
+            EXPECT_LE(P().AnchoTexto(Fuente{}, r.trimmed().toStdString()), 365);
+    }
+}
+
+TEST_F(VistaDeServicios, WrappingKeepsRunsOfBlanksAndLineEnds) {
+    Textos t;
+    const Fuente mono{Familia::Mono, 12, false, false};  // 7 pixels a character
+    ASSERT_EQ(P().AnchoTexto(mono, "0123456789"), 70);
+    auto r = t.Renglones(mono, "uno   dos tres", 70);
+    ASSERT_EQ(r.size(), 2U);
+    EXPECT_EQ(r[0], "uno   dos");
+    EXPECT_EQ(r[1], "tres");
+    r = t.Renglones(mono, "  a\r\n\r\n   b", 70);
+    ASSERT_EQ(r.size(), 3U);
+    EXPECT_EQ(r[0], "  a");
+    EXPECT_EQ(r[1], "");
+    EXPECT_EQ(r[2], "   b");
+    r = t.Renglones(mono, "abcdefghijklmno p", 70);
+    ASSERT_EQ(r.size(), 2U);
+    EXPECT_EQ(r[0], "abcdefghij");
+    EXPECT_EQ(r[1], "klmno p");
+}
+
+TEST_F(VistaDeServicios, TextIsPaintedWithinTheClipAndTheUpperByteStaysZero) {
+    Superficie s(100, 30);
+    s.PonBackColor(0xFFFFFF);
+    const Region mitad = CreateRectRgn(0, 0, 20, 30);
+    s.PonRecorte(&mitad);
+    s.TomaSucio();
+    P().PintaTexto(s, 2, 5, "HHHHHHHHHH", Fuente{}, 0x0000FF);
+    int dentro = 0, fuera = 0;
+    for (i32 y = 0; y < 30; ++y)
+        for (i32 x = 0; x < 100; ++x) {
+            EXPECT_EQ(s.Fila(y)[x] >> 24, 0U);
+            if (s.Fila(y)[x] != 0xFFFFFFU) ++(x < 20 ? dentro : fuera);
+        }
+    EXPECT_GT(dentro, 20);
+    EXPECT_EQ(fuera, 0);
+    EXPECT_FALSE(s.Sucio().Vacio());
+}
+
+TEST_F(VistaDeServicios, TextFarOutsideOrOnNothingIsNoError) {
+    Superficie nada, s(10, 10);
+    P().PintaTexto(nada, 0, 0, "x", Fuente{}, 0);
+    P().PintaTexto(s, 2000000000, -2000000000, "x", Fuente{}, 0);
+    P().PintaTexto(s, -5, -5, "WWWW", Fuente{}, 0);
+    P().PintaTexto(s, 0, 0, "\xFF\xFE", Fuente{}, 0);
+    EXPECT_EQ(P().AnchoTexto(Fuente{}, ""), 0);
+}
+
+TEST_F(VistaDeServicios, BoldAndUnderlinedAreFontsOfTheirOwn) {
+    Fuente negrita;
+    negrita.Negrita = true;
+    EXPECT_GT(P().AnchoTexto(negrita, "más  ayuda"), P().AnchoTexto(Fuente{}, "más  ayuda"));
+    Fuente subrayada;
+    subrayada.Subrayado = true;
+    Superficie a(80, 24), b(80, 24);
+    P().PintaTexto(a, 2, 2, "nnnn", Fuente{}, 0);
+    P().PintaTexto(b, 2, 2, "nnnn", subrayada, 0);
+    EXPECT_NE(a.Dibujo().Pixeles, b.Dibujo().Pixeles);
+}
+
+// --- Pictures.
+
+TEST_F(VistaDeServicios, PicturesAreToldByContentNotByName) {
+    EXPECT_EQ(P().CargaImagen(Fichero("foto.bmp", En(Lisa(40, 30, 0x3060C0), "JPG")), m), 0);
+    EXPECT_EQ(m.Ancho, 40);
+    EXPECT_EQ(m.Alto, 30);
+    const Pixel p = m.Fila(15)[20];
+    EXPECT_NEAR(static_cast<int>(p >> 16), 0x30, 4);
+    EXPECT_NEAR(static_cast<int>((p >> 8) & 0xFF), 0x60, 4);
+    EXPECT_NEAR(static_cast<int>(p & 0xFF), 0xC0, 4);
+    EXPECT_EQ(p >> 24, 0U);
+}
+
+TEST_F(VistaDeServicios, APictureOfOnePixelIsAPicture) {
+    EXPECT_EQ(P().CargaImagen(Fichero("uno.bmp", En(Lisa(1, 1, 0x123456), "BMP")), m), 0);
+    ASSERT_EQ(m.Pixeles.size(), 1U);
+    EXPECT_EQ(m.Pixeles[0], 0x123456U);
+}
+
+TEST_F(VistaDeServicios, WhatIsNoPictureIsRefusedByNumber) {
+    EXPECT_EQ(P().CargaImagen(carpeta.filePath("no.bmp").toStdString(), m), 53);
+    EXPECT_EQ(P().CargaImagen(carpeta.path().toStdString(), m), 53) << "a folder";
+    EXPECT_EQ(P().CargaImagen(Fichero("vacio.bmp", ""), m), 481);
+    EXPECT_EQ(P().CargaImagen(Fichero("texto.jpg", "esto no es una imagen"), m), 481);
+    EXPECT_EQ(P().CargaImagen(Fichero("vector.wmf", QByteArray::fromHex("d7cdc69a0000")), m), 481);
+    EXPECT_EQ(
+        P().CargaImagen(Fichero("dibujo.jpg", "<svg xmlns='http://www.w3.org/2000/svg'/>"), m),
+        481);
+    EXPECT_TRUE(m.Pixeles.empty());
+}
+
+TEST_F(VistaDeServicios, HugePicturesAreRefusedBeforeTheyAreRead) {
+    EXPECT_EQ(P().CargaImagen(Fichero("enorme.bmp", CabezaBmp(20000, 20000)), m), 7);
+    const i32 e = P().CargaImagen(Fichero("loca.bmp", CabezaBmp(0x7FFFFFFF, 0x7FFFFFFF)), m);
+    EXPECT_TRUE(e == 7 || e == 481) << e;
+    EXPECT_EQ(P().CargaImagen(Fichero("cero.bmp", CabezaBmp(0, 0)), m), 481);
+}
+
+TEST_F(VistaDeServicios, NoDamagedFileCrashesAndNoneShowsStrayMemory) {
+    const QByteArray bmp = En(Lisa(64, 48, 0xA0B0C0), "BMP");
+    const QByteArray jpg = En(Lisa(64, 48, 0xA0B0C0), "JPG");
+    unsigned semilla = 12345;
+    for (const QByteArray& bueno : {bmp, jpg}) {
+        for (int i = 0; i < 150; ++i) {
+            QByteArray malo = bueno.left(bueno.size() * ((i % 10) + 1) / 10);
+            for (int k = 0; k < i / 10; ++k) {
+                semilla = semilla * 1103515245U + 12345U;
+                malo[static_cast<qsizetype>(semilla >> 8) % malo.size()] =
+                    static_cast<char>(semilla);
+            }
+            m = Mapa();
+            const i32 e = P().CargaImagen(Fichero("malo", malo), m);
+            EXPECT_TRUE(e == 0 || e == 7 || e == 481) << e;
+            if (e == 0) EXPECT_EQ(m.Pixeles.size(), static_cast<std::size_t>(m.Ancho * m.Alto));
+            for (const Pixel p : m.Pixeles) ASSERT_EQ(p >> 24, 0U);
+        }
+    }
+}
+
+TEST_F(VistaDeServicios, RunLengthPicturesThatSkipPixelsShowTheFirstColourThere) {
+    // 4x2, 8 bits, run-length: the lower row is skipped but for one pixel of colour 1.
+    QByteArray b = CabezaBmp(4, 2);
+    b[28] = 8;
+    b[30] = 1;  // run-length 8
+    b[46] = 2;  // two colours
+    b += QByteArray::fromHex(
+        "00ff0000"
+        "0000ff00");  // green, red (blue first)
+    b[10] = static_cast<char>(b.size());
+    b += QByteArray::fromHex(
+        "0101"
+        "0000"
+        "0401"
+        "0001");
+    EXPECT_EQ(P().CargaImagen(Fichero("corrido.rle", b), m), 0);
+    ASSERT_EQ(m.Ancho, 4);
+    EXPECT_EQ(m.Fila(1)[0], 0xFF0000U);
+    EXPECT_EQ(m.Fila(1)[1], 0x00FF00U);
+    EXPECT_EQ(m.Fila(1)[3], 0x00FF00U);
+    EXPECT_EQ(m.Fila(0)[3], 0xFF0000U);
+}
+
+TEST_F(VistaDeServicios, ASavedPictureComesBackTheSame) {
+    Mapa original(33, 17);
+    for (i32 y = 0; y < 17; ++y)
+        for (i32 x = 0; x < 33; ++x)
+            original.Fila(y)[x] = static_cast<Pixel>((x * 7) << 16 | (y * 11) << 8 | (x ^ y));
+    const std::string ruta = carpeta.filePath("guardada.bmp").toStdString();
+    EXPECT_EQ(P().GuardaImagen(ruta, original), 0);
+    EXPECT_EQ(P().CargaImagen(ruta, m), 0);
+    EXPECT_EQ(m.Ancho, 33);
+    EXPECT_EQ(m.Pixeles, original.Pixeles);
+    EXPECT_EQ(P().GuardaImagen(carpeta.filePath("no/hay.bmp").toStdString(), original), 76);
+    EXPECT_EQ(P().GuardaImagen(carpeta.path().toStdString(), original), 75) << "a folder";
+    EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files).size(), 1) << "nothing left beside";
+}
+
+TEST_F(VistaDeServicios, TheProgramsPicturesHaveTheirSizes) {
+    EXPECT_TRUE(P().RecursoImagen("BmpBoton", m));
+    EXPECT_EQ(m.Ancho, 587);
+    EXPECT_EQ(m.Alto, 97);
+    EXPECT_TRUE(P().RecursoImagen("BmpVario", m));
+    EXPECT_EQ(m.Ancho, 342);
+    EXPECT_EQ(m.Alto, 78);
+    EXPECT_FALSE(P().RecursoImagen("NoExiste", m));
+}
+
+TEST_F(VistaDeServicios, TheClipboardGivesPicturesOfAnyDepth) {
+    QGuiApplication::clipboard()->setText("solo texto");
+    EXPECT_FALSE(P().PortapapelesTieneImagen());
+    EXPECT_FALSE(P().PortapapelesImagen(m));
+    for (const auto f : {QImage::Format_Mono, QImage::Format_RGBA64, QImage::Format_RGB32}) {
+        QGuiApplication::clipboard()->setImage(Lisa(50, 40, 0xFFFFFFFF).convertToFormat(f));
+        EXPECT_TRUE(P().PortapapelesTieneImagen());
+        ASSERT_TRUE(P().PortapapelesImagen(m));
+        EXPECT_EQ(m.Ancho, 50);
+        EXPECT_EQ(m.Fila(39)[49], 0xFFFFFFU);
+    }
+}
+
+// --- Sound.
+
+TEST_F(VistaDeServicios, AWaitingSoundReturnsWhenItHasEnded) {
+    Sonidos s;
+    ASSERT_TRUE(s.Dispuesto(5000));
+    ASSERT_TRUE(s.HayAparato());
+    const i32 dura = s.Duracion(9);
+    ASSERT_GT(dura, 0);
+    QElapsedTimer t;
+    t.start();
+    s.Suena(9, true);
+    EXPECT_LT(t.elapsed(), 60);
+    t.restart();
+    s.Suena(9, false);
+    EXPECT_GE(t.elapsed(), dura - 60);
+    EXPECT_LE(t.elapsed(), dura + 400);
+}
+
+TEST_F(VistaDeServicios, ASoundCutsTheOneBeforeAndUnknownOnesAreSilent) {
+    Sonidos s;
+    ASSERT_TRUE(s.Dispuesto(5000));
+    const i32 corto = s.Duracion(6), largo = s.Duracion(14);
+    ASSERT_LT(corto + 400, largo);
+    QElapsedTimer t;
+    t.start();
+    s.Suena(14, true);
+    s.Suena(6, false);
+    EXPECT_LT(t.elapsed(), largo);
+    t.restart();
+    s.Suena(12345, false);
+    EXPECT_LT(t.elapsed(), 50);
+}
+
+TEST_F(VistaDeServicios, TheSamplesOfTheSoundReachTheDevice) {
+    const QString salida = carpeta.filePath("sonido.raw");
+    qputenv("SDL_AUDIODRIVER", "disk");
+    qputenv("SDL_DISKAUDIOFILE", salida.toLocal8Bit());
+    {
+        Sonidos s;
+        ASSERT_TRUE(s.Dispuesto(5000));
+        ASSERT_TRUE(s.HayAparato());
+        s.Suena(9, false);
+    }
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QFile f(salida);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray b = f.readAll();
+    int fuertes = 0;
+    for (qsizetype i = 0; i + 1 < b.size(); i += 2) {
+        i16 muestra;
+        std::memcpy(&muestra, b.constData() + i, 2);
+        fuertes += muestra > 1000 || muestra < -1000;
+    }
+    EXPECT_GT(fuertes, 100);
+}
+
+TEST_F(VistaDeServicios, WithoutADeviceSoundsAreSilentAndNothingWaits) {
+    qputenv("SDL_AUDIODRIVER", "noexiste");
+    Sonidos s;
+    EXPECT_TRUE(s.Dispuesto(5000));
+    EXPECT_FALSE(s.HayAparato());
+    QElapsedTimer t;
+    t.start();
+    s.Suena(14, false);
+    EXPECT_LT(t.elapsed(), 50);
+    qputenv("SDL_AUDIODRIVER", "dummy");
+}
+
+}  // namespace
+}  // namespace tessario

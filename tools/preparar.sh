@@ -1,0 +1,66 @@
+# Shared by play and check, which read it in: what the machine must have, by Debian package names.
+# instala_paquetes GROUP... installs what is missing of the groups juego (to build and play),
+# pruebas (to test) and bench (to measure). A complete machine is only asked, and nothing is done.
+
+PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev fonts-liberation2"
+PAQUETES_pruebas="libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
+PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"
+PAQUETES_pantalla="xvfb openbox imagemagick"
+
+# The packages among the arguments that are not installed; one question for all.
+paquetes_ausentes() {
+  local puestos p
+  puestos=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null)
+  for p in "$@"; do
+    case $'\n'"$puestos"$'\n' in
+      *$'\n'"$p installed"$'\n'*) ;;
+      *) printf '%s\n' "$p" ;;
+    esac
+  done
+}
+
+instala_paquetes() {
+  local grupo nombre faltan sudo=""
+  local -a lista=()
+  for grupo in "$@"; do
+    nombre="PAQUETES_$grupo"
+    # shellcheck disable=SC2206
+    lista+=(${!nombre})
+  done
+  if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "Este sistema no usa paquetes de Debian; se supone que están instalados: ${lista[*]}"
+    return 0
+  fi
+  mapfile -t faltan < <(paquetes_ausentes "${lista[@]}")
+  [ ${#faltan[@]} -eq 0 ] && return 0
+  echo "Se instalan los paquetes que faltan (installing): ${faltan[*]}"
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "Hace falta ser administrador (root). Ejecute: apt-get install ${faltan[*]}" >&2
+      return 1
+    fi
+    sudo=sudo
+  fi
+  $sudo env DEBIAN_FRONTEND=noninteractive apt-get update -q || true
+  $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${faltan[@]}"
+}
+
+# Is there an X or Wayland display that programs of this session can use?
+hay_pantalla() {
+  [ -n "${WAYLAND_DISPLAY:-}" ] && return 0
+  [ -n "${DISPLAY:-}" ] || return 1
+  # Its socket tells without any tool; a display on another machine is believed.
+  local n=${DISPLAY#*:}; n=${n%%.*}
+  case $DISPLAY in
+    :*|unix:*) [ -S "/tmp/.X11-unix/X$n" ] || grep -qs "@/tmp/.X11-unix/X$n\$" /proc/net/unix ;;
+    *) true ;;
+  esac
+}
+
+# A display number that nobody uses.
+numero_libre() {
+  local n
+  for n in $(seq 90 190); do
+    [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ] || { echo "$n"; return; }
+  done
+}
