@@ -17,10 +17,11 @@ void Anillo(QPainter& p, QRect r) {
     p.save();
     p.setRenderHint(QPainter::Antialiasing, false);
     p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(ESMALTE, 1));
-    p.drawRect(r.adjusted(2, 2, -3, -3));
-    p.setPen(QPen(COBALTO, 2));
-    p.drawRect(r.adjusted(1, 1, -1, -1));
+    const QColor* const COLORES[] = {&COBALTO, &COBALTO, &ESMALTE};  // from the edge inwards
+    for (int i = 0; i < 3; ++i) {
+        p.setPen(QPen(*COLORES[i], 1));
+        p.drawRect(r.adjusted(i, i, -i - 1, -i - 1));
+    }
     p.restore();
 }
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -29,7 +30,21 @@ bool Conocido(const QByteArray& formato) {
                        [&](const char* f) { return formato == f; });
 }
 
+// Is this a bitmap file whose header claims more than we read? The reader refuses those as if they
+// were no picture at all.
+bool BmpDesmedido(QIODevice& origen) {
+    const QByteArray c = origen.peek(26);
+    if (c.size() < 26 || !c.startsWith("BM") || static_cast<unsigned char>(c[14]) < 40)
+        return false;
+    qint32 ancho = 0, alto = 0;
+    std::memcpy(&ancho, c.constData() + 18, 4);
+    std::memcpy(&alto, c.constData() + 22, 4);
+    return std::abs(static_cast<long long>(ancho)) * std::abs(static_cast<long long>(alto)) >
+           PIXELES_MAXIMOS;
+}
+
 i32 Lee(QIODevice& origen, Mapa& destino) {
+    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
     QImageReader lector(&origen);
     lector.setDecideFormatFromContent(true);
     lector.setAutoTransform(true);

@@ -37,9 +37,9 @@ PlataformaQt::PlataformaQt() {
 }
 
 PlataformaQt::~PlataformaQt() {
-    for (VistaVentana* v : abiertas_) {
-        v->Termina();
-        delete v;
+    for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); ++i) {
+        (*i)->Termina();
+        delete *i;
     }
 }
 

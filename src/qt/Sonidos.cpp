@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <mutex>
 #include <thread>
 
 namespace tessario {
@@ -22,34 +23,64 @@ constexpr i32 DEMORA_MAXIMA_MS = 300;  // a device this late is taken for dead
 }  // namespace
 
 struct Sonidos::Estado {
+    std::mutex cerrojo;  // guards the passage from starting to ready, or to closing
     std::atomic<bool> listo{false};
     std::atomic<SDL_AudioDeviceID> aparato{0};
-    std::atomic<bool> cerrando{false};
+    bool cerrando = false;
 };
+
+namespace {
+
+// The library's audio part is one for the whole process: starts and ends go one after the other.
+std::mutex& Turno() {
+    static std::mutex turno;
+    return turno;
+}
+
+SDL_AudioDeviceID AbreAparato() {
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tessario");
+    if (SDL_AudioInit(nullptr) != 0) return 0;
+    SDL_AudioSpec pedido{};
+    pedido.freq = FRECUENCIA;
+    pedido.format = AUDIO_S16SYS;
+    pedido.channels = CANALES;
+    pedido.samples = TROZO;
+    const SDL_AudioDeviceID a = SDL_OpenAudioDevice(nullptr, 0, &pedido, nullptr, 0);
+    if (a) SDL_PauseAudioDevice(a, 0);
+    return a;
+}
+
+void CierraAparato(SDL_AudioDeviceID a) {
+    if (a) SDL_CloseAudioDevice(a);
+    SDL_AudioQuit();
+}
+
+}  // namespace
 
 Sonidos::Sonidos() : estado_(std::make_shared<Estado>()) {
     std::thread([e = estado_] {
-        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-        SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tessario");
-        if (SDL_AudioInit(nullptr) == 0) {
-            SDL_AudioSpec pedido{};
-            pedido.freq = FRECUENCIA;
-            pedido.format = AUDIO_S16SYS;
-            pedido.channels = CANALES;
-            pedido.samples = TROZO;
-            const SDL_AudioDeviceID a = SDL_OpenAudioDevice(nullptr, 0, &pedido, nullptr, 0);
-            if (a) SDL_PauseAudioDevice(a, 0);
-            e->aparato = a;
+        const std::lock_guard turno(Turno());
+        const SDL_AudioDeviceID a = AbreAparato();
+        const std::lock_guard paso(e->cerrojo);
+        if (e->cerrando) {
+            CierraAparato(a);
+            return;
         }
+        e->aparato = a;
         e->listo = true;
     }).detach();
 }
 
 Sonidos::~Sonidos() {
-    // A start that still hangs is left behind: its thread holds its own share of the state.
-    if (!estado_->listo) return;
-    if (const SDL_AudioDeviceID a = estado_->aparato) SDL_CloseAudioDevice(a);
-    SDL_AudioQuit();
+    {
+        // A start that is still under way, or hangs, is left behind and cleans up after itself.
+        const std::lock_guard paso(estado_->cerrojo);
+        estado_->cerrando = true;
+        if (!estado_->listo) return;
+    }
+    const std::lock_guard turno(Turno());
+    CierraAparato(estado_->aparato);
 }
 
 bool Sonidos::Dispuesto(i32 milisegundos) const {

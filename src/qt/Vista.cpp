@@ -129,7 +129,15 @@ bool Vista::event(QEvent* e) {
         case QEvent::KeyPress: {
             auto& k = static_cast<QKeyEvent&>(*e);
             const bool tab = k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
-            if (tab && QWidget::event(e) && e->isAccepted()) return true;
+            // What the standard widget within has not used comes up to here: it was delivered.
+            if (Interior()) {
+                e->accept();
+                return true;
+            }
+            if (tab && QWidget::event(e) && e->isAccepted()) {
+                MuestraAnillo();
+                return true;
+            }
             ventana_.Tecla(k, this);
             e->accept();
             return true;
@@ -273,6 +281,13 @@ void Vista::Foco(bool entra, Qt::FocusReason razon) {
     if (!Viva()) return;
     const auto& evento = entra ? control_.GotFocus : control_.LostFocus;
     if (evento) anfitrion().Entrega(evento);
+}
+
+// The only stop of a window has the keyboard from the start: Tab then shows it.
+void Vista::MuestraAnillo() {
+    if (!hasFocus() || !control_.TabStop || anillo_) return;
+    anillo_ = true;
+    update();
 }
 
 void Vista::PintaAnillo(QPainter& p, QRect r) const {

@@ -56,6 +56,7 @@ private:
     void Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble);
     void Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
     void Foco(bool entra, Qt::FocusReason razon);
+    void MuestraAnillo();
     void PonEtiquetas();
     void PonFocoPosible();
 

@@ -30,13 +30,16 @@ Qt::WindowFlags Marcas(const Ventana& v, bool modal) {
 
 }  // namespace
 
-VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, QWidget* duena, bool modal)
-    : QWidget(duena, Marcas(v, modal)), ventana_(v), anfitrion_(a), modal_(modal) {
+VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal)
+    : QWidget(nullptr, Marcas(v, modal)), ventana_(v), anfitrion_(a), modal_(modal) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
-    setFocusPolicy(Qt::ClickFocus);
     setObjectName(QString::fromStdString(v.Nombre));
-    if (modal) setWindowModality(Qt::ApplicationModal);
+    if (!modal) return;
+    setWindowModality(Qt::ApplicationModal);
+    // Tied by the window system alone: no widget owns another window's widget.
+    winId();
+    if (duena && duena->windowHandle()) windowHandle()->setTransientParent(duena->windowHandle());
 }
 
 Vista* VistaVentana::VistaDe(const Control& c) const {
@@ -190,7 +193,7 @@ void VistaVentana::Ensena() {
     Vista* const foco = ventana_.Foco ? VistaDe(*ventana_.Foco) : nullptr;
     if (foco)
         foco->setFocus(Qt::OtherFocusReason);
-    else if (!focusWidget())
+    else
         setFocus(Qt::OtherFocusReason);
     Presenta(true);
 }

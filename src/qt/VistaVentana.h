@@ -16,7 +16,8 @@ namespace tessario {
 
 class VistaVentana : public QWidget, public RecibeSuelta {
 public:
-    VistaVentana(Ventana& v, Anfitrion& a, QWidget* duena, bool modal);
+    // A modal one stands above `duena`, the window that is on top so far, or above nothing.
+    VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal);
 
     Ventana& ventana() const { return ventana_; }
     Anfitrion& anfitrion() const { return anfitrion_; }

@@ -81,7 +81,8 @@ VistaFilas::VistaFilas(Control& c, VistaVentana& v, QWidget* padre)
     filas_->setTextElideMode(Qt::ElideRight);
     filas_->setFont(FuenteQt(Fuente{}));
     connect(filas_, &QListWidget::currentRowChanged, this, [this](int fila) {
-        if (sincronizando_) return;
+        // Getting the keyboard makes the first row the current one, which chooses nothing.
+        if (sincronizando_ || fila < 0 || !filas_->item(fila)->isSelected()) return;
         avisada_ = true;
         Avisa(fila);
     });
@@ -112,7 +113,7 @@ void VistaFilas::PonFilas(const QStringList& textos) {
 }
 
 void VistaFilas::Marca(int fila) {
-    if (filas_->currentRow() == fila) return;
+    if (filas_->currentRow() == fila && (fila < 0 || filas_->item(fila)->isSelected())) return;
     sincronizando_ = true;
     filas_->setCurrentRow(fila);
     if (fila < 0) filas_->clearSelection();

@@ -22,7 +22,10 @@ protected:
         c.PonBackColor(ROJO);
         c.MouseDown = [this](i16 b, i16, float x, float y) { Anota("abajo", b, x, y); };
         c.MouseUp = [this](i16 b, i16, float x, float y) { Anota("arriba", b, x, y); };
-        c.MouseMove = [this](i16 b, i16, float x, float y) { Anota("mueve", b, x, y); };
+        // The way to the control is not noted, only what is done with a button held.
+        c.MouseMove = [this](i16 b, i16, float x, float y) {
+            if (b) Anota("mueve", b, x, y);
+        };
         c.Click = [this] { diario += "click "; };
         c.DblClick = [this] { diario += "doble "; };
     }
@@ -66,15 +69,13 @@ TEST_F(VistaDeCuadro, AReleaseOutsideReachesItButIsNoClick) {
     Abre(v, {&c});
     Aprieta(v, 110, 55);
     Suelta(v, 90, 55);
-    EXPECT_EQ(diario, "abajo1(10,5) arriba1(-10,5) ");
+    EXPECT_EQ(diario, "abajo1(10,5) mueve1(-10,5) arriba1(-10,5) ");
 }
 
 TEST_F(VistaDeCuadro, TheSecondPressOfADoubleClickIsAPressAsWell) {
     Abre(v, {&c});
-    Pulsa(v, 110, 55);
-    diario.clear();
-    Pulsa(v, 110, 55);
-    EXPECT_EQ(diario, "abajo1(10,5) doble arriba1(10,5) click ");
+    PulsaDosVeces(v, 110, 55);
+    EXPECT_EQ(diario, "abajo1(10,5) arriba1(10,5) click abajo1(10,5) doble arriba1(10,5) click ");
 }
 
 TEST_F(VistaDeCuadro, ADisabledOneSwallowsThePressOfWhatLiesBelow) {
@@ -127,13 +128,13 @@ TEST_F(VistaDeCuadro, BigPicturesArePresentedNoOftenerThanTheScreenShows) {
     const long long antes = vista.PixelesPintados();
     QElapsedTimer t;
     t.start();
-    for (int i = 0; i < 200; ++i) {
+    while (t.elapsed() < 100) {
         grande.Cls();
         P().Presenta();
     }
     const long long veces = (vista.PixelesPintados() - antes) / (300 * 200);
     EXPECT_LE(veces, 2 + t.elapsed() / 16);
-    EXPECT_GE(veces, 1);
+    EXPECT_GE(veces, 2);
 }
 
 TEST_F(VistaDeCuadro, WhatWasPaintedIsOnTheScreenBeforeTheSleep) {
@@ -175,11 +176,10 @@ TEST_F(VistaDeCuadro, TabAndSpacePressItAtTheCentreAndARingShows) {
     Tecla(v, Qt::Key_Return);
     EXPECT_EQ(diario, "abajo1(30,20) arriba1(30,20) click ");
     EXPECT_EQ(DeControl(v, c).accessibleName(), "Barajar");
-    std::unique_ptr<QAccessibleInterface> a(
-        QAccessible::queryAccessibleInterface(&DeControl(v, c)));
+    // The interface belongs to the library.
+    QAccessibleInterface* const a = QAccessible::queryAccessibleInterface(&DeControl(v, c));
     EXPECT_EQ(a->role(), QAccessible::PushButton);
     EXPECT_EQ(a->text(QAccessible::Name), "Barajar");
-    a.release();
 }
 
 TEST_F(VistaDeCuadro, APressWithTheMouseTakesNoKeysFromTheOneThatHasThem) {
@@ -234,8 +234,9 @@ TEST_F(VistaDeCuadro, ANamedPointerHasItsPixelsAndItsHotSpot) {
     const QImage esperada(QStringLiteral(":/cursores/manoindice.png"));
     ASSERT_FALSE(esperada.isNull());
     const QCursor puntero = DeControl(v, c).cursor();
-    EXPECT_EQ(puntero.pixmap().toImage().convertToFormat(QImage::Format_ARGB32),
-              esperada.convertToFormat(QImage::Format_ARGB32));
+    const auto formato = QImage::Format_ARGB32_Premultiplied;
+    EXPECT_TRUE(puntero.pixmap().toImage().convertToFormat(formato) ==
+                esperada.convertToFormat(formato));
     // The hot spot as the list has it.
     QFile f(QStringLiteral(":/cursores/puntos.txt"));
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
@@ -279,7 +280,7 @@ TEST_F(VistaDeCuadro, ALabelShowsItsTextOverItsContainer) {
                 ++azules;
                 derecha = std::max(derecha, x);
             }
-    EXPECT_GT(azules, 30);
+    EXPECT_GT(azules, 8);
     EXPECT_LT(derecha, 10 + P().AnchoTexto(Fuente{}, "Tessario") + 1);
     EXPECT_EQ(im.pixel(205, 25) & 0xFFFFFFU, 0x00FF00U);
 }

@@ -130,8 +130,7 @@ TEST_F(VistaDeMandos, AListGetsItsKeysAndItsDoubleClick) {
     Abre(v, {&l});
     Escribe(v, "d");
     EXPECT_EQ(tecla, 'd');
-    Pulsa(v, 20, 10);
-    Pulsa(v, 20, 10);
+    PulsaDosVeces(v, 20, 10);
     EXPECT_EQ(cambios, 1);
 }
 
@@ -286,7 +285,7 @@ TEST_F(VistaDeMandos, TheFileListsFollowTheirPaths) {
         P().VistaDe(v), carpetas.visualItemRect(carpetas.item(n - 2)).center());
     Pulsa(v, p.x(), p.y());
     EXPECT_EQ(cambios, 0) << "one press only looks";
-    Pulsa(v, p.x(), p.y());
+    PulsaDosVeces(v, p.x(), p.y());
     EXPECT_EQ(cambios, 1);
     EXPECT_EQ(c.Path, raiz.toStdString() + "alfa/");
     f.Path = c.Path;

@@ -22,6 +22,11 @@ protected:
         PonSistema(plataforma_.get());
     }
     void TearDown() override {
+        // The library remembers a request to leave until its main loop has run.
+        if (P().EstaCerrando()) {
+            Luego(0, [] { QCoreApplication::exit(0); });
+            QApplication::exec();
+        }
         PonSistema(nullptr);
         plataforma_.reset();
     }
@@ -50,6 +55,10 @@ protected:
     void Pulsa(const Ventana& v, int x, int y, Qt::MouseButton b = Qt::LeftButton) {
         Aprieta(v, x, y, b);
         Suelta(v, x, y, b);
+    }
+    void PulsaDosVeces(const Ventana& v, int x, int y) {
+        QTest::mouseDClick(Marco(v), Qt::LeftButton, {}, {x, y});
+        Eventos();
     }
     void Tecla(const Ventana& v, Qt::Key k, Qt::KeyboardModifiers m = {}) {
         QTest::keyClick(Marco(v), k, m);
