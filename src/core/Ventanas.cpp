@@ -17,8 +17,9 @@ Ventana Careta;
 
 namespace {
 
-constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080, GRIS_CLARO = 0xC0C0C0;
-constexpr Color AZUL_TITULO = 0x800000;
+constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080;
+// The program's own: cream ground, cobalt title, terracotta edge and rule.
+constexpr Color CREMA = 0xD2E9F4, COBALTO = 0x9A3F1F, TERRACOTA = 0x3C51B2;
 constexpr i16 SONIDO_BOTON = 9;
 constexpr i16 PAUSA_CARETA = 1500;
 constexpr i16 VELOCIDAD_INICIAL = 50;
@@ -29,6 +30,7 @@ constexpr i32 Ancho = 405;
 constexpr i32 AltoFijo = 128, AltoLinea = 16;
 constexpr i32 MargenTexto = 20, AnchoTexto = 365;
 constexpr i32 TituloArriba = 18, TituloAlto = 19;
+constexpr i32 FiletePorEncima = 9;  // rule above the text
 constexpr i32 TextoArriba = 50, TextoHolgura = 3;
 constexpr i32 BajoTexto = 14;  // from the text's bottom to the buttons
 constexpr i32 MargenBoton = 15, LadoBoton = 48, EntreBotones = 15;
@@ -75,7 +77,11 @@ void PintaMarco() {
     const i32 der = Mensajes.Width() - 2;
     const i32 aba = Mensajes.Height() - 2;
     constexpr int recta = pluma::Desde | pluma::ConColor;
+    constexpr i32 filete = lugar::TextoArriba - lugar::FiletePorEncima;
     Mensajes.Cls();
+    Mensajes.Line(recta | pluma::Caja, 0, 0, der + 1, aba + 1, TERRACOTA);
+    Mensajes.Line(recta, lugar::MargenTexto, filete, lugar::MargenTexto + lugar::AnchoTexto, filete,
+                  TERRACOTA);
     Mensajes.Line(recta | pluma::Caja, 1, 1, der, aba, BLANCO);
     Mensajes.Line(recta, der, 1, der, aba, GRIS);
     Mensajes.Line(recta, 1, aba, der, aba, GRIS);
@@ -172,10 +178,10 @@ void ConectaCareta() {
 void ReiniciaVentanas() {
     Mensajes = Ventana{};
     Mensajes.Nombre = "Mensajes";
-    Mensajes.PonBackColor(GRIS_CLARO);
+    Mensajes.PonBackColor(CREMA);
     ReiniciaEtiqueta(Tex_Titulo, "Tex_Titulo");
     Tex_Titulo.Font.Negrita = true;
-    Tex_Titulo.ForeColor = AZUL_TITULO;
+    Tex_Titulo.ForeColor = COBALTO;
     ReiniciaEtiqueta(Tex_Mensaje, "Tex_Mensaje");
     Mensajes.Controles = {&Tex_Titulo, &Tex_Mensaje};
     for (const BotonMensaje& b : BOTONES) {

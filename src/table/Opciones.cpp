@@ -14,7 +14,7 @@ constexpr i32 ANCHO_PANEL = 150, ALTO_FILA = 18, BORDE = 4;
 constexpr i32 TEXTO_X = 14;
 constexpr i16 OPCION_MODELO = 4;  // stands apart, below a separator
 constexpr Color GRIS = 0x808080, BLANCO = 0xFFFFFF, AZUL = 0xFF0000, NEGRO = 0;
-constexpr Color FONDO_PANEL = 0xC0C0C0;
+constexpr Color FONDO_PANEL = 0xD2E9F4;
 const Fuente LETRA{Familia::Sans, 13, false, false};
 
 // What the window of saved puzzles opens for, by option.

@@ -82,9 +82,9 @@ TEST_F(VentanasNucleo, FrameIsWhiteWithGreyFarEdges) {
         EXPECT_EQ(Mensajes.Point(1, h / 2), 0xFFFFFFU);
         EXPECT_EQ(Mensajes.Point(w - 2, h / 2), 0x808080U);
         EXPECT_EQ(Mensajes.Point(w / 2, h - 2), 0x808080U);
-        EXPECT_EQ(Mensajes.Point(0, 0), 0xC0C0C0U);
-        EXPECT_EQ(Mensajes.Point(w - 1, h - 1), 0xC0C0C0U);
-        EXPECT_EQ(Mensajes.Point(2, 2), 0xC0C0C0U);
+        EXPECT_EQ(Mensajes.Point(0, 0), 0x3C51B2U);
+        EXPECT_EQ(Mensajes.Point(w - 1, h - 1), 0x3C51B2U);
+        EXPECT_EQ(Mensajes.Point(2, 2), 0xD2E9F4U);
     });
 }
 
