@@ -59,8 +59,7 @@ Punto Pantalla() {
     return {800, Gbl.AltoPantalla != 0 ? Gbl.AltoPantalla : 600};
 }
 
-void Centra(Ventana& v) {
-    const Punto pantalla = Pantalla();
+void Centra(Ventana& v, Punto pantalla) {
     v.Left = (pantalla.x - v.Width()) / 2;
     v.Top = (pantalla.y - v.Height()) / 2;
 }
@@ -106,7 +105,7 @@ void ColocaBotones() {
 
 void Mensajes_Load() {
     Mensajes.Tamano(lugar::Ancho, Gbl.ModoMensaje * lugar::AltoLinea + lugar::AltoFijo);
-    Centra(Mensajes);
+    Centra(Mensajes, Pantalla());
     ColocaTextos();
     PintaMarco();
     ColocaBotones();
@@ -140,7 +139,7 @@ void Mensajes_KeyDown() {
 
 void Careta_Load() {
     PonRecurso(Careta, "Careta");
-    Centra(Careta);
+    Centra(Careta, {Sistema().AnchoPantalla(), Sistema().AltoPantalla()});
     Sistema().Presenta();
     Gbl.VelocidadJuego = VELOCIDAD_INICIAL;
     Pausa(PAUSA_CARETA);

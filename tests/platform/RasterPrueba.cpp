@@ -52,7 +52,7 @@ void ComparaEstirado(Superficie& destino, const Superficie& origen, const Estira
 
 }  // namespace
 
-TEST(Raster, BlitsMatchTheFormulaPixelByPixel) {
+TEST(OperacionesRaster, BlitsMatchTheFormulaPixelByPixel) {
     PorCasos(400, [](Azar& azar) {
         Superficie destino(azar.Entre(0, 60), azar.Entre(0, 60));
         Superficie origen(azar.Entre(0, 60), azar.Entre(0, 60));
@@ -68,7 +68,7 @@ TEST(Raster, BlitsMatchTheFormulaPixelByPixel) {
     });
 }
 
-TEST(Raster, BlitsWithinOneSurfaceReadWhatWasThereBefore) {
+TEST(OperacionesRaster, BlitsWithinOneSurfaceReadWhatWasThereBefore) {
     PorCasos(400, [](Azar& azar) {
         Superficie s(azar.Entre(20, 60), azar.Entre(20, 60));
         Marca(s);
@@ -82,7 +82,7 @@ TEST(Raster, BlitsWithinOneSurfaceReadWhatWasThereBefore) {
     });
 }
 
-TEST(Raster, StretchingTakesThePixelUnderTheCentre) {
+TEST(OperacionesRaster, StretchingTakesThePixelUnderTheCentre) {
     PorCasos(400, [](Azar& azar) {
         const bool misma = azar.Entre(0, 4) == 0;
         Superficie destino(azar.Entre(0, 60), azar.Entre(0, 60));
@@ -102,7 +102,7 @@ TEST(Raster, StretchingTakesThePixelUnderTheCentre) {
     });
 }
 
-TEST(Raster, StretchingTwoPixelsToFiveChangesAtTheMiddle) {
+TEST(OperacionesRaster, StretchingTwoPixelsToFiveChangesAtTheMiddle) {
     Superficie origen(2, 1), destino(5, 1);
     origen.Fila(0)[0] = 1;
     origen.Fila(0)[1] = 2;
@@ -112,7 +112,7 @@ TEST(Raster, StretchingTwoPixelsToFiveChangesAtTheMiddle) {
     for (i32 x = 0; x < 5; ++x) EXPECT_EQ(destino.Fila(0)[x], esperado[x]) << x;
 }
 
-TEST(Raster, EveryOtherCodeCopies) {
+TEST(OperacionesRaster, EveryOtherCodeCopies) {
     Superficie origen(1, 1), destino(1, 1);
     origen.Fila(0)[0] = 0x123456;
     destino.Fila(0)[0] = 0xABCDEF;
@@ -120,7 +120,7 @@ TEST(Raster, EveryOtherCodeCopies) {
     EXPECT_EQ(destino.Fila(0)[0], 0x123456U);
 }
 
-TEST(Raster, InvertingTwiceOntoItselfChangesNothingAndKeepsTheUpperByteClear) {
+TEST(OperacionesRaster, InvertingTwiceOntoItselfChangesNothingAndKeepsTheUpperByteClear) {
     Superficie s(9, 7);
     Marca(s);
     const Mapa antes = s.Dibujo();
@@ -130,7 +130,7 @@ TEST(Raster, InvertingTwiceOntoItselfChangesNothingAndKeepsTheUpperByteClear) {
     EXPECT_EQ(s.Dibujo().Pixeles, antes.Pixeles);
 }
 
-TEST(Raster, EmptyOrHugeRectanglesAreHarmless) {
+TEST(OperacionesRaster, EmptyOrHugeRectanglesAreHarmless) {
     constexpr i32 menor = std::numeric_limits<i32>::min(), mayor = std::numeric_limits<i32>::max();
     const i32 valores[] = {menor, menor + 1, -40000, -1, 0, 1, 40000, mayor - 1, mayor};
     Superficie destino(8, 8), origen(8, 8), vacia;
