@@ -190,6 +190,9 @@ TEST_F(VentanasNucleo, AnyKeyClosesAPlainMessageAndFreesThePointerOfTheTable) {
 TEST_F(VentanasNucleo, SplashIsShownHalfwayHoldsAndSetsTheFirstSpeed) {
     Gbl.VelocidadJuego = 77;
     P().recursos["Careta"] = Mapa(300, 200, 0x112233);
+    P().ancho = 1000;  // the screen itself counts: nothing has been measured yet
+    P().alto = 700;
+    Gbl.AnchoPantalla = Gbl.AltoPantalla = 0;
     const double antes = P().dormido;
     bool pintada = false;
     P().alDormir = [&] { pintada = Careta.Width() == 300 && Careta.Abierta; };
