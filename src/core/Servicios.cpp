@@ -23,6 +23,7 @@ void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaj
     Gbl.AyudaMensaje = Ayuda;  // before the window loads, which shows its help button by it
     Gbl.TituloMensaje = Titulo;
     Gbl.TextoMensaje = Texto;
+    Mensajes.Caption = Titulo;
     Tex_Titulo.Caption = Titulo;
     Tex_Mensaje.Caption = Texto;
     Sistema().MuestraModal(Mensajes);

@@ -63,21 +63,49 @@ int SinError(Display*, XErrorEvent*) {
     return 0;
 }
 
-bool BuscaTitulo(Display* d, Window w, const std::string& titulo) {
+// Does `mira` say yes to a window on the screen, this one or one within?
+bool Recorre(Display* d, Window w,
+             const std::function<bool(Window, const XWindowAttributes&)>& mira) {
     XWindowAttributes a{};
     if (!XGetWindowAttributes(d, w, &a)) return false;
-    char* nombre = nullptr;
-    bool si = false;
-    if (a.map_state == IsViewable && XFetchName(d, w, &nombre) && nombre)
-        si = std::string(nombre).find(titulo) != std::string::npos;
-    if (nombre) XFree(nombre);
-    if (si) return true;
+    if (a.map_state == IsViewable && mira(w, a)) return true;
     Window raiz = 0, padre = 0;
     Window* hijas = nullptr;
     unsigned n = 0;
     if (!XQueryTree(d, w, &raiz, &padre, &hijas, &n)) return false;
-    for (unsigned i = 0; i < n && !si; ++i) si = BuscaTitulo(d, hijas[i], titulo);
+    bool si = false;
+    for (unsigned i = 0; i < n && !si; ++i) si = Recorre(d, hijas[i], mira);
     if (hijas) XFree(hijas);
+    return si;
+}
+
+std::string Propiedad(Display* d, Window w, const char* nombre) {
+    Atom tipo = 0;
+    int formato = 0;
+    unsigned long n = 0, resto = 0;
+    unsigned char* datos = nullptr;
+    std::string texto;
+    if (XGetWindowProperty(d, w, XInternAtom(d, nombre, False), 0, 1024, False, AnyPropertyType,
+                           &tipo, &formato, &n, &resto, &datos) == Success &&
+        datos && formato == 8)
+        texto.assign(reinterpret_cast<char*>(datos), n);
+    if (datos) XFree(datos);
+    return texto;
+}
+
+// The window library puts the program's name after a title that lacks it.
+bool EsTitulo(const std::string& nombre, const std::string& titulo) {
+    return nombre == titulo || nombre.rfind(titulo + " \u2014 ", 0) == 0;
+}
+
+bool ContestaPing(Display* d, Window w) {
+    Atom* protocolos = nullptr;
+    int n = 0;
+    bool si = false;
+    if (!XGetWMProtocols(d, w, &protocolos, &n)) return false;
+    const Atom ping = XInternAtom(d, "_NET_WM_PING", False);
+    for (int i = 0; i < n; ++i) si = si || protocolos[i] == ping;
+    XFree(protocolos);
     return si;
 }
 
@@ -127,6 +155,8 @@ Escritorio::Escritorio(int ancho, int alto) {
     XSetErrorHandler(SinError);
     d_ = XOpenDisplay(nombre_.c_str());
     if (!d_) throw std::runtime_error("cannot open the private display");
+    // The answers to the pings come to the root window.
+    XSelectInput(d_, DefaultRootWindow(d_), SubstructureNotifyMask);
     gestor_ = Lanza({"openbox"}, nombre_, -1);
     // The manager announces itself on the root window.
     const Atom marca = XInternAtom(d_, "_NET_SUPPORTING_WM_CHECK", False);
@@ -166,22 +196,23 @@ void Escritorio::Suelta(int boton) {
 
 void Escritorio::Pulsa(int x, int y, int boton) {
     Mueve(x, y);
-    Duerme(30);
-    Aprieta(boton);
-    Duerme(20);
-    Suelta(boton);
-    Duerme(60);
+    EsperaAtendido();
+    // Both at once: on a busy machine no time may pass between them.
+    XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), True, 0);
+    XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), False, 0);
+    XSync(d_, False);
+    EsperaAtendido();
 }
 
 void Escritorio::Arrastra(int x0, int y0, int x1, int y1, int pasos) {
     Mueve(x0, y0);
-    Duerme(30);
+    EsperaAtendido();
     Aprieta();
-    Duerme(30);
+    EsperaAtendido();
     for (int i = 1; i <= pasos; ++i) Mueve(x0 + (x1 - x0) * i / pasos, y0 + (y1 - y0) * i / pasos);
-    Duerme(20);
+    EsperaAtendido();
     Suelta();
-    Duerme(60);
+    EsperaAtendido();
 }
 
 void Escritorio::Tecla(const char* nombre) {
@@ -189,7 +220,7 @@ void Escritorio::Tecla(const char* nombre) {
     XTestFakeKeyEvent(d_, codigo, True, 0);
     XTestFakeKeyEvent(d_, codigo, False, 0);
     XSync(d_, False);
-    Duerme(40);
+    EsperaAtendido();
 }
 
 Foto Escritorio::Mira() {
@@ -210,7 +241,46 @@ Foto Escritorio::Mira() {
 }
 
 bool Escritorio::HayVentana(const std::string& titulo) {
-    return BuscaTitulo(d_, DefaultRootWindow(d_), titulo);
+    const int todo = DisplayWidth(d_, DefaultScreen(d_));
+    return Recorre(d_, DefaultRootWindow(d_), [&](Window w, const XWindowAttributes& a) {
+        return a.width < todo && EsTitulo(Propiedad(d_, w, "_NET_WM_NAME"), titulo);
+    });
+}
+
+bool Escritorio::Ping(int milisegundos) {
+    Window w = 0;
+    Recorre(d_, DefaultRootWindow(d_), [&](Window v, const XWindowAttributes&) {
+        if (ContestaPing(d_, v)) w = v;
+        return w != 0;
+    });
+    if (!w) return false;
+    XEvent e{};
+    e.xclient.type = ClientMessage;
+    e.xclient.window = w;
+    e.xclient.message_type = XInternAtom(d_, "WM_PROTOCOLS", False);
+    e.xclient.format = 32;
+    const long marca = ++ping_;
+    e.xclient.data.l[0] = static_cast<long>(XInternAtom(d_, "_NET_WM_PING", False));
+    e.xclient.data.l[1] = marca;
+    e.xclient.data.l[2] = static_cast<long>(w);
+    XSendEvent(d_, w, False, NoEventMask, &e);
+    XFlush(d_);
+    return Espera(
+        [&] {
+            while (XPending(d_)) {
+                XEvent r{};
+                XNextEvent(d_, &r);
+                if (r.type == ClientMessage && r.xclient.data.l[1] == marca) return true;
+            }
+            return false;
+        },
+        milisegundos);
+}
+
+void Escritorio::EsperaAtendido(int tope) {
+    const auto fin = Reloj::now() + std::chrono::milliseconds(tope);
+    // An answer tells that what came before has been read; the next one, that it has been handled.
+    for (int vez = 0; vez < 2 && Reloj::now() < fin;) vez += Ping(1000) ? 1 : 0;
 }
 
 bool Escritorio::Espera(const std::function<bool()>& condicion, int milisegundos) {
@@ -223,6 +293,7 @@ bool Escritorio::Espera(const std::function<bool()>& condicion, int milisegundos
 }
 
 void Escritorio::EsperaQuieto(int milisegundos, int tope) {
+    EsperaAtendido(tope);
     Foto antes = Mira();
     auto desde = Reloj::now();
     const auto fin = desde + std::chrono::milliseconds(tope);

@@ -44,19 +44,25 @@ public:
     void Arrastra(int x0, int y0, int x1, int y1, int pasos = 8);
     void Tecla(const char* nombre);  // X name of the key: "Return", "v", "Escape", "space"
     Foto Mira();
-    // Is a window with this in its title on the screen?
+    // Is a window of this title on the screen? The table, which fills the screen, does not count.
     bool HayVentana(const std::string& titulo);
     // Waits until the condition holds, looking every few milliseconds. False: it never did.
-    bool Espera(const std::function<bool()>& condicion, int milisegundos = 8000);
-    // Waits until the screen has not changed for a while.
+    bool Espera(const std::function<bool()>& condicion, int milisegundos = 15000);
+    // Waits until the program has dealt with all input so far, and what it painted is seen. While a
+    // handler runs on with events let through, that counts as dealt with.
+    void EsperaAtendido(int tope = 20000);
+    // Waits for that, and until the screen has not changed for a while.
     void EsperaQuieto(int milisegundos = 250, int tope = 20000);
 
     const std::string& Nombre() const { return nombre_; }
 
 private:
+    bool Ping(int milisegundos);
+
     _XDisplay* d_ = nullptr;
     std::string nombre_;  // ":N"
     pid_t servidor_ = 0, gestor_ = 0;
+    long ping_ = 0;  // of the last one asked
 };
 
 // One saved piece, for building a game in progress.
