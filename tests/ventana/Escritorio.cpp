@@ -4,6 +4,7 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,6 +31,7 @@ pid_t Lanza(const std::vector<std::string>& orden, const std::string& pantalla, 
             const std::string& carpeta = "") {
     const pid_t pid = fork();
     if (pid != 0) return pid;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // nothing outlives a test that is stopped
     if (!pantalla.empty()) setenv("DISPLAY", pantalla.c_str(), 1);
     unsetenv("WAYLAND_DISPLAY");
     setenv("QT_QPA_PLATFORM", "xcb", 1);
@@ -156,7 +158,7 @@ Escritorio::Escritorio(int ancho, int alto) {
     d_ = XOpenDisplay(nombre_.c_str());
     if (!d_) throw std::runtime_error("cannot open the private display");
     // The answers to the pings come to the root window.
-    XSelectInput(d_, DefaultRootWindow(d_), SubstructureNotifyMask);
+    XSelectInput(d_, DefaultRootWindow(d_), StructureNotifyMask);
     gestor_ = Lanza({"openbox"}, nombre_, -1);
     // The manager announces itself on the root window.
     const Atom marca = XInternAtom(d_, "_NET_SUPPORTING_WM_CHECK", False);
@@ -196,7 +198,6 @@ void Escritorio::Suelta(int boton) {
 
 void Escritorio::Pulsa(int x, int y, int boton) {
     Mueve(x, y);
-    EsperaAtendido();
     // Both at once: on a busy machine no time may pass between them.
     XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), True, 0);
     XTestFakeButtonEvent(d_, static_cast<unsigned>(boton), False, 0);
@@ -231,10 +232,11 @@ Foto Escritorio::Mira() {
     XImage* im = XGetImage(d_, DefaultRootWindow(d_), 0, 0, static_cast<unsigned>(f.ancho),
                            static_cast<unsigned>(f.alto), AllPlanes, ZPixmap);
     if (!im) throw std::runtime_error("the screen cannot be read");
-    f.pixeles.reserve(static_cast<std::size_t>(f.ancho) * static_cast<std::size_t>(f.alto));
+    f.pixeles.resize(static_cast<std::size_t>(f.ancho) * static_cast<std::size_t>(f.alto));
+    unsigned* destino = f.pixeles.data();
     for (int y = 0; y < f.alto; ++y) {
         const auto* fila = reinterpret_cast<const unsigned*>(im->data + y * im->bytes_per_line);
-        for (int x = 0; x < f.ancho; ++x) f.pixeles.push_back(fila[x] & 0xFFFFFFU);
+        for (int x = 0; x < f.ancho; ++x) *destino++ = fila[x] & 0xFFFFFFU;
     }
     XDestroyImage(im);
     return f;
@@ -247,12 +249,17 @@ bool Escritorio::HayVentana(const std::string& titulo) {
     });
 }
 
-bool Escritorio::Ping(int milisegundos) {
+unsigned long Escritorio::VentanaDelPrograma() {
     Window w = 0;
     Recorre(d_, DefaultRootWindow(d_), [&](Window v, const XWindowAttributes&) {
         if (ContestaPing(d_, v)) w = v;
         return w != 0;
     });
+    return w;
+}
+
+bool Escritorio::Ping(int milisegundos) {
+    const Window w = VentanaDelPrograma();
     if (!w) return false;
     XEvent e{};
     e.xclient.type = ClientMessage;
@@ -278,9 +285,13 @@ bool Escritorio::Ping(int milisegundos) {
 }
 
 void Escritorio::EsperaAtendido(int tope) {
+    constexpr int SIN_VENTANAS = 400;  // for so long none to be seen: the program has ended
     const auto fin = Reloj::now() + std::chrono::milliseconds(tope);
     // An answer tells that what came before has been read; the next one, that it has been handled.
-    for (int vez = 0; vez < 2 && Reloj::now() < fin;) vez += Ping(1000) ? 1 : 0;
+    for (int vez = 0; vez < 2 && Reloj::now() < fin;) {
+        if (!Espera([&] { return VentanaDelPrograma() != 0; }, SIN_VENTANAS)) return;
+        vez += Ping(1000) ? 1 : 0;
+    }
 }
 
 bool Escritorio::Espera(const std::function<bool()>& condicion, int milisegundos) {
@@ -294,18 +305,12 @@ bool Escritorio::Espera(const std::function<bool()>& condicion, int milisegundos
 
 void Escritorio::EsperaQuieto(int milisegundos, int tope) {
     EsperaAtendido(tope);
-    Foto antes = Mira();
-    auto desde = Reloj::now();
-    const auto fin = desde + std::chrono::milliseconds(tope);
-    while (Reloj::now() < fin) {
-        Duerme(30);
+    const auto fin = Reloj::now() + std::chrono::milliseconds(tope);
+    for (Foto antes = Mira(); Reloj::now() < fin;) {
+        Duerme(milisegundos);
         Foto ahora = Mira();
-        if (ahora.pixeles != antes.pixeles) {
-            antes = std::move(ahora);
-            desde = Reloj::now();
-        } else if (Reloj::now() - desde > std::chrono::milliseconds(milisegundos)) {
-            return;
-        }
+        if (ahora.pixeles == antes.pixeles) return;
+        antes = std::move(ahora);
     }
 }
 
@@ -379,8 +384,8 @@ void Programa::EscribeGlobal(int juego, int velocidad, bool sonido, bool sugeren
 void Programa::EscribePartida(const PartidaGuardada& p) {
     Linea l(140);
     l.Pon(1, "Prueba   ");
-    l.Pon(10, Cifras(0x800000, 8));
-    l.Pon(18, Cifras(0x008000, 8));
+    l.Pon(10, Cifras(p.colorFondo, 8));
+    l.Pon(18, Cifras(p.colorPiezas, 8));
     l.Pon(26, Cifras(0xFFFFFF, 8));
     l.Pon(34, Logico(p.muestra));
     l.Pon(36, Cifras(0, 4));
@@ -389,9 +394,9 @@ void Programa::EscribePartida(const PartidaGuardada& p) {
     l.Pon(48, Cifras(p.porLado, 3));
     l.Pon(51, Cifras(p.forma, 2));
     l.Pon(53, Cifras(static_cast<int>(p.piezas.size()), 3));
-    l.Pon(56, Cifras(0, 8));
-    l.Pon(64, Logico(false));
-    l.Pon(66, Logico(false));
+    l.Pon(56, Cifras(p.segundos, 8));
+    l.Pon(64, Logico(p.terminado));
+    l.Pon(66, Logico(p.archivable));
     l.Pon(68, Cifras(p.modoJuego, 1));
     l.Pon(69, Cifras(p.tipoFondo, 1));
     l.Pon(72, Cifras(p.huecoX, 4));
@@ -516,6 +521,12 @@ PartidaLeida Programa::LeePartida(int juego) const {
     p.movimientos = Numero(fijo, 36, 4);
     p.segundos = Numero(fijo, 56, 8);
     p.terminado = fijo.substr(63, 2) == "-1";
+    p.archivable = fijo.substr(65, 2) == "-1";
+    p.muestra = fijo.substr(33, 2) == "-1";
+    p.modo = Numero(fijo, 68, 1);
+    p.huecoX = Numero(fijo, 72, 4);
+    p.huecoY = Numero(fijo, 76, 4);
+    p.imagen = lineas[2];
     for (int i = 0; i < n; ++i) {
         const std::string t = lineas[5].substr(static_cast<std::size_t>(i) * 23, 23);
         p.piezas.push_back({Numero(t, 1, 4), Numero(t, 5, 4), Numero(t, 9, 1), Numero(t, 10, 1),

@@ -57,6 +57,7 @@ public:
     const std::string& Nombre() const { return nombre_; }
 
 private:
+    unsigned long VentanaDelPrograma();  // one of its windows on the screen, 0: none
     bool Ping(int milisegundos);
 
     _XDisplay* d_ = nullptr;
@@ -78,7 +79,9 @@ struct PartidaGuardada {
     int porLado = 3, forma = 0, zoom = 100;
     int modoJuego = 1, tipoFondo = 2, modelo = 1;
     int huecoX = 0, huecoY = 0;
-    int factor = 20;
+    int factor = 20, segundos = 0;
+    int colorFondo = 0x800000, colorPiezas = 0x008000;  // blue, green, red
+    bool terminado = false, archivable = false;
     bool giro = true, borde = true, atraccion = true, muestra = false;
     std::vector<PiezaGuardada> piezas;  // piece 1 first
     std::vector<int> orden;             // stacking order, top first; empty: 1, 2, 3 ...
@@ -90,7 +93,10 @@ struct PartidaLeida {
     std::vector<int> orden;
     int movimientos = -1;
     int segundos = -1;
-    bool terminado = false;
+    int modo = -1;
+    int huecoX = -1, huecoY = -1;
+    bool terminado = false, archivable = false, muestra = false;
+    std::string imagen;
 };
 
 class Programa {

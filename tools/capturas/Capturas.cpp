@@ -1,0 +1,186 @@
+// Takes the pictures of README.md: lays a game in progress of each kind before the real program,
+// starts it on a private screen and keeps what it shows.
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "ventana/Escritorio.h"
+
+namespace {
+
+using namespace tessario::ventana;
+
+constexpr int ANCHO = 1024, ALTO = 768;
+
+// A place for a piece that is not placed yet.
+struct Sitio {
+    int x, y, giro;
+};
+
+// A jigsaw of n a side over a picture: the cells told by `fuera` lie about, the rest is in place.
+PartidaGuardada Rompecabezas(const char* imagen, int ancho, int alto, int n, int forma,
+                             const std::vector<int>& fuera, const std::vector<Sitio>& sitios) {
+    PartidaGuardada p;
+    p.imagen = imagen;
+    p.anchoImagen = ancho;
+    p.altoImagen = alto;
+    p.porLado = n;
+    p.forma = forma;
+    const bool curvada = forma == 1;  // curved cells have odd sides
+    const int celdaX = ancho / n - (curvada && ancho / n % 2 == 0 ? 1 : 0);
+    const int celdaY = alto / n - (curvada && alto / n % 2 == 0 ? 1 : 0);
+    for (int c = 0; c < n * n; ++c) {
+        PiezaGuardada q;
+        q.x = q.xBien = c % n * celdaX;
+        q.y = q.yBien = c / n * celdaY;
+        p.piezas.push_back(q);
+    }
+    for (std::size_t i = 0; i < fuera.size() && i < sitios.size(); ++i) {
+        auto& q = p.piezas[static_cast<std::size_t>(fuera[i])];
+        q.x = sitios[i].x;
+        q.y = sitios[i].y;
+        q.giro = sitios[i].giro;
+    }
+    // The loose ones on top.
+    for (int f : fuera) p.orden.push_back(f + 1);
+    for (int c = 1; c <= n * n; ++c)
+        if (std::find(p.orden.begin(), p.orden.end(), c) == p.orden.end()) p.orden.push_back(c);
+    return p;
+}
+
+// A sliding board of 4 with a picture, shuffled by moves.
+PartidaGuardada Deslizantes(const char* imagen) {
+    constexpr int N = 4, CELDA = 117, MARGEN_X = 207, MARGEN_Y = 117;  // as laid on this screen
+    PartidaGuardada p;
+    p.juego = 22;
+    p.imagen = imagen;
+    p.anchoImagen = p.altoImagen = N * CELDA;
+    p.porLado = N;
+    p.tipoFondo = 1;
+    std::vector<int> celdas(N * N);
+    for (int i = 0; i < N * N - 1; ++i) celdas[static_cast<std::size_t>(i)] = i + 1;
+    int hueco = N * N - 1;
+    for (const char paso : std::string("ULURULDRDLLURRULLDDRURDLL")) {
+        const int otro = hueco + (paso == 'U' ? -N : paso == 'D' ? N : paso == 'L' ? -1 : 1);
+        if (otro < 0 || otro >= N * N || (otro / N != hueco / N && (paso == 'L' || paso == 'R')))
+            continue;
+        std::swap(celdas[static_cast<std::size_t>(hueco)], celdas[static_cast<std::size_t>(otro)]);
+        hueco = otro;
+    }
+    const auto x = [](int c) { return MARGEN_X + c % N * CELDA; };
+    const auto y = [](int c) { return MARGEN_Y + c / N * CELDA; };
+    p.piezas.resize(N * N - 1);
+    for (int c = 0; c < N * N; ++c) {
+        const int k = celdas[static_cast<std::size_t>(c)];
+        if (k == 0) {
+            p.huecoX = x(c);
+            p.huecoY = y(c);
+        } else {
+            p.piezas[static_cast<std::size_t>(k - 1)] = {x(c),     y(c),     0, 0,
+                                                         x(k - 1), y(k - 1), 0, 0};
+        }
+    }
+    return p;
+}
+
+// A model of the supplied file, four pieces laid and three waiting.
+PartidaGuardada Tangram(const Programa& programa, int modelo) {
+    constexpr std::size_t REGISTRO = 126, NOMBRE = 25, BLOQUE = 10;
+    std::ifstream f(programa.Carpeta() + "Archivo/Modelos.tpu", std::ios::binary);
+    const std::string datos{std::istreambuf_iterator<char>(f), {}};
+    const auto numero = [&](std::size_t donde, std::size_t cifras) {
+        return std::stoi(datos.substr(donde, cifras));
+    };
+    PartidaGuardada p;
+    p.juego = 23;
+    p.porLado = 5;
+    p.modoJuego = 2;
+    p.modelo = modelo;
+    p.colorFondo = 0x604020;
+    p.colorPiezas = 0x30A0E8;
+    for (std::size_t i = 0; i < 7; ++i) {
+        const std::size_t b = static_cast<std::size_t>(modelo - 1) * REGISTRO + NOMBRE + i * BLOQUE;
+        PiezaGuardada q;
+        q.x = q.xBien = numero(b, 4);
+        q.y = q.yBien = numero(b + 4, 4);
+        q.giro = q.giroBien = numero(b + 8, 1);
+        q.volteo = q.volteoBien = numero(b + 9, 1);
+        p.piezas.push_back(q);
+    }
+    const struct {
+        std::size_t pieza;
+        Sitio sitio;
+    } esperan[] = {{1, {560, 120, 1}}, {3, {720, 420, 2}}, {6, {520, 560, 1}}};
+    for (const auto& e : esperan) {
+        p.piezas[e.pieza].x = e.sitio.x;
+        p.piezas[e.pieza].y = e.sitio.y;
+        p.piezas[e.pieza].giro = e.sitio.giro;
+    }
+    return p;
+}
+
+bool Toma(const char* nombre, int juego, const std::function<PartidaGuardada(Programa&)>& partida) {
+    Escritorio e(ANCHO, ALTO);
+    Programa programa(e);
+    programa.EscribeGlobal(juego, 100);
+    PartidaGuardada p = partida(programa);
+    p.segundos = 754;
+    programa.EscribePartida(p);
+    if (!programa.Arranca()) {
+        std::fprintf(stderr, "the program did not come up for %s\n", nombre);
+        return false;
+    }
+    e.Mueve(ANCHO - 5, ALTO - 5);
+    e.EsperaQuieto();
+    e.Mira().Guarda(nombre);
+    return true;
+}
+
+}  // namespace
+
+int main() {
+    const bool bien =
+        Toma("mesa", 21,
+             [](Programa&) {
+                 return Rompecabezas("Puerto.jpg", 640, 480, 6, 2,
+                                     {3, 8, 10, 13, 16, 17, 21, 23, 26, 28, 32, 33, 35},
+                                     {{720, 30, 0},
+                                      {740, 150, 1},
+                                      {705, 290, 2},
+                                      {30, 540, 0},
+                                      {190, 560, 3},
+                                      {320, 530, 0},
+                                      {480, 545, 1},
+                                      {600, 570, 0},
+                                      {770, 520, 2},
+                                      {900, 560, 0},
+                                      {90, 660, 0},
+                                      {350, 655, 2},
+                                      {690, 665, 0}});
+             }) &&
+        Toma("moviles", 21,
+             [](Programa&) {
+                 PartidaGuardada p =
+                     Rompecabezas("Globos.jpg", 640, 480, 5, 1, {2, 6, 9, 12, 14, 18, 20, 23},
+                                  {{715, 40, 0},
+                                   {730, 190, 1},
+                                   {700, 370, 0},
+                                   {40, 540, 2},
+                                   {220, 560, 0},
+                                   {390, 540, 3},
+                                   {540, 620, 0},
+                                   {60, 650, 0}});
+                 p.muestra = true;
+                 p.colorFondo = 0x385838;
+                 return p;
+             }) &&
+        Toma("deslizantes", 22,
+             [](Programa&) {
+                 PartidaGuardada p = Deslizantes("Jardin.jpg");
+                 p.colorFondo = 0x402848;
+                 return p;
+             }) &&
+        Toma("tangram", 23, [](Programa& programa) { return Tangram(programa, 50); });
+    return bien ? 0 : 1;
+}
