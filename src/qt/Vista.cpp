@@ -195,15 +195,26 @@ bool Vista::EventoDeRaton(QEvent* e, bool interior) {
             Suelta(m->button(), m->position());
             break;
         default:
+            Apunta(m->buttons() & ~m->button(), m->modifiers(), m->position());
             Aprieta(m->button(), m->modifiers(), m->position(),
                     e->type() == QEvent::MouseButtonDblClick && !interior);
     }
     return true;
 }
 
+// A press always follows a move to its point, so that what hovering decides is fresh: a window may
+// have come up, or the game gone on, under a pointer that stood still.
+void Vista::Apunta(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p) {
+    if (!control_.MouseMove) return;
+    anfitrion().Entrega([&] {
+        control_.MouseMove(BotonesDe(b), ShiftDe(m), static_cast<float>(p.x()),
+                           static_cast<float>(p.y()));
+    });
+}
+
 void Vista::Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble) {
     const i16 boton = BotonDe(b);
-    if (!boton) return;
+    if (!boton || !Viva()) return;
     anfitrion().RevisaPulsadas();
     if (!Viva()) return;
     anfitrion().AnotaPulsada(this, b);
@@ -224,11 +235,7 @@ void Vista::Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p) {
     if (b == Qt::NoButton) anfitrion().RevisaPulsadas();
     if (!Viva()) return;
     if (b & Qt::LeftButton) AlArrastrar(p);
-    if (control_.MouseMove)
-        anfitrion().Entrega([&] {
-            control_.MouseMove(BotonesDe(b), ShiftDe(m), static_cast<float>(p.x()),
-                               static_cast<float>(p.y()));
-        });
+    Apunta(b, m, p);
 }
 
 void Vista::Suelta(Qt::MouseButton b, QPointF p) {
@@ -266,6 +273,7 @@ void Vista::PulsaConTeclado() {
         if (Viva() && control_.Enabled && evento)
             anfitrion().Entrega([&] { evento(BOTON_IZQUIERDO, 0, x, y); });
     };
+    Apunta(Qt::NoButton, {}, {x, y});
     entrega(control_.MouseDown);
     entrega(control_.MouseUp);
     if (Viva() && control_.Enabled && control_.Click) anfitrion().Entrega(control_.Click);

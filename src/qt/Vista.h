@@ -53,6 +53,7 @@ protected:
 
 private:
     bool EventoDeRaton(QEvent* e, bool interior);
+    void Apunta(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
     void Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble);
     void Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
     void Foco(bool entra, Qt::FocusReason razon);

@@ -263,6 +263,10 @@ void VistaVentana::Raton(QMouseEvent& m) {
         return;
     }
     if (!BotonDe(m.button())) return;
+    // As with the controls, a press always follows a move to its point.
+    const i16 otros = BotonesDe(m.buttons() & ~m.button());
+    if (ventana_.MouseMove) anfitrion_.Entrega([&] { ventana_.MouseMove(otros, shift, x, y); });
+    if (!viva_) return;
     anfitrion_.RevisaPulsadas();
     if (!viva_) return;
     anfitrion_.AnotaPulsada(this, m.button());

@@ -59,6 +59,27 @@ TEST_F(VistaDeCuadro, PressMoveReleaseAndClickArriveInItsOwnPixels) {
     EXPECT_EQ(diario, "abajo1(10,5) mueve1(12,10) arriba1(12,10) click ");
 }
 
+TEST_F(VistaDeCuadro, APressFollowsAMoveToItsPointEvenUnderAPointerThatStoodStill) {
+    Abre(v, {&c});
+    Mueve(v, 110, 55);
+    Eventos();
+    diario.clear();
+    c.MouseMove = [this](i16 b, i16, float x, float y) { Anota("mueve", b, x, y); };
+    Aprieta(v, 110, 55);
+    EXPECT_EQ(diario, "mueve0(10,5) abajo1(10,5) ");
+    Suelta(v, 110, 55);
+}
+
+TEST_F(VistaDeCuadro, APressFromTheKeyboardFollowsAMoveToo) {
+    c.MouseMove = [this](i16 b, i16, float x, float y) { Anota("mueve", b, x, y); };
+    c.TabStop = true;
+    Abre(v, {&c});
+    Tecla(v, Qt::Key_Tab);
+    diario.clear();
+    Tecla(v, Qt::Key_Space);
+    EXPECT_EQ(diario, "mueve0(30,20) abajo1(30,20) arriba1(30,20) click ");
+}
+
 TEST_F(VistaDeCuadro, TheRightButtonClicksTooAfterItsRelease) {
     Abre(v, {&c});
     Pulsa(v, 110, 55, Qt::RightButton);

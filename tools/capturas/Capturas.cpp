@@ -11,7 +11,10 @@ namespace {
 
 using namespace tessario::ventana;
 
-constexpr int ANCHO = 1024, ALTO = 768;
+struct Pantalla {
+    int ancho, alto;
+};
+constexpr Pantalla GRANDE{1024, 768}, CHICA{800, 600};
 
 // A place for a piece that is not placed yet.
 struct Sitio {
@@ -111,7 +114,7 @@ PartidaGuardada Tangram(const Programa& programa, int modelo) {
     const struct {
         std::size_t pieza;
         Sitio sitio;
-    } esperan[] = {{1, {560, 120, 1}}, {3, {720, 420, 2}}, {6, {520, 560, 1}}};
+    } esperan[] = {{1, {330, 70, 1}}, {3, {520, 250, 2}}, {6, {330, 370, 1}}};
     for (const auto& e : esperan) {
         p.piezas[e.pieza].x = e.sitio.x;
         p.piezas[e.pieza].y = e.sitio.y;
@@ -120,8 +123,9 @@ PartidaGuardada Tangram(const Programa& programa, int modelo) {
     return p;
 }
 
-bool Toma(const char* nombre, int juego, const std::function<PartidaGuardada(Programa&)>& partida) {
-    Escritorio e(ANCHO, ALTO);
+bool Toma(const char* nombre, Pantalla pantalla, int juego,
+          const std::function<PartidaGuardada(Programa&)>& partida) {
+    Escritorio e(pantalla.ancho, pantalla.alto);
     Programa programa(e);
     programa.EscribeGlobal(juego, 100);
     PartidaGuardada p = partida(programa);
@@ -131,7 +135,7 @@ bool Toma(const char* nombre, int juego, const std::function<PartidaGuardada(Pro
         std::fprintf(stderr, "the program did not come up for %s\n", nombre);
         return false;
     }
-    e.Mueve(ANCHO - 5, ALTO - 5);
+    e.Mueve(pantalla.ancho - 5, pantalla.alto - 5);
     e.EsperaQuieto();
     e.Mira().Guarda(nombre);
     return true;
@@ -141,7 +145,7 @@ bool Toma(const char* nombre, int juego, const std::function<PartidaGuardada(Pro
 
 int main() {
     const bool bien =
-        Toma("mesa", 21,
+        Toma("mesa", GRANDE, 21,
              [](Programa&) {
                  return Rompecabezas("Puerto.jpg", 640, 480, 6, 2,
                                      {3, 8, 10, 13, 16, 17, 21, 23, 26, 28, 32, 33, 35},
@@ -159,7 +163,7 @@ int main() {
                                       {350, 655, 2},
                                       {690, 665, 0}});
              }) &&
-        Toma("moviles", 21,
+        Toma("moviles", GRANDE, 21,
              [](Programa&) {
                  PartidaGuardada p =
                      Rompecabezas("Globos.jpg", 640, 480, 5, 1, {2, 6, 9, 12, 14, 18, 20, 23},
@@ -175,12 +179,12 @@ int main() {
                  p.colorFondo = 0x385838;
                  return p;
              }) &&
-        Toma("deslizantes", 22,
+        Toma("deslizantes", GRANDE, 22,
              [](Programa&) {
                  PartidaGuardada p = Deslizantes("Jardin.jpg");
                  p.colorFondo = 0x402848;
                  return p;
              }) &&
-        Toma("tangram", 23, [](Programa& programa) { return Tangram(programa, 50); });
+        Toma("tangram", CHICA, 23, [](Programa& programa) { return Tangram(programa, 50); });
     return bien ? 0 : 1;
 }
