@@ -97,6 +97,7 @@ void TrasladaAjustes(const std::string& medio) {
 // Offers to change the mode of a narrow display. False when the player would rather leave.
 bool CompruebaPantalla() {
     Plataforma& s = Sistema();
+    // Deliberate: the message speaks of height and colours too, but only the width is asked for.
     if (s.AnchoPantalla() >= ANCHO_MINIMO) return true;
     Avisa(aviso::RESOLUCION, {Derecha(s.AnchoPantalla(), 3), Derecha(s.AltoPantalla(), 3)});
     if (!Gbl.RespuestaMensaje) return false;

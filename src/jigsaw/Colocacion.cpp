@@ -11,6 +11,7 @@
 #include "sliding/Tablero.h"
 #include "table/Cronometro.h"
 #include "table/Grabadora.h"
+#include "table/Raton.h"
 
 namespace tessario {
 
@@ -49,14 +50,12 @@ void MuestraCeldas() {
 void OrientaPieza(i16 piece) {
     const Pieza& z = Gbl.Piezas[piece];
     if (z.Volteo != z.VolteoBien) {
-        if (Pic_Trabajo.KeyPress) Pic_Trabajo.KeyPress(TECLA_V);
+        Sigue([] { Pic_Trabajo_KeyPress(TECLA_V); });
         Pausa(PAUSA_GIRO);
     }
     if (z.Giro != z.GiroBien) {
         Gbl.PiezaActual = piece;
-        if (Pic_Trabajo.MouseDown)
-            Pic_Trabajo.MouseDown(BOTON_DERECHO, 0, static_cast<float>(z.X),
-                                  static_cast<float>(z.Y));
+        Sigue([&] { Pic_Trabajo_MouseDown(BOTON_DERECHO, 0, z.X, z.Y); });
         Pausa(PAUSA_GIRO);
     }
 }

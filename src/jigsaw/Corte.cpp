@@ -39,8 +39,8 @@ void PreparaMuestra() {
     Pic_Muestra.Visible = Gbl.MostrarMuestra;
 }
 
-// The empty table with the picture's frame, of which only the right and the bottom side exist: the
-// others lie on the table's own edge.
+// The empty table with the picture's frame. Deliberate: of this only the right and the bottom side
+// are drawn; the others lie on the table's own edge.
 void PreparaMesa() {
     const i32 ancho = std::max(Pic_Bitmap.Width() + MESA_LIBRE, BarraVer.Left);
     const i32 alto = std::max(Pic_Bitmap.Height() + MESA_LIBRE, BarraHor.Top);

@@ -85,6 +85,7 @@ Arco ArcoDe(const ArcoIrregular& a, double x, double y) {
 
 // Margins and box of a piece, and the empty surface for the templates.
 void PreparaPlantillas(double saliente) {
+    // Deliberate: crossed, the one to the sides from the cell's height, the other from its width.
     Gbl.SalienteX = Entero(Gbl.AltoCelda * saliente);
     Gbl.SalienteY = Entero(Gbl.AnchoCelda * saliente);
     Gbl.AnchoPieza = Corto(Gbl.AnchoCelda + 2 * Gbl.SalienteX);

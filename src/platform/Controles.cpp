@@ -74,6 +74,7 @@ void Spin::Pon(i16 v) {
 }
 
 void Pulsa(Control& c) {
+    if (c.MouseMove) c.MouseMove(0, 0, 0, 0);
     if (c.MouseDown) c.MouseDown(BOTON_IZQUIERDO, 0, 0, 0);
 }
 

@@ -199,7 +199,7 @@ struct Ventana : Superficie {
     std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
 };
 
-// Presses a control on the player's behalf: its MouseDown with the left button at (0, 0), if set.
+// Presses a control on the player's behalf at (0, 0): a move to the point, then its MouseDown.
 void Pulsa(Control& c);
 
 }  // namespace tessario

@@ -139,7 +139,8 @@ bool Busqueda::Genera(i32 m, u8 pieza, i32& nuevo) {
     nuevo = NumNodos();
     const u8 celda = n.celdas[pieza];
     const u8 hueco = n.celdas[0];
-    // How far from the piece that is being brought home, before the move.
+    // Deliberate: a move is charged by its distance, before it, from the piece that is being
+    // brought home, and not as one: moves near that piece are cheap.
     const i32 d = sinCamino_ ? 0 : Distancia(celda, n.celdas[static_cast<std::size_t>(meta_)]);
     i32 resto = n.resto;
     if (pieza <= meta_) {

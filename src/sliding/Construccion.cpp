@@ -28,8 +28,8 @@ constexpr i32 CRECE_MARCO = 3;  // by how much its sides are longer than the boa
 
 constexpr i32 BORDE_MUESTRA = 15;  // from the sample view to the screen's edges
 
-// Paints the board's part of the picture on a rectangle. The picture in Pic_FonTamModi lies behind
-// the margins, at the place of the board on the table.
+// Paints the board's part of the picture on a rectangle. Deliberate: the picture in Pic_FonTamModi
+// is taken from the margins on, not from its corner.
 void EstiraImagen(Superficie& destino, i32 x, i32 y, i32 ancho, i32 alto) {
     const i32 anchoImagen = Pic_FonTamModi.Width() - Gbl.MargenX;
     const i32 altoImagen = Pic_FonTamModi.Height() - Gbl.MargenY;

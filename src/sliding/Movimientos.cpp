@@ -68,6 +68,7 @@ i16 SorteaVecino(i16 previa) {
 void SaleDeOrdenManual() {
     if (TieneSolucion()) {
         CalculaDificultad();
+        ColocaPiezas(1);
         ReiniciaPartida();
         return;
     }
@@ -107,6 +108,7 @@ bool CursorDeslizante(i16 piece) {
 void PulsaDeslizante() {
     if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
     CambiaCrono(CRONO_EN_MARCHA);
+    // Deliberate: ArrastrandoPieza stays set after the run: the release closes the move.
     JuegaPieza(Gbl.PiezaActual, true);
     HuecoAlOrigen();
 }

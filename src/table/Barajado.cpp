@@ -133,6 +133,7 @@ i32 LineaLateral::Avanza(i32 ancho, i32 alto) {
         const i32 tope = FondoLibre();
         if (cy + Gbl.PasoOrdenar > tope) cy = tope - Gbl.PasoOrdenar;
         limite = cy;
+        dh = 0;
         vertical = false;
     }
     if (vertical) return dh;

@@ -166,6 +166,7 @@ void Tic() {
         if (Gbl.SegundosJuego < std::numeric_limits<i32>::max()) ++Gbl.SegundosJuego;
         PintaTiempo();
     }
+    // Deliberate: nothing shows this hint; the test stands for one that may come.
     if (Gbl.SugerenciaActual == SUGERENCIA_TUTOR && !Gbl.TutorEsperando)
         Sugerencia(SUGERENCIA_AJUSTES);
     if (Gbl.SugerenciaActual == SUGERENCIA_MUESTRA && Gbl.MostrarMuestra)

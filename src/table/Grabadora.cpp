@@ -111,6 +111,7 @@ void PulsaMando() {
     Gbl.AutoAtras = Gbl.AutoAdelante = false;  // an automatic run under this press ends
     PonPuntero(Mesa, PUNTERO_RELOJ);
     Pausa(10);
+    // Deliberate: nothing is lost by switching off; only Restore keeps an earlier position.
     while (Gbl.NumMovimientos < Gbl.FinMovimientos) ReproduceMovimiento(ADELANTE);
     ApagaGrabadora();
 }
@@ -202,6 +203,8 @@ void ReproduceMovimiento(i16 sentido) {
 void EnciendeGrabadora() {
     PintaTecla(Mando, true);
     Gbl.GrabadoraEncendida = true;
+    // Deliberate: the commands remember the clock in the same place, so that one of them, such as
+    // the help, leaves it stopped when the recorder is switched off afterwards.
     Gbl.CronoAntes = Gbl.CronoEnMarcha;
     CambiaCrono(2);
     Gbl.FinMovimientos = Gbl.NumMovimientos;

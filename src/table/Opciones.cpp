@@ -109,6 +109,8 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
     Pic_SelOpciones.Visible = false;
     const i16 opcion = OpcionDeFila(Gbl.OpcionResaltada);
     if (opcion < 1 || opcion > OPCION_MODELO) return;
+    // Deliberate: only loading and saving wait for the recorder; deleting and saving a model do
+    // not.
     if (opcion <= 2 && Gbl.GrabadoraEncendida) {
         Mensaje("Grabadora encendida",
                 "Tiene que apagar la Grabadora de jugadas antes de poder cargar o guardar un "

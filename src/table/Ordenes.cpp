@@ -287,6 +287,7 @@ void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y) {
     SonidoJuego(0, SONIDO_BOTON);
     TerminaOtrasOrdenes(Index);
     if (!DejaOrdenManual(Index)) {
+        Pic_Boton_MouseMove(ORDEN_ORDENAR, Button, Shift, X, Y);  // its state must be fresh
         Pic_Boton_MouseDown(ORDEN_ORDENAR, Button, Shift, X, Y);
         return;
     }

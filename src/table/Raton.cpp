@@ -225,6 +225,7 @@ void SueltaPieza() {
     const i16 piece = Gbl.OrdenPiezas[1];
     if (Gbl.JuegoActual == JuegoTangram) {
         Sigue([] { TDesolapaPieza(); });
+        // Deliberate: what had to be pushed off its neighbours is not drawn back to them.
         if (Gbl.AtraccionPiezas && Gbl.TEmpujes == 0) Sigue([] { PegaDosPiezas(); });
     }
     const bool conSitio = Gbl.JuegoActual == JuegoMoviles ||
@@ -236,6 +237,7 @@ void SueltaPieza() {
     Sigue([&] { PintaPieza(Pic_Imagen, piece); });
     Sigue([&] { PintaPieza(Pic_Trabajo, piece); });
     Sigue([] { MuestraColocadas(); });
+    // Deliberate: a board that is finished while it is being set up by hand ends nothing.
     if (Gbl.PiezasColocadas == Gbl.NumPiezas && !Gbl.OrdenManual) Sigue([] { FinDeJuego(); });
 }
 
@@ -324,6 +326,7 @@ void Pic_Trabajo_Click() {
     const bool derecho =
         Gbl.BotonPulsado == BOTON_DERECHO && !Gbl.GrabadoraEncendida && !Gbl.GirandoPieza;
     if ((derecho || Gbl.ResolviendoPuzzle) && Gbl.PiezaActual == 0) {
+        // Deliberate: an option that has become active stays so until the program ends.
         for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
         if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR)
             Gbl.OpcionesActivas[OPCION_MODELO] = true;

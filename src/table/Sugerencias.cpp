@@ -178,7 +178,7 @@ void CargaSugerencias() {
 
 void Sugerencia(i16 n) {
     if (!Gbl.VentanaInformacion) return;
-    // The panel lies on the table and follows only its vertical scroll.
+    // Deliberate: the panel lies on the table and follows only its vertical scroll.
     Pic_Sugerencia.Tamano(ANCHO_PANEL, ALTO_PANEL);
     Pic_Sugerencia.Mueve(0, BarraHor.Top - ALTO_PANEL + BarraVer.Value);
     Pic_Sugerencia.PonBackColor(FONDO_PANEL);
@@ -201,7 +201,7 @@ void Pic_SugeMasAyuda_MouseDown(i16, i16, float, float) {
 
 void Pic_SugeBotCerrar_MouseDown(i16, i16, float, float) {
     if (Gbl.ContextoAyuda != CONTEXTO_CIERRE) {
-        // The first press only tells how the panel is switched on again.
+        // Deliberate: the first press only tells how the panel is switched on again.
         Sugerencia(SUGERENCIA_CIERRE);
         return;
     }

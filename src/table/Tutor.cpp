@@ -58,10 +58,10 @@ void TutorIndicando() {
     Pausa(PAUSA_ANTES);
     if (Gbl.JuegoActual == JuegoMoviles) {
         Pic_Trabajo.DrawMode = MODO_INVIERTE;
-        for (i32 i = 0; i < DESTELLOS; ++i) DestelloMoviles(id);
+        for (i32 i = 0; i < DESTELLOS; ++i) Sigue([&] { DestelloMoviles(id); });
         Pic_Trabajo.DrawMode = MODO_COPIA;
     } else if (Gbl.JuegoActual == JuegoTangram) {
-        for (i32 i = 0; i < DESTELLOS; ++i) DestelloTangram(id);
+        for (i32 i = 0; i < DESTELLOS; ++i) Sigue([&] { DestelloTangram(id); });
     }
     Gbl.PuzzleArchivable = false;
     Gbl.TutorEsperando = false;

@@ -159,6 +159,8 @@ bool Deshace(i16 direccion) {
 // the last push, and shaken once the piece is caught among others.
 i32 ItemDesde(const Salidas& s, i32 i) {
     if (Deshace(s[static_cast<std::size_t>(i)].direccion)) ++i;
+    // Deliberate: past these pushes their count shakes the choice, which gets a piece out of a
+    // ring.
     if (Gbl.TEmpujes > EMPUJES_EN_CALMA) {
         i += Gbl.TEmpujes % 7;
         if (i > 7) i -= DIRECCIONES;

@@ -1,6 +1,5 @@
 #include "core/PuzzBas.h"
 #include "jigsaw/Colocacion.h"
-#include "jigsaw/Giro.h"
 #include "jigsaw/MesaMoviles.h"
 
 namespace tessario {
@@ -11,15 +10,7 @@ constexpr Pixel VERDE = 0x00FF00, ROJO = 0xFF0000;
 
 }  // namespace
 
-class Colocacion : public MesaMoviles {
-protected:
-    void SetUp() override {
-        MesaMoviles::SetUp();
-        Pic_Trabajo.MouseDown = [](i16 Button, i16, float, float) {
-            if (Button == BOTON_DERECHO) GiraPieza();
-        };
-    }
-};
+class Colocacion : public MesaMoviles {};
 
 TEST_F(Colocacion, PlacedPiecesAreGreenAndTheOthersRed) {
     Monta(0, 3, 300, 240);
@@ -79,6 +70,19 @@ TEST_F(Colocacion, SlidingPiecesAreRightByPositionAlone) {
     for (i16 p = 3; p <= 8; ++p) EXPECT_EQ(color(p), VERDE) << p;
 }
 
+TEST_F(Colocacion, EachPieceOfTheSolutionSoundsAndIsFollowedByItsPauses) {
+    Monta(0, 3, 300, 240);
+    Coloca(2, 100, 14, 0);  // one step of 14 below its place
+    Gbl.Movimientos.Redimensiona(100);
+    Gbl.ResolviendoPuzzle = true;
+    Gbl.VelocidadJuego = 50;
+    Gbl.Sonido = true;
+    const double antes = P().dormido;
+    ResuelvePuzzle();
+    EXPECT_EQ(P().sonidos, (std::vector<std::pair<i16, bool>>{{51, false}}));
+    EXPECT_DOUBLE_EQ(P().dormido - antes, 6 + 15) << "a step, and the rest after it";
+}
+
 TEST_F(Colocacion, SolvingPutsEveryPieceHomeTurnedAndLogged) {
     Monta(0, 3, 300, 240);
     Coloca(2, 400, 300, 1);
@@ -94,11 +98,15 @@ TEST_F(Colocacion, SolvingPutsEveryPieceHomeTurnedAndLogged) {
     EXPECT_FALSE(Gbl.ResolviendoPuzzle);
     EXPECT_FALSE(Gbl.TareaAutomatica);
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
-    ASSERT_EQ(Gbl.NumMovimientos, 2);
+    ASSERT_EQ(Gbl.NumMovimientos, 4) << "a turn and a run for each";
     EXPECT_EQ(Gbl.Movimientos[1].Pieza, 2);
-    EXPECT_EQ(Gbl.Movimientos[1].GiroAntes, 0) << "the turn came first";
-    EXPECT_EQ(Gbl.Movimientos[1].XDespues, 100);
-    EXPECT_EQ(Gbl.Movimientos[2].Pieza, 7);
+    EXPECT_EQ(Gbl.Movimientos[1].GiroAntes, 1);
+    EXPECT_EQ(Gbl.Movimientos[1].GiroDespues, 0);
+    EXPECT_EQ(Gbl.Movimientos[2].Pieza, 2);
+    EXPECT_EQ(Gbl.Movimientos[2].GiroAntes, 0) << "the turn came first";
+    EXPECT_EQ(Gbl.Movimientos[2].XDespues, 100);
+    EXPECT_EQ(Gbl.Movimientos[3].GiroAntes, 3);
+    EXPECT_EQ(Gbl.Movimientos[4].Pieza, 7);
 }
 
 TEST_F(Colocacion, ASecondPressStopsTheSolverAfterTheCurrentPiece) {

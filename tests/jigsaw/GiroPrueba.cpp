@@ -100,6 +100,30 @@ TEST_F(Giro, TangramTrianglesFollowTheirTables) {
     EXPECT_EQ(Gbl.Piezas[1].Y, 300);
 }
 
+TEST_F(Giro, EveryEighthOfATriangleHasItsOwnShift) {
+    Tangram();
+    // 89 wide: four tenths are 35.6, one tenth 8.9. By the new giro, from 0 on.
+    const struct {
+        i16 x, y;
+    } pasos[] = {{-36, -9}, {0, 9}, {36, -36}, {-36, 0}, {0, 36}, {36, -36}, {-9, 0}, {9, 36}};
+    for (i16 nuevo = 0; nuevo < 8; ++nuevo) {
+        Coloca(3, 500, 300, static_cast<i16>((nuevo + 7) % 8));
+        Gira(3);
+        EXPECT_EQ(Gbl.Piezas[3].Giro, nuevo);
+        EXPECT_EQ(Gbl.Piezas[3].X, 500 + pasos[nuevo].x) << nuevo;
+        EXPECT_EQ(Gbl.Piezas[3].Y, 300 + pasos[nuevo].y) << nuevo;
+    }
+}
+
+TEST_F(Giro, TangramPieceTurnedOntoAnotherIsPushedOff) {
+    Tangram();
+    Coloca(3, 500, 300, 0);
+    Coloca(6, 515, 320, 0);  // within the triangle however that lies
+    Gira(3);
+    EXPECT_GT(Gbl.TEmpujes, 0);
+    EXPECT_EQ(Gbl.Piezas[6].X, 515) << "only the turned one moves";
+}
+
 TEST_F(Giro, TheSquareAndTheParallelogramTurnAboutTheirBoxes) {
     Tangram();
     Coloca(6, 300, 300, 0);

@@ -120,6 +120,17 @@ TEST(Controles, PressIsTheLeftButtonAtTheCorner) {
     EXPECT_EQ(dado, (std::vector<float>{1, 0, 0, 0}));
 }
 
+TEST(Controles, PressFollowsAMoveToItsPoint) {
+    Control c;
+    std::string pasos;
+    c.MouseMove = [&](i16 boton, i16, float x, float y) {
+        pasos += boton == 0 && x == 0 && y == 0 ? "moved " : "elsewhere ";
+    };
+    c.MouseDown = [&](i16, i16, float, float) { pasos += "pressed"; };
+    Pulsa(c);
+    EXPECT_EQ(pasos, "moved pressed");
+}
+
 TEST(Controles, PictureBoxHasTheSizeOfItsSurface) {
     Cuadro c;
     c.Tamano(30, -4);

@@ -263,6 +263,27 @@ TEST_F(Barajado, RowThatIsFullGivesWayToAColumnFurtherIn) {
     }
 }
 
+TEST_F(Barajado, PieceThatFindsColumnAndRowFullSharesItsPlaceWithTheNext) {
+    Moviles(5, 500, 500);  // cells of 100, step 100
+    Apila(560, 200);
+    MuestraColocadas();
+    Pic_Botonera.Left = 110;
+    Gbl.VentanaInformacion = true;
+    Pic_Sugerencia.Top = 200;
+    Gbl.OrdenandoPiezas = true;
+    OrdenaLaterales();
+    // 25 loose: c = 8, f = 110 / 8 / 100 = 0.1375, 13 pixels a piece. Column at 10: 15 pieces end
+    // at 195. The next would end at 208, and a row at y = 100 has no room left of 10: column at
+    // round(10 - 13.75) = -4 from the top, where the drop to the next one is 0.
+    EXPECT_EQ(Gbl.Piezas[15].X, 10);
+    EXPECT_EQ(Gbl.Piezas[15].Y, 182);
+    for (const i32 i : {16, 17}) {
+        EXPECT_EQ(Gbl.Piezas[i].X, -4) << i;
+        EXPECT_EQ(Gbl.Piezas[i].Y, 0) << i;
+    }
+    EXPECT_EQ(Gbl.Piezas[18].Y, 13);
+}
+
 TEST_F(Barajado, ArrangementStaysAboveTheHintPanel) {
     Gbl.VentanaInformacion = true;
     Moviles(3, 300, 300);

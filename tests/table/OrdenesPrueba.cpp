@@ -658,4 +658,53 @@ TEST_F(Ordenes, SolverFinishesTheTangramModel) {
     EXPECT_TRUE(Gbl.PuzzleTerminado);
 }
 
+TEST_F(Ordenes, SolverTurnsTheParallelogramOverAndEveryPieceInOneStep) {
+    Tangram(MODO_RESOLVER);
+    Gbl.Piezas[7].VolteoBien = 1;
+    Gbl.Piezas[3].GiroBien = 4;
+    PulsaOrden(12);
+    EXPECT_EQ(Gbl.PiezasColocadas, 7);
+    EXPECT_EQ(Gbl.Piezas[7].Volteo, 1);
+    EXPECT_EQ(Gbl.Piezas[3].Giro, 4);
+    i32 vueltas = 0, giros = 0;
+    for (i16 i = 1; i <= Gbl.NumMovimientos; ++i) {
+        const Movimiento& m = Gbl.Movimientos[i];
+        if (m.Pieza == 7 && m.VolteoAntes == 0 && m.VolteoDespues == 1) ++vueltas;
+        if (m.Pieza == 3 && m.GiroAntes == 0 && m.GiroDespues == 4) ++giros;
+    }
+    EXPECT_EQ(vueltas, 1);
+    EXPECT_EQ(giros, 1);
+    EXPECT_EQ(Gbl.NumMovimientos, 7 + 2) << "seven runs home, one turning over, one turn";
+}
+
+TEST_F(Ordenes, TangramShowsPlacedPiecesWithTheirOutlinesIfTheyAreDrawn) {
+    for (const bool borde : {true, false}) {
+        Tangram(MODO_RESOLVER);
+        Gbl.DibujarBorde = borde;
+        PulsaOrden(10);
+        ASSERT_TRUE(Gbl.MostrandoColocadas);
+        const Rect caja = CajaDePieza(6);
+        i32 rojos = 0, borden = 0;
+        for (i32 y = caja.Arr; y < caja.Aba; ++y)
+            for (i32 x = caja.Izq; x < caja.Der; ++x) {
+                rojos += Pic_Trabajo.Point(x, y) == 0x0000FF;
+                borden += Pic_Trabajo.Point(x, y) == Gbl.ColorContraste;
+            }
+        EXPECT_GT(rojos, 60 * 60);
+        EXPECT_EQ(borden > 0, borde);
+        PulsaOrden(10);
+    }
+}
+
+TEST_F(Ordenes, HandMadeBoardIsDrawnAnewWhenItBecomesThePuzzle) {
+    Deslizantes(3);
+    TableroResuelto();
+    Gbl.OrdenManual = true;
+    Pic_Imagen.Cls();  // whatever the table shows
+    Pic_Trabajo.Cls();
+    PulsaOrden(11);
+    EXPECT_FALSE(Gbl.OrdenManual);
+    EXPECT_NE(Pic_Trabajo.Point(Gbl.Piezas[1].X + 20, Gbl.Piezas[1].Y + 5), Gbl.ColorFondo);
+}
+
 }  // namespace tessario

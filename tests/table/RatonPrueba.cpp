@@ -332,6 +332,27 @@ TEST_F(RatonMesa, TableIsLockedWhileTheRecorderIsOn) {
     EXPECT_FALSE(Pic_SelOpciones.Visible);
 }
 
+TEST_F(RatonMesa, OptionsStayClosedWhileTheRecorderIsOn) {
+    Rompecabezas();
+    Gbl.GrabadoraEncendida = true;
+    Gbl.PiezaActual = 0;
+    Puntero.Pulsa(350, 350, BOTON_DERECHO);
+    EXPECT_FALSE(Pic_SelOpciones.Visible);
+    // Only under the solver do they open all the same.
+    Gbl.ResolviendoPuzzle = true;
+    Puntero.Pulsa(350, 350, BOTON_DERECHO);
+    EXPECT_TRUE(Pic_SelOpciones.Visible);
+}
+
+TEST_F(RatonMesa, PressOnTheTableEndsTheDisplayThoughItsButtonLastReadForbidden) {
+    Rompecabezas();
+    PulsaOrden(10);
+    ASSERT_TRUE(Gbl.MostrandoColocadas);
+    Gbl.BotonEstado[10] = BOTON_PROHIBIDO;  // as the pointer found it with the recorder on
+    Puntero.Pulsa(350, 350);
+    EXPECT_FALSE(Gbl.MostrandoColocadas);
+}
+
 TEST_F(RatonMesa, RightPressDuringADragDropsThePieceTurned) {
     Rompecabezas();
     Pon(2, 400, 100);

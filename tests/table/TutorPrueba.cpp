@@ -1,5 +1,5 @@
 // The tutor: three flashes of the place where a piece belongs, and what they leave unchanged.
-#include "apoyo/PlataformaPrueba.h"
+#include "apoyo/MesaMontada.h"
 #include "core/PuzzBas.h"
 #include "pieces/Superficies.h"
 #include "table/Tutor.h"
@@ -97,6 +97,38 @@ TEST_F(TutorDeJuego, SoundsThreeTimes) {
     TutorIndicando();
     ASSERT_EQ(P().sonidos.size(), 3U);
     for (const auto& s : P().sonidos) EXPECT_EQ(s.first, 55);
+}
+
+class TutorDelTangram : public MesaMontada {};
+
+TEST_F(TutorDelTangram, FlashesTheSilhouettesPartThreeTimesWhileThePieceIsAway) {
+    Tangram(MODO_RESOLVER);
+    Gbl.VelocidadJuego = 50;
+    // A corner of the square's place is covered by another piece, the opposite one is watched.
+    Pon(4, Gbl.Piezas[6].XBien - 10, Gbl.Piezas[6].YBien - 15);
+    const Punto sitio{Gbl.Piezas[6].XBien + 60, Gbl.Piezas[6].YBien + 60};
+    const Pieza antes = Gbl.Piezas[6];
+    const Punto suyo = PuntoDe(6), encima = PuntoDe(4);
+    const Color cuatro = Pic_Trabajo.Point(encima.x, encima.y);
+    Gbl.PiezaActual = 6;
+    Gbl.TutorEsperando = Gbl.PuzzleArchivable = true;
+    std::string lugar, pieza, vecina;
+    P().alDormir = [&] {
+        lugar += Pic_Trabajo.Point(sitio.x, sitio.y) == Gbl.ColorContraste ? 'x' : '.';
+        pieza += Pic_Trabajo.Point(suyo.x, suyo.y) == Gbl.ColorFondo ? '.' : 'x';
+        vecina += Pic_Trabajo.Point(encima.x, encima.y) == cuatro ? 'x' : '.';
+    };
+    P().sonidos.clear();
+    TutorIndicando();
+    EXPECT_EQ(lugar, "x.x.x.x") << "one pause before, two in each flash";
+    EXPECT_EQ(pieza, "x.x.x.x");
+    EXPECT_EQ(vecina, "xxxxxxx") << "the other pieces stay";
+    EXPECT_DOUBLE_EQ(P().dormido, 80 + 3 * (130 + 170));
+    EXPECT_EQ(Sonidos(), (std::vector<int>{55, 55, 55}));
+    EXPECT_EQ(Gbl.Piezas[6], antes);
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
+    EXPECT_FALSE(Gbl.TutorEsperando);
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
 }
 
 }  // namespace
