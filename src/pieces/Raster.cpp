@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/PuzzGbl.h"
-#include "pieces/RasterMascara.h"
+#include "pieces/Moldes.h"
 #include "pieces/Superficies.h"
 
 namespace tessario {
@@ -13,71 +13,42 @@ namespace {
 constexpr Pixel BLANCO = 0xFFFFFF;
 constexpr i32 LADO = 4;  // of the squares by which a surface is turned, pixels
 
-// One row of a piece's image: the source where the mask is black, 0 where it is white.
-void FilaEnmascarada(Pixel* destino, const Pixel* mascara, const Pixel* origen, i32 n) {
-    for (i32 x = 0; x < n; ++x) destino[x] = origen[x] & ~mascara[x];
+// Rows of the piece's two surfaces: the mask as it stands in its mould, the image from the source
+// where the mask is black, 0 where it is white.
+void EstampaFila(Pixel* mascara, Pixel* imagen, const Pixel* molde, const Pixel* origen, i32 n) {
+    std::copy_n(molde, n, mascara);
+    for (i32 x = 0; x < n; ++x) imagen[x] = origen[x] & ~molde[x];
 }
 
 // The same where the source has no pixels: the white ground shows through the mask.
-void FondoEnmascarado(Pixel* destino, const Pixel* mascara, i32 n) {
-    for (i32 x = 0; x < n; ++x) destino[x] = BLANCO & ~mascara[x];
+void EstampaFondo(Pixel* mascara, Pixel* imagen, const Pixel* molde, i32 n) {
+    std::copy_n(molde, n, mascara);
+    for (i32 x = 0; x < n; ++x) imagen[x] = BLANCO & ~molde[x];
 }
 
-// The piece's picture comes from where it belongs, not from where it lies: source copy and the
-// blackening of what is outside the mask (destination and not mask), in one pass.
-void CopiaCara(const Superficie& origen, i32 xo, i32 yo) {
-    const i32 w = Pic_PiezaMascara.Width(), h = Pic_PiezaMascara.Height();
-    Pic_PiezaImagen.TamanoLibre(w, h);
-    const Rect fuente = Interseccion(origen.Limites(), RectDe(xo, yo, w, h));
-    const i32 izq = fuente.Vacio() ? w : fuente.Izq - xo;
-    const i32 der = fuente.Vacio() ? w : fuente.Der - xo;
-    for (i32 y = 0; y < h; ++y) {
-        Pixel* destino = Pic_PiezaImagen.Fila(y);
-        const Pixel* mascara = Pic_PiezaMascara.Fila(y);
+// Both surfaces of a piece in one pass: the mask's copy, the source copy and the blackening of what
+// is outside the mask (destination and not mask). The picture at (xo, yo) of the source is where
+// the piece belongs, not where it lies. The border comes last.
+void Estampa(const VistaMascara& v, const Superficie& origen, i32 xo, i32 yo) {
+    Pic_PiezaMascara.TamanoLibre(v.Ancho, v.Alto);
+    Pic_PiezaImagen.TamanoLibre(v.Ancho, v.Alto);
+    const Rect fuente = Interseccion(origen.Limites(), RectDe(xo, yo, v.Ancho, v.Alto));
+    const i32 izq = fuente.Vacio() ? v.Ancho : fuente.Izq - xo;
+    const i32 der = fuente.Vacio() ? v.Ancho : fuente.Der - xo;
+    for (i32 y = 0; y < v.Alto; ++y) {
+        Pixel* mascara = Pic_PiezaMascara.Fila(y);
+        Pixel* imagen = Pic_PiezaImagen.Fila(y);
+        const Pixel* molde = v.Origen->Fila(v.Y + y) + v.X;
         if (fuente.Vacio() || yo + y < fuente.Arr || yo + y >= fuente.Aba) {
-            FondoEnmascarado(destino, mascara, w);
+            EstampaFondo(mascara, imagen, molde, v.Ancho);
             continue;
         }
-        FondoEnmascarado(destino, mascara, izq);
-        FilaEnmascarada(destino + izq, mascara + izq, origen.Fila(yo + y) + fuente.Izq, der - izq);
-        FondoEnmascarado(destino + der, mascara + der, w - der);
+        EstampaFondo(mascara, imagen, molde, izq);
+        EstampaFila(mascara + izq, imagen + izq, molde + izq, origen.Fila(yo + y) + fuente.Izq,
+                    der - izq);
+        EstampaFondo(mascara + der, imagen + der, molde + der, v.Ancho - der);
     }
-}
-
-void Polilinea(Superficie& s, Color color, std::initializer_list<Punto> puntos) {
-    const Punto* anterior = nullptr;
-    for (const Punto& p : puntos) {
-        if (anterior)
-            s.Line(pluma::Desde | pluma::ConColor, anterior->x, anterior->y, p.x, p.y, color);
-        anterior = &p;
-    }
-}
-
-// The bevel of a sliding piece. The pen is two pixels wide, so what it leaves outside the mask is
-// blackened again.
-void RelieveDeslizante() {
-    const i32 lado = Gbl.AnchoPieza;
-    const i32 c = lado / 30, d = lado - 1, e = lado - c - 1, p = c + 2, q = e - 1;
-    Pic_PiezaImagen.DrawWidth = 2;
-    Polilinea(Pic_PiezaImagen, Gbl.ColorPiezasClaro,
-              {{p, d}, {1, q}, {1, p - 1}, {p - 1, 1}, {q + 1, 1}, {d, p - 1}});
-    Polilinea(Pic_PiezaImagen, Gbl.ColorPiezasOscuro, {{d, p}, {d, q}, {q, d}, {p, d}});
-    Pic_PiezaImagen.DrawWidth = 1;
-    Pic_PiezaImagen.PSet(d, p - 2, 0);
-    Pic_PiezaImagen.PSet(p - 2, d, 0);
-    BitBlt(Pic_PiezaImagen, 0, 0, Pic_PiezaImagen.Width(), Pic_PiezaImagen.Height(),
-           Pic_PiezaMascara, 0, 0, DSNA);
-}
-
-void PreparaMascara(i16 piece) {
-    switch (Gbl.JuegoActual) {
-        case JuegoMoviles:
-            return MascaraMoviles(piece);
-        case JuegoDeslizantes:
-            return MascaraDeslizantes();
-        default:
-            return MascaraTangram(piece);
-    }
+    for (const PixelBorde& p : v.Borde) Pic_PiezaImagen.Fila(0)[p.Donde] = p.Valor;
 }
 
 // Four pixels side by side, wherever they stand in memory.
@@ -139,12 +110,8 @@ void CuartoDeVuelta(const Superficie& s, Superficie& destino) {
 
 void PreparaPieza(i16 piece) {
     Gbl.PiezaAux = Gbl.Piezas[piece];
-    PreparaMascara(piece);
-    CopiaCara(Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
-              Gbl.PiezaAux.XBien - Gbl.SalienteX, Gbl.PiezaAux.YBien - Gbl.SalienteY);
-    if (Gbl.DibujarBorde && Gbl.JuegoActual == JuegoTangram)
-        TrazaContorno(Pic_PiezaImagen, piece, 0, 0);
-    if (Gbl.DibujarBorde && Gbl.JuegoActual == JuegoDeslizantes) RelieveDeslizante();
+    Estampa(MascaraDePieza(piece), Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
+            Gbl.PiezaAux.XBien - Gbl.SalienteX, Gbl.PiezaAux.YBien - Gbl.SalienteY);
     if (Gbl.JuegoActual == JuegoMoviles && Gbl.PiezaAux.Giro != 0) {
         GiraSuperficie(Pic_PiezaMascara, Gbl.PiezaAux.Giro);
         GiraSuperficie(Pic_PiezaImagen, Gbl.PiezaAux.Giro);

@@ -3,7 +3,6 @@
 #include <span>
 
 #include "core/PuzzGbl.h"
-#include "pieces/Formas.h"
 #include "pieces/Superficies.h"
 
 namespace tessario {
@@ -28,70 +27,37 @@ std::span<const Semilla> SemillasDeForma() {
     return SEMILLAS_IRREGULARES;
 }
 
-void Rellena(double x, double y) {
-    ExtFloodFill(Pic_PiezaMascara, Entero(x), Entero(y), NEGRO, 0);
-}
-
-// The sides of the cell that lie on the picture's edge.
-struct Bordes {
-    bool izq, der, arr, aba;
-    bool Alguno() const { return izq || der || arr || aba; }
-};
-
-Bordes BordesDe(const Pieza& z) {
-    return {z.XBien == 0, z.XBien + Gbl.AnchoCelda == Gbl.AnchoPuzzle, z.YBien == 0,
-            z.YBien + Gbl.AltoCelda == Gbl.AltoPuzzle};
+void Rellena(Superficie& s, double x, double y) {
+    ExtFloodFill(s, Entero(x), Entero(y), NEGRO, 0);
 }
 
 // Straightens the left side (lejos false) or the right one.
-void EnderezaVertical(bool lejos) {
+void EnderezaVertical(Superficie& s, bool lejos) {
     const i32 m = Gbl.SalienteX, n = Gbl.SalienteY, w = Gbl.AnchoCelda, h = Gbl.AltoCelda;
     const i32 x = lejos ? m + w - 1 : m;
-    Pic_PiezaMascara.Line(pluma::Desde, x, n, x, n + h);
-    for (const Semilla& s : SemillasDeForma()) {
-        const double dentro = s.hondo == 0 ? (lejos ? m + w - 2 : m + 1)
-                                           : (lejos ? m + w - h * s.hondo : m + h * s.hondo);
-        Rellena(dentro, n + h * s.alLargo);
+    s.Line(pluma::Desde, x, n, x, n + h);
+    for (const Semilla& p : SemillasDeForma()) {
+        const double dentro = p.hondo == 0 ? (lejos ? m + w - 2 : m + 1)
+                                           : (lejos ? m + w - h * p.hondo : m + h * p.hondo);
+        Rellena(s, dentro, n + h * p.alLargo);
     }
 }
 
 // Straightens the top side (lejos false) or the bottom one.
-void EnderezaHorizontal(bool lejos) {
+void EnderezaHorizontal(Superficie& s, bool lejos) {
     const i32 m = Gbl.SalienteX, n = Gbl.SalienteY, w = Gbl.AnchoCelda, h = Gbl.AltoCelda;
     const i32 y = lejos ? n + h - 1 : n;
-    Pic_PiezaMascara.Line(pluma::Desde, m, y, m + w, y);
-    for (const Semilla& s : SemillasDeForma()) {
-        const double dentro = s.hondo == 0 ? (lejos ? n + h - 2 : n + 1)
-                                           : (lejos ? n + h - w * s.hondo : n + w * s.hondo);
-        Rellena(m + w * s.alLargo, dentro);
+    s.Line(pluma::Desde, m, y, m + w, y);
+    for (const Semilla& p : SemillasDeForma()) {
+        const double dentro = p.hondo == 0 ? (lejos ? n + h - 2 : n + 1)
+                                           : (lejos ? n + h - w * p.hondo : n + w * p.hondo);
+        Rellena(s, m + w * p.alLargo, dentro);
     }
-}
-
-// Shapes 1 and 2: the template of the cell's parity, cut off and straightened on the picture's
-// edges.
-void MascaraDePlantilla(const Pieza& z) {
-    if (Gbl.AnchoCelda == 0 || Gbl.AltoCelda == 0) throw ErrorEjecucion(ERROR_DIVISION);
-    const i32 columna = z.XBien / Gbl.AnchoCelda;
-    const i32 fila = z.YBien / Gbl.AltoCelda;
-    const i32 t = (columna + fila) % 2 != 0 ? Gbl.AnchoPieza : 0;
-    const Bordes b = BordesDe(z);
-    const i32 izq = b.izq ? Gbl.SalienteX : 0, der = b.der ? Gbl.SalienteX : 0;
-    const i32 arr = b.arr ? Gbl.SalienteY : 0, aba = b.aba ? Gbl.SalienteY : 0;
-    if (b.Alguno())
-        Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
-    else
-        Pic_PiezaMascara.TamanoLibre(Gbl.AnchoPieza, Gbl.AltoPieza);
-    BitBlt(Pic_PiezaMascara, izq, arr, Gbl.AnchoPieza - izq - der, Gbl.AltoPieza - arr - aba,
-           Pic_Temporal, t + izq, arr, SRCCOPY);
-    if (b.izq) EnderezaVertical(false);
-    if (b.der) EnderezaVertical(true);
-    if (b.arr) EnderezaHorizontal(false);
-    if (b.aba) EnderezaHorizontal(true);
 }
 
 // Shape 3. Deliberate: the top and the side triangles are a little smaller than the bottom one;
 // their apexes stop short of the centre, so that the four masks do not share its pixel.
-void MascaraTriangulo(i16 piece) {
+void DibujaTriangulo(Superficie& s, i32 clase) {
     const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda;
     const double cx = (w - 1) / 2.0, cy = h / 2.0;
     const struct {
@@ -103,77 +69,101 @@ void MascaraTriangulo(i16 piece) {
                   {w - 1, 0, 0, h - 2, cy - 1, static_cast<double>(w - 2), h * 0.5},
                   {0, h - 1, w - 1, 0, cy, w * 0.5, static_cast<double>(h - 2)},
                   {0, 0, 0, h - 2, cy - 1, 1, h * 0.5}};
-    const auto& l = lados[piece % 4];
-    Pic_PiezaMascara.Line(pluma::Desde | pluma::Relativo, l.x, l.y, l.dx, l.dy);
-    Pic_PiezaMascara.Line(0, 0, 0, cx, l.vertice);
-    Pic_PiezaMascara.Line(0, 0, 0, l.x, l.y);
-    Rellena(l.semillaX, l.semillaY);
+    const auto& l = lados[clase];
+    s.Line(pluma::Desde | pluma::Relativo, l.x, l.y, l.dx, l.dy);
+    s.Line(0, 0, 0, cx, l.vertice);
+    s.Line(0, 0, 0, l.x, l.y);
+    Rellena(s, l.semillaX, l.semillaY);
 }
 
-void MascaraCaja(i32 izq, i32 arr, i32 der, i32 aba) {
-    Pic_PiezaMascara.Line(pluma::Desde | pluma::Caja, izq, arr, der, aba);
+void DibujaCaja(Superficie& s, i32 izq, i32 arr, i32 der, i32 aba) {
+    s.Line(pluma::Desde | pluma::Caja, izq, arr, der, aba);
 }
 
-void MascaraElipse(i16 radio, double aspecto) {
-    Pic_PiezaMascara.Circle(pluma::ConAspecto, Gbl.AnchoCelda / 2.0, Gbl.AltoCelda / 2.0, radio, 0,
-                            0, 0, aspecto);
+void DibujaElipse(Superficie& s, i16 radio, double aspecto) {
+    s.Circle(pluma::ConAspecto, Gbl.AnchoCelda / 2.0, Gbl.AltoCelda / 2.0, radio, 0, 0, 0, aspecto);
 }
 
 // The inner figure of shapes 0 and 4 to 7, and the triangles.
-void MascaraFigura(i16 piece) {
+void DibujaForma(Superficie& s, i32 clase) {
     const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda, rx = Gbl.RecorteX, ry = Gbl.RecorteY;
     switch (Gbl.FormaPiezas) {
         case 0:
-            return MascaraCaja(0, 0, w - 1, h - 1);
+            return DibujaCaja(s, 0, 0, w - 1, h - 1);
         case 3:
-            return MascaraTriangulo(piece);
+            return DibujaTriangulo(s, clase);
         case 4:
-            return Pic_PiezaMascara.Circle(0, w / 2.0, h / 2.0, Gbl.RadioForma);
+            return s.Circle(0, w / 2.0, h / 2.0, Gbl.RadioForma);
         case 5:
-            return MascaraCaja(rx, ry, w - rx - 1, h - ry - 1);
+            return DibujaCaja(s, rx, ry, w - rx - 1, h - ry - 1);
         case 6:
-            return MascaraElipse(Gbl.RadioForma, Gbl.Aspecto);
+            return DibujaElipse(s, Gbl.RadioForma, Gbl.Aspecto);
         case 7:
-            MascaraElipse(Gbl.RadioForma, Gbl.Aspecto);
-            return MascaraElipse(Gbl.RadioForma2, Gbl.Aspecto2);
+            DibujaElipse(s, Gbl.RadioForma, Gbl.Aspecto);
+            return DibujaElipse(s, Gbl.RadioForma2, Gbl.Aspecto2);
         default:
             return;
     }
 }
 
-}  // namespace
-
-void MascaraMoviles(i16 piece) {
-    if (Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2) {
-        MascaraDePlantilla(Gbl.PiezaAux);
-    } else {
-        // A rectangle fills its whole box, so nothing need be cleared for it.
-        if (Gbl.FormaPiezas == 0 && Gbl.AnchoPieza == Gbl.AnchoCelda &&
-            Gbl.AltoPieza == Gbl.AltoCelda)
-            Pic_PiezaMascara.TamanoLibre(Gbl.AnchoPieza, Gbl.AltoPieza);
-        else
-            Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
-        MascaraFigura(piece);
+void Polilinea(Superficie& s, Color color, std::initializer_list<Punto> puntos) {
+    const Punto* anterior = nullptr;
+    for (const Punto& p : puntos) {
+        if (anterior)
+            s.Line(pluma::Desde | pluma::ConColor, anterior->x, anterior->y, p.x, p.y, color);
+        anterior = &p;
     }
-    if (piece % 2 == 0 && Gbl.FormaPiezas >= PRIMERA_DOBLE)
-        BitBlt(Pic_PiezaMascara, 0, 0, Gbl.AnchoPieza, Gbl.AltoPieza, Pic_PiezaMascara, 0, 0,
-               NOTSRCCOPY);
 }
 
-void MascaraDeslizantes() {
+}  // namespace
+
+BordesPieza BordesDe(const Pieza& z) {
+    return {z.XBien == 0, z.XBien + Gbl.AnchoCelda == Gbl.AnchoPuzzle, z.YBien == 0,
+            z.YBien + Gbl.AltoCelda == Gbl.AltoPuzzle};
+}
+
+void DibujaDePlantilla(Superficie& s, i32 x, const BordesPieza& b) {
+    const i32 izq = b.Izq ? Gbl.SalienteX : 0, der = b.Der ? Gbl.SalienteX : 0;
+    const i32 arr = b.Arr ? Gbl.SalienteY : 0, aba = b.Aba ? Gbl.SalienteY : 0;
+    BitBlt(s, izq, arr, Gbl.AnchoPieza - izq - der, Gbl.AltoPieza - arr - aba, Pic_Temporal,
+           x + izq, arr, SRCCOPY);
+    if (b.Izq) EnderezaVertical(s, false);
+    if (b.Der) EnderezaVertical(s, true);
+    if (b.Arr) EnderezaHorizontal(s, false);
+    if (b.Aba) EnderezaHorizontal(s, true);
+}
+
+void DibujaFigura(Superficie& s, i32 clase) {
+    DibujaForma(s, clase);
+    if (Gbl.FormaPiezas >= PRIMERA_DOBLE && clase == 1)
+        BitBlt(s, 0, 0, Gbl.AnchoPieza, Gbl.AltoPieza, s, 0, 0, NOTSRCCOPY);
+}
+
+void DibujaDeslizante(Superficie& s) {
     const i32 lado = Gbl.AnchoPieza;
-    Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
     if (Gbl.DibujarBorde) {
         const i32 c = lado / CORTE_ESQUINA, d = lado - 1, e = lado - c - 1;
         const Punto octogono[] = {{c, d}, {0, e}, {0, c}, {c, 0}, {e, 0}, {d, c}, {d, e}, {e, d}};
         for (std::size_t k = 0; k < 8; ++k) {
             const Punto a = octogono[k], b = octogono[(k + 1) % 8];
-            Pic_PiezaMascara.Line(pluma::Desde, a.x, a.y, b.x, b.y);
+            s.Line(pluma::Desde, a.x, a.y, b.x, b.y);
         }
     } else {
-        MascaraCaja(0, 0, Gbl.AnchoCelda - 1, Gbl.AltoCelda - 1);
+        DibujaCaja(s, 0, 0, Gbl.AnchoCelda - 1, Gbl.AltoCelda - 1);
     }
-    ExtFloodFill(Pic_PiezaMascara, Gbl.AnchoPieza / 2, Gbl.AltoPieza / 2, NEGRO, 0);
+    ExtFloodFill(s, Gbl.AnchoPieza / 2, Gbl.AltoPieza / 2, NEGRO, 0);
+}
+
+void TrazaRelieve(Superficie& s) {
+    const i32 lado = Gbl.AnchoPieza;
+    const i32 c = lado / 30, d = lado - 1, e = lado - c - 1, p = c + 2, q = e - 1;
+    s.DrawWidth = 2;
+    Polilinea(s, Gbl.ColorPiezasClaro,
+              {{p, d}, {1, q}, {1, p - 1}, {p - 1, 1}, {q + 1, 1}, {d, p - 1}});
+    Polilinea(s, Gbl.ColorPiezasOscuro, {{d, p}, {d, q}, {q, d}, {p, d}});
+    s.DrawWidth = 1;
+    s.PSet(d, p - 2, 0);
+    s.PSet(p - 2, d, 0);
 }
 
 i16 VerticesDePieza(i16 piece) {
@@ -191,14 +181,9 @@ void TrazaContorno(Superficie& s, i16 piece, i32 x, i32 y) {
     }
 }
 
-void MascaraTangram(i16 piece) {
-    const Pieza& z = Gbl.PiezaAux;
-    TMidePieza(piece, z.Giro, z.Volteo);
-    Pic_PiezaMascara.TamanoLimpio(Gbl.AnchoPieza, Gbl.AltoPieza);
-    TVertices(piece, z.Giro, z.Volteo);
-    TrazaContorno(Pic_PiezaMascara, piece, 0, 0);
-    TPuntoInterior(piece, z.Giro, z.Volteo);
-    ExtFloodFill(Pic_PiezaMascara, Gbl.XInterior, Gbl.YInterior, NEGRO, 0);
+void DibujaTangram(Superficie& s, i16 piece) {
+    TrazaContorno(s, piece, 0, 0);
+    ExtFloodFill(s, Gbl.XInterior, Gbl.YInterior, NEGRO, 0);
 }
 
 }  // namespace tessario

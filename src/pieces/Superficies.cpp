@@ -6,6 +6,7 @@ Ventana Mesa;
 Superficie Pic_Fondo, Pic_Imagen;
 Cuadro Pic_Trabajo;
 Superficie Pic_PiezaMascara, Pic_PiezaImagen, Pic_PiezaFinal, Pic_PiezaColor;
+std::array<Molde, MOLDES> Pic_Moldes;
 Superficie Pic_Bitmap, Pic_Temporal, Pic_FonTamReal, Pic_FonTamModi;
 Superficie Pic_BmpBoton, Pic_BmpVario;
 Cuadro Pic_Muestra, Pic_Sugerencia, Pic_SugeMasAyuda, Pic_SugeBotCerrar, Pic_SelOpciones;
@@ -24,6 +25,7 @@ void ReiniciaSuperficies() {
                           &Pic_PiezaFinal, &Pic_PiezaColor, &Pic_Bitmap, &Pic_Temporal,
                           &Pic_FonTamReal, &Pic_FonTamModi, &Pic_BmpBoton, &Pic_BmpVario})
         *s = Superficie{};
+    Pic_Moldes = {};
     // Masks and templates: closed figures come out filled in black on a white ground.
     for (Superficie* s : {&Pic_PiezaMascara, &Pic_Temporal}) s->FillSolido = true;
     Pic_PiezaColor.PonBackColor(0x00FF00);

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "pieces/Moldes.h"
 #include "platform/Controles.h"
 
 namespace tessario {
@@ -21,6 +22,7 @@ extern Cuadro Pic_Trabajo;        // what the player sees: with the piece in han
 extern Superficie Pic_PiezaMascara;   // black inside, white outside
 extern Superficie Pic_PiezaImagen;    // its picture inside, black outside
 extern Superficie Pic_PiezaFinal;     // scratch: the piece blended with the table under it
+extern std::array<Molde, MOLDES> Pic_Moldes;   // masks that are drawn already
 extern Superficie Pic_PiezaColor;     // flat colour that takes the picture's place
 
 // The picture and the cut.
