@@ -13,44 +13,6 @@ namespace {
 constexpr Pixel BLANCO = 0xFFFFFF;
 constexpr i32 LADO = 4;  // of the squares by which a surface is turned, pixels
 
-// Rows of the piece's two surfaces: the mask as it stands in its mould, the image from the source
-// where the mask is black, 0 where it is white.
-void EstampaFila(Pixel* mascara, Pixel* imagen, const Pixel* molde, const Pixel* origen, i32 n) {
-    std::copy_n(molde, n, mascara);
-    for (i32 x = 0; x < n; ++x) imagen[x] = origen[x] & ~molde[x];
-}
-
-// The same where the source has no pixels: the white ground shows through the mask.
-void EstampaFondo(Pixel* mascara, Pixel* imagen, const Pixel* molde, i32 n) {
-    std::copy_n(molde, n, mascara);
-    for (i32 x = 0; x < n; ++x) imagen[x] = BLANCO & ~molde[x];
-}
-
-// Both surfaces of a piece in one pass: the mask's copy, the source copy and the blackening of what
-// is outside the mask (destination and not mask). The picture at (xo, yo) of the source is where
-// the piece belongs, not where it lies. The border comes last.
-void Estampa(const VistaMascara& v, const Superficie& origen, i32 xo, i32 yo) {
-    Pic_PiezaMascara.TamanoLibre(v.Ancho, v.Alto);
-    Pic_PiezaImagen.TamanoLibre(v.Ancho, v.Alto);
-    const Rect fuente = Interseccion(origen.Limites(), RectDe(xo, yo, v.Ancho, v.Alto));
-    const i32 izq = fuente.Vacio() ? v.Ancho : fuente.Izq - xo;
-    const i32 der = fuente.Vacio() ? v.Ancho : fuente.Der - xo;
-    for (i32 y = 0; y < v.Alto; ++y) {
-        Pixel* mascara = Pic_PiezaMascara.Fila(y);
-        Pixel* imagen = Pic_PiezaImagen.Fila(y);
-        const Pixel* molde = v.Origen->Fila(v.Y + y) + v.X;
-        if (fuente.Vacio() || yo + y < fuente.Arr || yo + y >= fuente.Aba) {
-            EstampaFondo(mascara, imagen, molde, v.Ancho);
-            continue;
-        }
-        EstampaFondo(mascara, imagen, molde, izq);
-        EstampaFila(mascara + izq, imagen + izq, molde + izq, origen.Fila(yo + y) + fuente.Izq,
-                    der - izq);
-        EstampaFondo(mascara + der, imagen + der, molde + der, v.Ancho - der);
-    }
-    for (const PixelBorde& p : v.Borde) Pic_PiezaImagen.Fila(0)[p.Donde] = p.Valor;
-}
-
 // Four pixels side by side, wherever they stand in memory.
 using Cuatro = Pixel __attribute__((vector_size(16), aligned(4)));
 
@@ -59,6 +21,82 @@ Cuatro Lee(const Pixel* p) {
 }
 void Escribe(Pixel* p, Cuatro v) {
     *reinterpret_cast<Cuatro*>(p) = v;
+}
+
+// Eight pixels, for processors that have registers for them.
+using Ocho = Pixel __attribute__((vector_size(32), aligned(4)));
+
+// A row of a piece's two surfaces: the mask as it stands in its mould, the image from the source
+// where the mask is black, 0 where it is white. The last pixels may be done twice.
+template <class Grupo>
+inline __attribute__((always_inline)) void EstampaFila(Pixel* mascara, Pixel* imagen,
+                                                       const Pixel* molde, const Pixel* origen,
+                                                       i32 n) {
+    constexpr i32 a_la_vez = sizeof(Grupo) / sizeof(Pixel);
+    const auto estampa = [=](i32 x) __attribute__((always_inline)) {
+        const Grupo m = *reinterpret_cast<const Grupo*>(molde + x);
+        *reinterpret_cast<Grupo*>(mascara + x) = m;
+        *reinterpret_cast<Grupo*>(imagen + x) = *reinterpret_cast<const Grupo*>(origen + x) & ~m;
+    };
+    if (n < a_la_vez) {
+        for (i32 x = 0; x < n; ++x) {
+            mascara[x] = molde[x];
+            imagen[x] = origen[x] & ~molde[x];
+        }
+        return;
+    }
+    for (i32 x = 0; x + a_la_vez <= n; x += a_la_vez) estampa(x);
+    estampa(n - a_la_vez);
+}
+
+// The same where the source has no pixels: the white ground shows through the mask.
+void EstampaFondo(Pixel* mascara, Pixel* imagen, const Pixel* molde, i32 n) {
+    for (i32 x = 0; x < n; ++x) {
+        mascara[x] = molde[x];
+        imagen[x] = BLANCO & ~molde[x];
+    }
+}
+
+// Both surfaces of a piece in one pass: the mask's copy, the source copy and the blackening of what
+// is outside the mask (destination and not mask). The picture at (xo, yo) of the source is where
+// the piece belongs, not where it lies.
+template <class Grupo>
+inline __attribute__((always_inline)) void EstampaFilas(const VistaMascara& v,
+                                                        const Superficie& origen, i32 xo, i32 yo) {
+    const i32 w = v.Ancho, h = v.Alto, paso = v.Origen->Width();
+    const Rect fuente = Interseccion(origen.Limites(), RectDe(xo, yo, w, h));
+    const i32 izq = fuente.Vacio() ? w : fuente.Izq - xo,
+              der = fuente.Vacio() ? w : fuente.Der - xo;
+    const i32 arr = fuente.Vacio() ? h : fuente.Arr - yo,
+              aba = fuente.Vacio() ? h : fuente.Aba - yo;
+    Pixel* mascara = Pic_PiezaMascara.Fila(0);
+    Pixel* imagen = Pic_PiezaImagen.Fila(0);
+    const Pixel* molde = v.Origen->Fila(v.Y) + v.X;
+    for (i32 y = 0; y < h; ++y, mascara += w, imagen += w, molde += paso) {
+        const bool hay = y >= arr && y < aba;
+        const i32 i = hay ? izq : w, d = hay ? der : w;
+        if (i > 0) EstampaFondo(mascara, imagen, molde, i);
+        if (hay)
+            EstampaFila<Grupo>(mascara + i, imagen + i, molde + i, origen.Fila(yo + y) + fuente.Izq,
+                               d - i);
+        if (d < w) EstampaFondo(mascara + d, imagen + d, molde + d, w - d);
+    }
+}
+
+#ifdef __x86_64__
+__attribute__((target("avx2"))) void EstampaDeOcho(const VistaMascara& v, const Superficie& origen,
+                                                   i32 xo, i32 yo) {
+    EstampaFilas<Ocho>(v, origen, xo, yo);
+}
+#endif
+
+void Estampa(const VistaMascara& v, const Superficie& origen, i32 xo, i32 yo) {
+    Pic_PiezaMascara.TamanoLibre(v.Ancho, v.Alto);
+    Pic_PiezaImagen.TamanoLibre(v.Ancho, v.Alto);
+#ifdef __x86_64__
+    if (__builtin_cpu_supports("avx2")) return EstampaDeOcho(v, origen, xo, yo);
+#endif
+    EstampaFilas<Cuatro>(v, origen, xo, yo);
 }
 
 struct Cuadrado {
@@ -110,8 +148,10 @@ void CuartoDeVuelta(const Superficie& s, Superficie& destino) {
 
 void PreparaPieza(i16 piece) {
     Gbl.PiezaAux = Gbl.Piezas[piece];
-    Estampa(MascaraDePieza(piece), Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
+    const VistaMascara mascara = MascaraDePieza(piece);
+    Estampa(mascara, Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
             Gbl.PiezaAux.XBien - Gbl.SalienteX, Gbl.PiezaAux.YBien - Gbl.SalienteY);
+    for (const PixelBorde& p : mascara.Borde) Pic_PiezaImagen.Fila(0)[p.Donde] = p.Valor;
     if (Gbl.JuegoActual == JuegoMoviles && Gbl.PiezaAux.Giro != 0) {
         GiraSuperficie(Pic_PiezaMascara, Gbl.PiezaAux.Giro);
         GiraSuperficie(Pic_PiezaImagen, Gbl.PiezaAux.Giro);

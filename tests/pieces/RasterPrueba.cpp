@@ -24,7 +24,7 @@ i32 AreaNegra() {
 
 }  // namespace
 
-class Raster : public MesaMoviles {
+class RasterPiezas : public MesaMoviles {
 protected:
     void Tangram(bool borde) {
         Gbl.JuegoActual = JuegoTangram;
@@ -51,7 +51,7 @@ protected:
     }
 };
 
-TEST_F(Raster, ARectangleShowsItsOwnPartOfThePicture) {
+TEST_F(RasterPiezas, ARectangleShowsItsOwnPartOfThePicture) {
     Monta(0, 4, 320, 240);  // cells of 80 by 60
     Coloca(6, 500, 300);    // where it lies does not matter; it belongs at (80, 60)
     PreparaPieza(6);
@@ -63,7 +63,7 @@ TEST_F(Raster, ARectangleShowsItsOwnPartOfThePicture) {
     EXPECT_EQ(Gbl.PiezaAux, Gbl.Piezas[6]);
 }
 
-TEST_F(Raster, ACurvedCornerPieceHasTwoStraightSides) {
+TEST_F(RasterPiezas, ACurvedCornerPieceHasTwoStraightSides) {
     Monta(1, 4, 400, 300);  // cells of 99 by 75
     const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda, m = Gbl.SalienteX, n = Gbl.SalienteY;
     // Piece 1: hollow above (template A), bulging to the left. Piece 4, at the right end of the
@@ -80,7 +80,7 @@ TEST_F(Raster, ACurvedCornerPieceHasTwoStraightSides) {
     }
 }
 
-TEST_F(Raster, ACellWithoutSizeIsAnErrorAndNoCrash) {
+TEST_F(RasterPiezas, ACellWithoutSizeIsAnErrorAndNoCrash) {
     Monta(1, 4, 400, 300);
     Gbl.AnchoCelda = 0;
     try {
@@ -91,7 +91,7 @@ TEST_F(Raster, ACellWithoutSizeIsAnErrorAndNoCrash) {
     }
 }
 
-TEST_F(Raster, ASingleCurvedPieceIsTheWholePicture) {
+TEST_F(RasterPiezas, ASingleCurvedPieceIsTheWholePicture) {
     Monta(1, 1, 121, 91);
     PreparaPieza(1);
     for (i32 y = 0; y < 91; ++y)
@@ -99,7 +99,7 @@ TEST_F(Raster, ASingleCurvedPieceIsTheWholePicture) {
             EXPECT_TRUE(Negro(Gbl.SalienteX + x, Gbl.SalienteY + y)) << x << ' ' << y;
 }
 
-TEST_F(Raster, TheTwoPiecesOfADoubleCellCompleteEachOther) {
+TEST_F(RasterPiezas, TheTwoPiecesOfADoubleCellCompleteEachOther) {
     for (i16 forma = 4; forma <= 7; ++forma) {
         Monta(forma, 3, 320, 240);
         PreparaPieza(1);
@@ -114,7 +114,7 @@ TEST_F(Raster, TheTwoPiecesOfADoubleCellCompleteEachOther) {
     }
 }
 
-TEST_F(Raster, InnerRectangleKeepsAFifthOfTheCellAllAround) {
+TEST_F(RasterPiezas, InnerRectangleKeepsAFifthOfTheCellAllAround) {
     Monta(5, 4, 400, 300);  // 100 by 75: insets 20 and 15
     PreparaPieza(1);
     EXPECT_EQ(AreaNegra(), 60 * 45);
@@ -124,7 +124,7 @@ TEST_F(Raster, InnerRectangleKeepsAFifthOfTheCellAllAround) {
     EXPECT_FALSE(Negro(79, 60));
 }
 
-TEST_F(Raster, EachTriangleLiesOnItsSideOfTheCell) {
+TEST_F(RasterPiezas, EachTriangleLiesOnItsSideOfTheCell) {
     Monta(3, 5, 400, 300);  // 79 by 60
     const struct {
         i16 piece;
@@ -141,7 +141,7 @@ TEST_F(Raster, EachTriangleLiesOnItsSideOfTheCell) {
     }
 }
 
-TEST_F(Raster, TheImageIsBlackWhereverTheMaskIsWhite) {
+TEST_F(RasterPiezas, TheImageIsBlackWhereverTheMaskIsWhite) {
     for (i16 forma = 0; forma <= 7; ++forma) {
         Monta(forma, 4, 400, 300, true);
         for (i16 p = 1; p <= Gbl.NumPiezas; ++p) {
@@ -164,7 +164,7 @@ TEST_F(Raster, TheImageIsBlackWhereverTheMaskIsWhite) {
     }
 }
 
-TEST_F(Raster, ATurnedPieceExchangesItsBox) {
+TEST_F(RasterPiezas, ATurnedPieceExchangesItsBox) {
     Monta(0, 4, 320, 240);
     Coloca(6, 0, 0, 1);
     PreparaPieza(6);
@@ -181,7 +181,7 @@ TEST_F(Raster, ATurnedPieceExchangesItsBox) {
     EXPECT_EQ(Pic_PiezaImagen.Fila(0)[0], PixelDeMuestra(159, 60));
 }
 
-TEST_F(Raster, TurningASurfaceMovesEveryPixelClockwise) {
+TEST_F(RasterPiezas, TurningASurfaceMovesEveryPixelClockwise) {
     for (const i32 ancho : {1, 7, 16, 33})
         for (const i32 alto : {1, 5, 16, 35})
             for (i16 giro = 1; giro <= 3; ++giro) {
@@ -201,7 +201,7 @@ TEST_F(Raster, TurningASurfaceMovesEveryPixelClockwise) {
             }
 }
 
-TEST_F(Raster, ShowingThePlacedPiecesReplacesThePictureByAFlatColour) {
+TEST_F(RasterPiezas, ShowingThePlacedPiecesReplacesThePictureByAFlatColour) {
     Monta(2, 4, 400, 300);
     Pic_PiezaColor.Tamano(Pic_Bitmap.Width(), Pic_Bitmap.Height());
     Pic_PiezaColor.PonBackColor(0x0000FF);  // red
@@ -212,7 +212,7 @@ TEST_F(Raster, ShowingThePlacedPiecesReplacesThePictureByAFlatColour) {
             ASSERT_EQ(Pic_PiezaImagen.Fila(y)[x], Negro(x, y) ? 0xFF0000U : 0U);
 }
 
-TEST_F(Raster, TangramFaceHasAnOutlineOnlyWithBorders) {
+TEST_F(RasterPiezas, TangramFaceHasAnOutlineOnlyWithBorders) {
     Tangram(true);
     Pic_PiezaImagen.ForeColor = 0xFFFFFF;
     PreparaPieza(6);  // the square, 63 by 63
@@ -225,7 +225,7 @@ TEST_F(Raster, TangramFaceHasAnOutlineOnlyWithBorders) {
     EXPECT_EQ(Pic_PiezaImagen.Fila(0)[30], 0x563412U);
 }
 
-TEST_F(Raster, TangramMaskIsTheOutlinedPolygon) {
+TEST_F(RasterPiezas, TangramMaskIsTheOutlinedPolygon) {
     Tangram(false);
     PreparaPieza(1);  // corners (0, 88), (88, 0), (176, 88)
     ASSERT_EQ(Pic_PiezaMascara.Width(), 177);
@@ -236,14 +236,14 @@ TEST_F(Raster, TangramMaskIsTheOutlinedPolygon) {
     EXPECT_TRUE(Negro(0, 88));
 }
 
-TEST_F(Raster, SlidingPieceWithoutBorderIsAFullSquare) {
+TEST_F(RasterPiezas, SlidingPieceWithoutBorderIsAFullSquare) {
     Deslizantes(false, 89);
     PreparaPieza(1);
     EXPECT_EQ(AreaNegra(), 89 * 89);
     EXPECT_EQ(Pic_PiezaImagen.Fila(0)[0], 0x008000U);
 }
 
-TEST_F(Raster, SlidingPieceWithBorderLosesItsCornersAndHasARelief) {
+TEST_F(RasterPiezas, SlidingPieceWithBorderLosesItsCornersAndHasARelief) {
     Deslizantes(true, 90);  // corners of 3 pixels
     PreparaPieza(1);
     // The corner triangles outside the cut from (3, 0) to (0, 3): 3 + 2 + 1 pixels each.
@@ -261,7 +261,7 @@ TEST_F(Raster, SlidingPieceWithBorderLosesItsCornersAndHasARelief) {
     EXPECT_EQ(Pic_PiezaImagen.DrawWidth, 1);
 }
 
-TEST_F(Raster, SilhouettePaintsAndErasesTheModelPlaces) {
+TEST_F(RasterPiezas, SilhouettePaintsAndErasesTheModelPlaces) {
     Tangram(false);
     Gbl.ColorFondo = 0x800000;
     Gbl.ColorContraste = 0xFFFFFF;
