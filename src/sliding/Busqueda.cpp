@@ -14,8 +14,15 @@ constexpr i32 LADO_SIN_CAMINO = 5;   // from this side on the last pieces move w
 constexpr i32 COSTE_MAXIMO = 32767;  // the cost is a 16-bit number
 // Nodes of one stage. Boards of nine a side stay below 25000; a board without a solution ends here.
 constexpr i32 LIMITE_NODOS = 250000;
-constexpr std::size_t TABLA_INICIAL = 1024;  // a power of two
+constexpr std::size_t TABLA_INICIAL = 4096;  // a power of two
+constexpr std::size_t CRECE_TABLA = 4;       // times
 constexpr std::size_t NODOS_INICIALES = 500;
+
+// The half of a hash that the table keeps beside the node. Its place in the table goes by the
+// other half.
+constexpr u32 Marca(std::uint64_t clave) {
+    return static_cast<u32>(clave >> 32);
+}
 
 // A well-mixed 64-bit number for each pair of piece and cell.
 constexpr std::uint64_t Mezcla(std::uint64_t z) {
@@ -36,21 +43,21 @@ constexpr auto CLAVES_FIJAS = [] {
 
 }  // namespace
 
-Busqueda::Busqueda(i32 lado, const CeldasDePiezas& inicio, std::function<void()> evento)
-    : lado_(lado),
-      celdasEnTotal_(lado * lado),
-      piezas_(lado * lado - 1),
-      inicio_(inicio),
-      evento_(std::move(evento)) {
-    PreparaTablas();
-}
-
-void Busqueda::PreparaTablas() {
+// Distances and neighbours of a board's cells. They serve all searches on boards of that side.
+void Busqueda::PreparaTablas(i32 lado) {
+    if (lado == lado_) return;
+    lado_ = lado;
+    piezas_ = lado * lado - 1;
     distancia_.assign(static_cast<std::size_t>(CELDAS_MAXIMAS) * CELDAS_MAXIMAS, 0);
-    for (i32 a = 0; a < celdasEnTotal_; ++a)
-        for (i32 b = 0; b < celdasEnTotal_; ++b)
-            distancia_[static_cast<std::size_t>(a * CELDAS_MAXIMAS + b)] =
-                static_cast<u8>(std::abs(a / lado_ - b / lado_) + std::abs(a % lado_ - b % lado_));
+    for (i32 a = 0; a <= piezas_; ++a) {
+        Vecinos& vecinas = vecinas_[static_cast<std::size_t>(a)];
+        vecinas.cuantos = 0;
+        for (i32 b = 0; b <= piezas_; ++b) {
+            const i32 d = std::abs(a / lado - b / lado) + std::abs(a % lado - b % lado);
+            distancia_[static_cast<std::size_t>(a * CELDAS_MAXIMAS + b)] = static_cast<u8>(d);
+            if (d == 1) vecinas.lista[vecinas.cuantos++] = static_cast<u8>(b);
+        }
+    }
 }
 
 // Pieces after meta_ do not count: boards that differ only in them are one state.
@@ -59,29 +66,30 @@ std::uint64_t Busqueda::ClaveDe(i32 pieza, i32 celda) const {
     return CLAVES_FIJAS[static_cast<std::size_t>(pieza)][static_cast<std::size_t>(celda)];
 }
 
-bool Busqueda::Igual(const Nodo& a, const Nodo& b) const {
-    return a.clave == b.clave &&
-           std::memcmp(a.celdas.data(), b.celdas.data(), static_cast<std::size_t>(meta_ + 1)) == 0;
-}
-
 void Busqueda::CreceTabla() {
-    tabla_.assign(tabla_.size() * 2, 0);
+    tabla_.assign(tabla_.size() * CRECE_TABLA, Entrada{});
     const std::size_t mascara = tabla_.size() - 1;
     for (std::size_t i = 1; i < nodos_.size(); ++i) {
-        std::size_t h = nodos_[i].clave & mascara;
-        while (tabla_[h] != 0) h = (h + 1) & mascara;
-        tabla_[h] = static_cast<i32>(i);
+        const std::uint64_t clave = nodos_[i].clave;
+        std::size_t h = clave & mascara;
+        while (tabla_[h].nodo != 0) h = (h + 1) & mascara;
+        tabla_[h] = {Marca(clave), static_cast<i32>(i)};
     }
 }
 
 // Enters the node's state; false when an earlier node has the same.
 bool Busqueda::Anota(i32 indice) {
     const Nodo& n = nodos_[static_cast<std::size_t>(indice)];
+    const u32 marca = Marca(n.clave);
     const std::size_t mascara = tabla_.size() - 1;
+    const auto cuentan = static_cast<std::size_t>(meta_ + 1);
     std::size_t h = n.clave & mascara;
-    for (; tabla_[h] != 0; h = (h + 1) & mascara)
-        if (Igual(nodos_[static_cast<std::size_t>(tabla_[h])], n)) return false;
-    tabla_[h] = indice;
+    for (; tabla_[h].nodo != 0; h = (h + 1) & mascara) {
+        if (tabla_[h].marca != marca) continue;
+        const Nodo& otro = nodos_[static_cast<std::size_t>(tabla_[h].nodo)];
+        if (std::memcmp(otro.celdas.data(), n.celdas.data(), cuentan) == 0) return false;
+    }
+    tabla_[h] = {marca, indice};
     return true;
 }
 
@@ -111,20 +119,22 @@ i32 Busqueda::TomaMejor() {
     return 0;
 }
 
-void Busqueda::PonRaiz() {
+void Busqueda::PonRaiz(const CeldasDePiezas& inicio) {
     nodos_.assign(1, Nodo{});
     nodos_.reserve(NODOS_INICIALES);
-    tabla_.assign(TABLA_INICIAL, 0);
+    tabla_.assign(TABLA_INICIAL, Entrada{});
     colas_.assign(1, Cola{});
     minimo_ = 0;
     Nodo raiz;
-    raiz.celdas = inicio_;
+    raiz.celdas = inicio;
     i32 resto = 0;
     for (i32 i = 0; i <= meta_; ++i) {
-        const u8 celda = inicio_[static_cast<std::size_t>(i)];
+        const u8 celda = inicio[static_cast<std::size_t>(i)];
         raiz.clave ^= ClaveDe(i, celda);
         if (i > 0) resto += Distancia(celda, static_cast<u8>(i - 1));
     }
+    for (i32 i = 0; i <= piezas_; ++i)
+        raiz.ocupantes[inicio[static_cast<std::size_t>(i)]] = static_cast<u8>(i);
     raiz.resto = static_cast<i16>(resto);
     nodos_.push_back(raiz);
     Anota(1);
@@ -133,26 +143,26 @@ void Busqueda::PonRaiz() {
 
 // The state after `pieza` has gone into the hole of node m, as a new node; false when it is known
 // or would undo the last move.
-bool Busqueda::Genera(i32 m, u8 pieza, i32& nuevo) {
+bool Busqueda::Genera(i32 m, u8 pieza) {
     if (m != 1 && nodos_[static_cast<std::size_t>(m)].movida == pieza) return false;
     Nodo& n = nodos_.emplace_back(nodos_[static_cast<std::size_t>(m)]);
-    nuevo = NumNodos();
     const u8 celda = n.celdas[pieza];
     const u8 hueco = n.celdas[0];
     // Deliberate: a move is charged by its distance, before it, from the piece that is being
     // brought home, and not as one: moves near that piece are cheap.
     const i32 d = sinCamino_ ? 0 : Distancia(celda, n.celdas[static_cast<std::size_t>(meta_)]);
+    n.clave ^=
+        ClaveDe(0, hueco) ^ ClaveDe(0, celda) ^ ClaveDe(pieza, celda) ^ ClaveDe(pieza, hueco);
+    std::swap(n.celdas[0], n.celdas[pieza]);
+    if (!Anota(NumNodos())) {
+        nodos_.pop_back();
+        return false;
+    }
+    std::swap(n.ocupantes[celda], n.ocupantes[hueco]);
     i32 resto = n.resto;
     if (pieza <= meta_) {
         const auto casa = static_cast<u8>(pieza - 1);
         resto += Distancia(hueco, casa) - Distancia(celda, casa);
-    }
-    n.clave ^=
-        ClaveDe(0, hueco) ^ ClaveDe(0, celda) ^ ClaveDe(pieza, celda) ^ ClaveDe(pieza, hueco);
-    std::swap(n.celdas[0], n.celdas[pieza]);
-    if (!Anota(nuevo)) {
-        nodos_.pop_back();
-        return false;
     }
     const i32 camino = n.camino + d;
     const i32 coste = resto * PESO_RESTO + camino;
@@ -166,23 +176,29 @@ bool Busqueda::Genera(i32 m, u8 pieza, i32& nuevo) {
     return true;
 }
 
-// Tries the pieces around the hole of node m by piece number. True when one of them ends the stage.
+// The pieces around the hole, by piece number.
+Busqueda::Vecinos Busqueda::PiezasVecinas(const Nodo& n) const {
+    const Vecinos& celdas = vecinas_[n.celdas[0]];
+    Vecinos piezas;
+    for (; piezas.cuantos < celdas.cuantos; ++piezas.cuantos) {
+        const u8 pieza = n.ocupantes[celdas.lista[piezas.cuantos]];
+        std::size_t i = piezas.cuantos;
+        for (; i > 0 && piezas.lista[i - 1] > pieza; --i) piezas.lista[i] = piezas.lista[i - 1];
+        piezas.lista[i] = pieza;
+    }
+    return piezas;
+}
+
+// Tries the pieces around the hole of node m. True when one of them ends the stage.
 bool Busqueda::Expande(i32 m) {
-    const CeldasDePiezas& celdas = nodos_[static_cast<std::size_t>(m)].celdas;
-    const i32 hueco = celdas[0];
-    std::array<u8, 4> vecinos{};
-    std::size_t cuantos = 0;
-    for (i32 i = 1; i <= piezas_ && cuantos < vecinos.size(); ++i)
-        if (Distancia(celdas[static_cast<std::size_t>(i)], static_cast<u8>(hueco)) == 1)
-            vecinos[cuantos++] = static_cast<u8>(i);
-    for (std::size_t v = 0; v < cuantos; ++v) {
-        i32 nuevo = 0;
-        if (Genera(m, vecinos[v], nuevo)) {
+    const Vecinos vecinos = PiezasVecinas(nodos_[static_cast<std::size_t>(m)]);
+    for (std::size_t v = 0; v < vecinos.cuantos; ++v) {
+        if (Genera(m, vecinos.lista[v])) {
             if (nodos_.back().resto == 0) {
-                TrazaRuta(nuevo);
+                TrazaRuta(NumNodos());
                 return true;
             }
-            Encola(nuevo);
+            Encola(NumNodos());
             if (nodos_.size() * 2 > tabla_.size()) CreceTabla();
         }
         evento_();
@@ -195,12 +211,13 @@ void Busqueda::TrazaRuta(i32 indice) {
         ruta_.push_back(nodos_[static_cast<std::size_t>(i)].movida);
 }
 
-bool Busqueda::Busca(i32 meta) {
+bool Busqueda::Busca(i32 lado, const CeldasDePiezas& inicio, i32 meta) {
+    PreparaTablas(lado);
     meta_ = meta;
-    sinCamino_ = piezas_ + 1 - meta < 2 * lado_ && lado_ >= LADO_SIN_CAMINO;
+    sinCamino_ = piezas_ + 1 - meta < 2 * lado && lado >= LADO_SIN_CAMINO;
     desborde_ = false;
     ruta_.clear();
-    PonRaiz();
+    PonRaiz(inicio);
     while (const i32 m = TomaMejor()) {
         if (Expande(m)) return true;
         if (desborde_ || NumNodos() >= LIMITE_NODOS) return false;

@@ -1,5 +1,7 @@
 #include "sliding/Solucion.h"
 
+#include <algorithm>
+
 #include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
@@ -37,6 +39,19 @@ CeldasDePiezas CeldasDeLaMesa() {
     return celdas;
 }
 
+// The board as it stands, to tell later whether anything has been done to it.
+struct CopiaDeLaMesa {
+    Arreglo<Pieza> piezas = Gbl.Piezas;
+    i16 huecoX = Gbl.HuecoX, huecoY = Gbl.HuecoY;
+    i16 lado = Gbl.PiezasPorLado;
+
+    bool Vigente() const {
+        return Gbl.JuegoActual == JuegoDeslizantes && Gbl.PiezasPorLado == lado &&
+               Gbl.HuecoX == huecoX && Gbl.HuecoY == huecoY &&
+               std::equal(piezas.begin(), piezas.end(), Gbl.Piezas.begin(), Gbl.Piezas.end());
+    }
+};
+
 void GuardaRuta(const std::vector<u8>& ruta) {
     Gbl.RutaSolucion.Redimensiona(RUTA_INICIAL);
     for (const u8 piece : ruta) {
@@ -64,8 +79,8 @@ bool JuegaDeLaRuta(i16 piece) {
 }
 
 // One stage, searched and played out to its end whatever the player presses meanwhile.
-bool JuegaEtapa() {
-    if (!BuscaSolucion()) return false;
+bool JuegaEtapa(Busqueda& busqueda) {
+    if (!BuscaSolucion(busqueda)) return false;
     for (i32 i = Gbl.LongitudRuta; i >= 1; --i)
         if (!JuegaDeLaRuta(Gbl.RutaSolucion[i])) return false;
     return true;
@@ -73,23 +88,28 @@ bool JuegaEtapa() {
 
 }  // namespace
 
-bool BuscaSolucion() {
+bool BuscaSolucion(Busqueda& busqueda) {
     Gbl.LongitudRuta = 0;
     if (!HayTablero()) return false;
     const i32 meta = PrimeraSuelta();
     if (meta > Gbl.NumPiezas) return false;
-    const CeldasDePiezas inicio = CeldasDeLaMesa();
-    Busqueda busqueda(Gbl.PiezasPorLado, inicio, [] { DejaPasarEventos(); });
-    if (!busqueda.Busca(meta)) return false;
+    const CopiaDeLaMesa antes;
+    if (!busqueda.Busca(antes.lado, CeldasDeLaMesa(), meta)) return false;
     // Moves for a table that events have changed under the search are worth nothing.
-    if (!HayTablero() || CeldasDeLaMesa() != inicio) return false;
+    if (!antes.Vigente()) return false;
     GuardaRuta(busqueda.Ruta());
     return true;
 }
 
+bool BuscaSolucion() {
+    Busqueda busqueda(DejaPasarEventos);
+    return BuscaSolucion(busqueda);
+}
+
 void ResuelveDeslizantes() {
     Gbl.TareaAutomatica = true;
-    while (JuegaEtapa() && Gbl.PiezasColocadas < Gbl.NumPiezas && Gbl.ResolviendoPuzzle) {
+    Busqueda busqueda(DejaPasarEventos);
+    while (JuegaEtapa(busqueda) && Gbl.PiezasColocadas < Gbl.NumPiezas && Gbl.ResolviendoPuzzle) {
     }
     Gbl.PuzzleArchivable = false;
     Gbl.ArrastrandoPieza = false;

@@ -8,6 +8,7 @@
 #include "apoyo/TableroDeslizante.h"
 #include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
+#include "core/Servicios.h"
 #include "sliding/Busqueda.h"
 #include "sliding/Solucion.h"
 #include "sliding/Tablero.h"
@@ -63,6 +64,23 @@ TEST_F(Solucion, MovesAreThoseOfTheLiteralRulesOnEveryStageOfRandomBoards) {
             PonTablero(TableroSoluble(lado, azar, n % 2 == 0));
             SCOPED_TRACE(testing::Message() << lado << " a side, board " << n);
             ASSERT_GT(ComparaEtapas(), 0);
+        }
+    }
+}
+
+TEST_F(Solucion, SearcherThatHasServedOtherBoardsFindsTheSameMoves) {
+    std::mt19937 azar(21);
+    Busqueda usada(DejaPasarEventos);
+    // Sides in turn, so that each board follows one of another size.
+    for (const i16 lado : std::initializer_list<i16>{7, 3, 9, 4, 5, 5, 8, 6}) {
+        PreparaTablero(lado);
+        PonTablero(TableroSoluble(lado, azar, false));
+        while (CuentaColocadas() < Gbl.NumPiezas) {
+            ASSERT_TRUE(BuscaSolucion());
+            const std::vector<i16> nueva = RutaHallada();
+            ASSERT_TRUE(BuscaSolucion(usada));
+            ASSERT_EQ(RutaHallada(), nueva) << lado;
+            JuegaRuta();
         }
     }
 }
