@@ -203,8 +203,7 @@ void Inicializa() {
     Sigue([] { Gbl.AltoPantalla = Corto(Sistema().AltoPantalla()); });
     CreaRegiones();
     LlenaTextos();
-    PonRecurso(Pic_BmpBoton, "BmpBoton");
-    PonRecurso(Pic_BmpVario, "BmpVario");
+    CargaTeselas();
     CargaSugerencias();
     Gbl.HoraUltimaSugerencia = Sistema().timeGetTime() - ESPERA_SUGERENCIA;
 }

@@ -87,7 +87,7 @@ void PintaMarco() {
 }
 
 void ColocaBotones() {
-    if (Pic_BmpBoton.Width() == 0) PonRecurso(Pic_BmpBoton, "BmpBoton");
+    CargaTeselas();
     const i32 arriba = Tex_Mensaje.Top + Tex_Mensaje.Height() + lugar::BajoTexto;
     for (const BotonMensaje& b : BOTONES) {
         b.cuadro->Mueve(b.izquierda, arriba);
@@ -158,6 +158,11 @@ bool PonRecurso(Superficie& destino, const std::string& nombre) {
     destino.Tamano(mapa->Ancho, mapa->Alto);
     destino.PonPicture(mapa);
     return true;
+}
+
+void CargaTeselas() {
+    if (Pic_BmpBoton.Width() == 0) PonRecurso(Pic_BmpBoton, "BmpBoton");
+    if (Pic_BmpVario.Width() == 0) PonRecurso(Pic_BmpVario, "BmpVario");
 }
 
 void ConectaMensajes() {

@@ -8,7 +8,7 @@
 namespace tessario {
 
 extern Ventana Mensajes;
-extern Etiqueta Tex_Titulo, Tex_Mensaje;          // of Mensajes
+extern Etiqueta Tex_Titulo, Tex_Mensaje;  // of Mensajes
 extern Cuadro Pic_Si, Pic_No, Pic_BotSalirMensaje, Pic_BotAyudaMensaje;
 
 extern Ventana Careta;
@@ -16,9 +16,12 @@ extern Ventana Careta;
 // Puts their events in place; once, at start.
 void ConectaMensajes();
 void ConectaCareta();
-void ReiniciaVentanas();   // both windows as in a program just started
+void ReiniciaVentanas();  // both windows as in a program just started
 
 // Gives a surface a picture of the program's resources, and its size. False when there is none.
 bool PonRecurso(Superficie& destino, const std::string& nombre);
+// Takes the pictures of the buttons into Pic_BmpBoton and Pic_BmpVario, once: at start, or earlier
+// for a message that comes before.
+void CargaTeselas();
 
 }  // namespace tessario

@@ -8,8 +8,7 @@ namespace tessario {
 
 namespace {
 
-// Greatest disorder of the sliding board, by PiezasPorLado from 3 to 9.
-constexpr i16 LADO_MINIMO = 3, LADO_MAXIMO = 9;
+// Greatest disorder of the sliding board, by PiezasPorLado from LADO_MINIMO to LADO_MAXIMO.
 constexpr i16 MAX_DESORDEN[] = {20, 58, 112, 206, 324, 498, 702};
 
 // By TipoFondo from 1: a bare image is the hardest, numbers are the easiest.

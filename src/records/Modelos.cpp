@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <string_view>
 
+#include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
 #include "pieces/Formas.h"
 #include "records/Texto.h"
@@ -62,27 +63,15 @@ bool EsLibre(std::string_view registro) {
     return Nombre(registro).find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
 }
 
-std::string SinBlancos(const std::string& s) {
-    const auto primero = s.find_first_not_of(' ');
-    if (primero == std::string::npos) return "";
-    return s.substr(primero, s.find_last_not_of(' ') - primero + 1);
-}
-
-// A field of digits; a field that holds anything else counts as 0.
+// A field's number; a field that holds none, or one below 0, counts as 0.
 i16 Campo(std::string_view campo) {
-    i16 valor = 0;
-    for (const char c : campo) {
-        if (c < '0' || c > '9') return 0;
-        valor = static_cast<i16>(valor * 10 + (c - '0'));
-    }
-    return valor;
+    i32 valor = 0;
+    return LeeEntero(campo, valor) && valor > 0 ? Corto(valor) : i16{0};
 }
 
 // A number with leading zeros; too wide a one is cut on the right.
-std::string Columnas(i16 valor, std::size_t ancho) {
-    std::string digitos = std::to_string(valor);
-    if (digitos.size() < ancho) digitos.insert(0, ancho - digitos.size(), '0');
-    return digitos.substr(0, ancho);
+std::string Columnas(i16 valor, i32 ancho) {
+    return Left(Ceros(valor, ancho), ancho);
 }
 
 void LeeBloque(std::string_view bloque, Pieza& p) {
@@ -142,7 +131,7 @@ void MuevePiezas(i32 dx, i32 dy) {
 
 // Name and placements of the pieces as they stand.
 std::string RegistroDeLaMesa(const std::string& nombre) {
-    const std::string columnas = Visible(A1252(SinBlancos(nombre)).substr(0, LARGO_NOMBRE));
+    const std::string columnas = Visible(A1252(Trim(nombre)).substr(0, LARGO_NOMBRE));
     std::string registro = RegistroLibre();
     registro.replace(0, columnas.size(), columnas);
     for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {

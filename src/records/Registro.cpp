@@ -41,21 +41,19 @@ const Campo REGISTRO[] = {
     {98, 2, &Gbl.AtraccionPiezas}, {100, 25, &Gbl.NombrePuzzle},   {125, 7, &Gbl.Dificultad},
 };
 
-struct CampoPieza {
+// A number of an entry of one of the two lists.
+template <class T>
+struct CampoDe {
     i32 columna, ancho;
-    i16 Pieza::*dato;
+    i16 T::*dato;
 };
-constexpr CampoPieza CAMPOS_PIEZA[] = {{1, 4, &Pieza::X},         {5, 4, &Pieza::Y},
-                                       {9, 1, &Pieza::Giro},      {10, 1, &Pieza::Volteo},
-                                       {11, 4, &Pieza::XBien},    {15, 4, &Pieza::YBien},
-                                       {19, 1, &Pieza::GiroBien}, {20, 1, &Pieza::VolteoBien}};
+constexpr CampoDe<Pieza> CAMPOS_PIEZA[] = {{1, 4, &Pieza::X},         {5, 4, &Pieza::Y},
+                                           {9, 1, &Pieza::Giro},      {10, 1, &Pieza::Volteo},
+                                           {11, 4, &Pieza::XBien},    {15, 4, &Pieza::YBien},
+                                           {19, 1, &Pieza::GiroBien}, {20, 1, &Pieza::VolteoBien}};
 constexpr i32 COLUMNA_ORDEN = 21, ANCHO_ORDEN = 3;
 
-struct CampoMovimiento {
-    i32 columna, ancho;
-    i16 Movimiento::*dato;
-};
-constexpr CampoMovimiento CAMPOS_MOVIMIENTO[] = {
+constexpr CampoDe<Movimiento> CAMPOS_MOVIMIENTO[] = {
     {1, 3, &Movimiento::Pieza},         {4, 4, &Movimiento::XAntes},
     {8, 4, &Movimiento::YAntes},        {12, 1, &Movimiento::GiroAntes},
     {13, 1, &Movimiento::VolteoAntes},  {14, 4, &Movimiento::XDespues},
@@ -88,6 +86,11 @@ struct Escritor {
     std::string operator()(const float* v) const { return TextoDificultad(*v); }
     std::string operator()(const std::string* v) const { return A1252(*v); }
 };
+
+template <class T, std::size_t N>
+void PonCampos(std::string& entrada, const CampoDe<T> (&campos)[N], const T& de) {
+    for (const CampoDe<T>& c : campos) Pon(entrada, c.columna, c.ancho, Ceros(de.*c.dato, c.ancho));
+}
 
 std::string Blancos(i32 cuantos) {
     return std::string(static_cast<std::size_t>(std::max(cuantos, 0)), ' ');
@@ -136,6 +139,15 @@ std::string_view Entrada(std::string_view linea, i32 i) {
     return Trozo(linea, (i - 1) * ANCHO_ENTRADA + 1, ANCHO_ENTRADA);
 }
 
+void LeeCampo(std::string_view entrada, i32 columna, i32 ancho, i16& destino) {
+    Sigue([&] { destino = Corto(Numero(Trozo(entrada, columna, ancho))); });
+}
+
+template <class T, std::size_t N>
+void LeeCampos(std::string_view entrada, const CampoDe<T> (&campos)[N], T& destino) {
+    for (const CampoDe<T>& c : campos) LeeCampo(entrada, c.columna, c.ancho, destino.*c.dato);
+}
+
 bool EsJuego(i16 juego) {
     return juego >= JuegoMoviles && juego <= JuegoTangram;
 }
@@ -155,7 +167,7 @@ bool EsPermutacion(const Arreglo<i16>& orden, i32 cuantos) {
 
 bool LadoPosible() {
     if (Gbl.JuegoActual == JuegoDeslizantes)
-        return Gbl.PiezasPorLado >= 3 && Gbl.PiezasPorLado <= 9;
+        return Gbl.PiezasPorLado >= LADO_MINIMO && Gbl.PiezasPorLado <= LADO_MAXIMO;
     return Gbl.JuegoActual == JuegoTangram || Gbl.PiezasPorLado >= 1;
 }
 
@@ -173,24 +185,6 @@ bool MovimientosPosibles() {
         if (p < 1 || p > Gbl.NumPiezas) return false;
     }
     return true;
-}
-
-// Every piece and the hole on a cell of its own. Without that no exchange of pieces could ever
-// make the position solvable.
-bool CeldasDistintas() {
-    const i32 celdas = Gbl.PiezasPorLado * Gbl.PiezasPorLado;
-    std::vector<bool> ocupada(static_cast<std::size_t>(celdas + 1));
-    const auto ocupa = [&](i16 x, i16 y) {
-        const i16 c = CeldaDePosicion(x, y);
-        if (c < 1 || c > celdas || ocupada[static_cast<std::size_t>(c)]) return false;
-        ocupada[static_cast<std::size_t>(c)] = true;
-        return true;
-    };
-    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const Pieza& p = Gbl.Piezas[i];
-        if (!ocupa(p.X, p.Y) || CeldaDePosicion(p.XBien, p.YBien) != i) return false;
-    }
-    return ocupa(Gbl.HuecoX, Gbl.HuecoY);
 }
 
 // ---------------------------------------------------------------- boards of other screens
@@ -228,8 +222,7 @@ std::string EscribePiezas() {
     for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
         std::string entrada = Blancos(ANCHO_ENTRADA);
         Sigue([&] {
-            for (const CampoPieza& c : CAMPOS_PIEZA)
-                Pon(entrada, c.columna, c.ancho, Ceros(Gbl.Piezas[i].*c.dato, c.ancho));
+            PonCampos(entrada, CAMPOS_PIEZA, Gbl.Piezas[i]);
             Pon(entrada, COLUMNA_ORDEN, ANCHO_ORDEN, Ceros(Gbl.OrdenPiezas[i], ANCHO_ORDEN));
         });
         linea += entrada;
@@ -241,10 +234,7 @@ std::string EscribeMovimientos() {
     std::string linea;
     for (i32 i = 1; i <= Gbl.NumMovimientos; ++i) {
         std::string entrada = Blancos(ANCHO_ENTRADA);
-        Sigue([&] {
-            for (const CampoMovimiento& c : CAMPOS_MOVIMIENTO)
-                Pon(entrada, c.columna, c.ancho, Ceros(Gbl.Movimientos[i].*c.dato, c.ancho));
-        });
+        Sigue([&] { PonCampos(entrada, CAMPOS_MOVIMIENTO, Gbl.Movimientos[i]); });
         linea += entrada;
     }
     return linea;
@@ -270,12 +260,8 @@ void LeePiezas(const std::string& linea) {
     const i32 cuantas = std::min<i32>(Gbl.NumPiezas, Gbl.Piezas.Superior());
     for (i32 i = 1; i <= cuantas; ++i) {
         const std::string_view entrada = Entrada(linea, i);
-        for (const CampoPieza& c : CAMPOS_PIEZA)
-            Sigue(
-                [&] { Gbl.Piezas[i].*c.dato = Corto(Numero(Trozo(entrada, c.columna, c.ancho))); });
-        Sigue([&] {
-            Gbl.OrdenPiezas[i] = Corto(Numero(Trozo(entrada, COLUMNA_ORDEN, ANCHO_ORDEN)));
-        });
+        LeeCampos(entrada, CAMPOS_PIEZA, Gbl.Piezas[i]);
+        LeeCampo(entrada, COLUMNA_ORDEN, ANCHO_ORDEN, Gbl.OrdenPiezas[i]);
     }
 }
 
@@ -285,13 +271,8 @@ void LeeMovimientos(const std::string& linea) {
         PonErrorPendiente(ERROR_INDICE);
     }
     Gbl.Movimientos.Redimensiona(Gbl.NumMovimientos);
-    for (i32 i = 1; i <= Gbl.NumMovimientos; ++i) {
-        const std::string_view entrada = Entrada(linea, i);
-        for (const CampoMovimiento& c : CAMPOS_MOVIMIENTO)
-            Sigue([&] {
-                Gbl.Movimientos[i].*c.dato = Corto(Numero(Trozo(entrada, c.columna, c.ancho)));
-            });
-    }
+    for (i32 i = 1; i <= Gbl.NumMovimientos; ++i)
+        LeeCampos(Entrada(linea, i), CAMPOS_MOVIMIENTO, Gbl.Movimientos[i]);
 }
 
 void AdaptaTablero() {
@@ -321,7 +302,7 @@ bool RegistroCoherente() {
                     LadoPosible() && Gbl.NumPiezas == PiezasQueTocan() &&
                     Gbl.Piezas.Superior() == Gbl.NumPiezas &&
                     EsPermutacion(Gbl.OrdenPiezas, Gbl.NumPiezas) && MovimientosPosibles() &&
-                    (Gbl.JuegoActual != JuegoDeslizantes || CeldasDistintas());
+                    (Gbl.JuegoActual != JuegoDeslizantes || CeldasEnRegla());
     });
     return coherente;
 }

@@ -131,13 +131,18 @@ bool TieneSolucion() {
     return suma % 2 == 0;
 }
 
-bool TableroEntero() {
+bool CeldasEnRegla() {
     Arreglo<i16> T;
     if (!MedidasPosibles() || !LlenaCeldas(T)) return false;
-    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const Pieza& p = Gbl.Piezas[i];
-        if (NumeroDe(CasillaDe(p.XBien, p.YBien)) != i || !SobreUnSitio(p.X, p.Y)) return false;
-    }
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
+        if (NumeroDe(CasillaDe(Gbl.Piezas[i].XBien, Gbl.Piezas[i].YBien)) != i) return false;
+    return true;
+}
+
+bool TableroEntero() {
+    if (!CeldasEnRegla()) return false;
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
+        if (!SobreUnSitio(Gbl.Piezas[i].X, Gbl.Piezas[i].Y)) return false;
     return SobreUnSitio(Gbl.HuecoX, Gbl.HuecoY);
 }
 

@@ -23,6 +23,9 @@ void BuscaVecinos();
 // Can the position be brought home by moves? No for a board whose pieces and hole do not take one
 // cell each.
 bool TieneSolucion();
+// Do the pieces and the hole take one cell each, and does each piece belong in its own cell?
+// Without that no exchange of pieces could ever make the position solvable.
+bool CeldasEnRegla();
 // Do the pieces and the hole stand on the homes, one each, and each home in its own cell? Only a
 // damaged record gives a board of which this is not true.
 bool TableroEntero();
