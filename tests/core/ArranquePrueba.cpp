@@ -2,9 +2,12 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <vector>
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Arranque.h"
+#include "core/Ventanas.h"
 #include "pieces/Superficies.h"
 
 namespace tessario {
@@ -37,6 +40,17 @@ protected:
     void MedioSoloLectura() { fs::create_directory(P().carpeta + "CSCD.WRK"); }
     static std::string Global(const std::string& campos) {
         return "\"" + campos + std::string(125 - campos.size(), ' ') + "\"\r\n";
+    }
+    // Starts the program and looks at its state while each message is open; a question gets a yes.
+    void MiraEnCadaAviso(std::vector<std::function<void()>> miradas) {
+        std::size_t i = 0;
+        P().ventanas["Mensajes"] = [&](Ventana&) {
+            ASSERT_LT(i, miradas.size()) << Gbl.TextoMensaje;
+            miradas[i++]();
+            Gbl.RespuestaMensaje = true;
+        };
+        EXPECT_TRUE(Main());
+        EXPECT_EQ(i, miradas.size());
     }
     std::string sistema_;
 
@@ -149,6 +163,59 @@ TEST_F(Arranque, FirstStartOfAllShowsTheTableAndTheWelcome) {
     EXPECT_EQ(fs::current_path(), fs::canonical(P().carpeta));
 }
 
+TEST_F(Arranque, WithoutAnySettingsBothFilesAreToldInTurnBeforeTheTableIsShown) {
+    fs::create_directories(P().carpeta + "Imagenes");
+    std::ofstream(P().carpeta + "Imagenes/a.bmp") << "x";
+    P().imagenes[P().carpeta + "Imagenes/a.bmp"] = Mapa(640, 480, 0x0000FF);
+    const std::string global = "TsR33.ini", juego = "TsR2133.ini";
+    const auto comun = [&] {
+        EXPECT_EQ(Gbl.TituloMensaje, "Error en la carga de datos iniciales");
+        EXPECT_FALSE(Careta.Abierta);
+        EXPECT_FALSE(Mesa.Abierta);
+        EXPECT_EQ(Mesa.Width(), 802);
+        EXPECT_EQ(Gbl.NombresFormas[0], "Rectángulos");
+        EXPECT_TRUE(Gbl.CronoEnMarcha);
+    };
+    MiraEnCadaAviso({[&] {
+                         comun();
+                         EXPECT_NE(Gbl.TextoMensaje.find(global), std::string::npos);
+                         EXPECT_FALSE(fs::exists(P().carpeta + global));
+                         EXPECT_EQ(Pic_Botonera.Width(), 0);  // the panel comes after it
+                     },
+                     [&] {
+                         comun();
+                         EXPECT_NE(Gbl.TextoMensaje.find(P().carpeta + juego), std::string::npos);
+                         EXPECT_EQ(Contenido(P().carpeta + global), Global("210 0500 "));
+                         EXPECT_FALSE(fs::exists(P().carpeta + juego));
+                         EXPECT_EQ(Pic_Botonera.Width(), 141);
+                         EXPECT_EQ(Gbl.Piezas.Superior(), -1);
+                     },
+                     [&] {
+                         EXPECT_EQ(Gbl.TituloMensaje, "TESSARIO  3.3");
+                         EXPECT_TRUE(Mesa.Abierta);
+                         EXPECT_EQ(Gbl.Piezas.Superior(), 25);
+                         EXPECT_TRUE(fs::exists(P().carpeta + juego));
+                     }});
+    EXPECT_EQ(Gbl.JuegoActual, 21);
+}
+
+TEST_F(Arranque, DamagedFileOfTheGlobalFilesGameGivesThatGamesDefaultsInSilence) {
+    Crea(P().carpeta + "TsR33.ini", Global("22-1050-1"));
+    Crea(P().carpeta + "TsR2233.ini", "\"C:\"\r\n\"nada\"\r\n");
+    EXPECT_TRUE(Main());
+    ASSERT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(P().avisos[0].titulo, "TESSARIO  3.3");
+    EXPECT_EQ(Gbl.JuegoActual, 22);
+    EXPECT_EQ(Gbl.PiezasPorLado, 5);
+    EXPECT_EQ(Gbl.NumPiezas, 24);
+    EXPECT_EQ(Gbl.TipoFondo, 2);
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
+    EXPECT_TRUE(Gbl.Sonido);
+    EXPECT_TRUE(Gbl.VentanaInformacion);
+    EXPECT_EQ(Contenido(P().carpeta + "TsR33.ini"), Global("22-1050-1"));
+    EXPECT_FALSE(fs::exists(P().carpeta + "TsR2133.ini"));
+}
+
 TEST_F(Arranque, SplashHoldsASecondAndAHalf) {
     Crea(P().carpeta + "TsR33.ini", Global("220 1000 "));
     const double antes = P().reloj;
@@ -178,6 +245,49 @@ TEST_F(Arranque, NarrowScreenIsAskedAndARefusalEndsTheProgram) {
     EXPECT_NE(P().avisos[0].texto.find("actualmente es de (640x480).  Pulse  Aceptar  para"),
               std::string::npos);
     EXPECT_FALSE(Mesa.Abierta);
+    // Nothing of what comes after has been done.
+    EXPECT_TRUE(Gbl.NombresFormas[0].empty());
+    EXPECT_FALSE(Gbl.CronoEnMarcha);
+    EXPECT_FALSE(fs::exists(P().carpeta + "TsR33.ini"));
+}
+
+TEST_F(Arranque, EightHundredColumnsAreEnoughOneLessIsNot) {
+    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    P().ancho = 800;
+    P().alto = 480;
+    Main();
+    for (const auto& a : P().avisos) EXPECT_NE(a.titulo, "Resolución de pantalla");
+    Sistema().Cierra(Mesa);
+    P().ancho = 799;
+    P().avisos.clear();
+    P().respuestas = {false};
+    EXPECT_FALSE(Main());
+    ASSERT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(P().avisos[0].titulo, "Resolución de pantalla");
+}
+
+TEST_F(Arranque, ScreenIsAskedAboutOnceTheFoldersAreSettledAndBeforeItIsMeasured) {
+    P().ancho = 640;
+    P().alto = 480;
+    P().pruebaModo = -2;
+    Crea(P().carpeta + "TSR33.INI", Global("220 0500 "));
+    MedioSoloLectura();
+    MiraEnCadaAviso({[&] {
+                         EXPECT_EQ(Gbl.TituloMensaje, "Resolución de pantalla");
+                         EXPECT_EQ(Gbl.FinLinea, "\r\n");
+                         EXPECT_EQ(Gbl.CarpetaPrograma, sistema_);
+                         EXPECT_TRUE(fs::exists(sistema_ + "TSR33.INI"));
+                         EXPECT_EQ(Gbl.AnchoPantalla, 0);
+                         EXPECT_EQ(Mensajes.Left, (800 - 405) / 2);
+                         EXPECT_GT(Pic_BmpBoton.Width(), 0);  // its buttons are painted
+                         EXPECT_FALSE(Gbl.CronoEnMarcha);
+                     },
+                     [] { EXPECT_EQ(Gbl.TituloMensaje, "Cambio de resolución de pantalla"); },
+                     [] {
+                         EXPECT_EQ(Gbl.TituloMensaje, "Error en la carga de datos iniciales");
+                         EXPECT_EQ(Gbl.AnchoPantalla, 640);
+                     },
+                     [] { EXPECT_EQ(Gbl.TituloMensaje, "TESSARIO  3.3"); }});
 }
 
 TEST_F(Arranque, SmallNumbersOfTheScreenStandInThreeColumns) {
@@ -244,13 +354,19 @@ TEST_F(Arranque, ReadOnlyMediumPlaysFromItsWorkingFolder) {
     MedioSoloLectura();
     Main();
     Gbl.SegundosJuego = 55;
+    Gbl.VelocidadJuego = 61;
+    Gbl.VentanaInformacion = true;
     TerminaPrograma();
+    EXPECT_EQ(Contenido(P().carpeta + "TSR33.INI"), Global("220 0500 "));
     EXPECT_TRUE(fs::exists(sistema_ + "TsR2233.ini"));
     EXPECT_FALSE(fs::exists(P().carpeta + "TsR2233.ini"));
     Gbl = Bloque{};
     P().avisos.clear();
     Main();
     EXPECT_EQ(Gbl.SegundosJuego, 55);
+    EXPECT_EQ(Gbl.VelocidadJuego, 61);
+    EXPECT_TRUE(Gbl.VentanaInformacion);
+    EXPECT_EQ(Gbl.CarpetaImagenes, P().carpeta + "Imagenes/");
     EXPECT_EQ(P().avisos.size(), 1U);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Configuracion.h"
@@ -159,6 +160,22 @@ TEST_F(Reglas, SeedOfZeroStillGivesRandomNumbers) {
 
 namespace {
 
+// Notes after each presentation which pieces show on the back picture.
+class PlataformaQueMira : public PlataformaPrueba {
+public:
+    std::vector<std::vector<i16>> vistas;
+    void Presenta() override {
+        PlataformaPrueba::Presenta();
+        std::vector<i16> v;
+        for (i32 i = 1; i <= Gbl.Piezas.Superior(); ++i) {
+            const Pieza& p = Gbl.Piezas[i];
+            if (Pic_Imagen.Point(p.X + 8, p.Y + 8) == Gbl.ColorPiezas)
+                v.push_back(static_cast<i16>(i));
+        }
+        vistas.push_back(v);
+    }
+};
+
 class Tendido : public PruebaBase {
 protected:
     void Monta(i16 juego) {
@@ -188,6 +205,36 @@ TEST_F(Tendido, EveryPieceOfTheSlidingBoardIsSeenBeingLaid) {
     EXPECT_EQ(Pic_Trabajo.Point(Gbl.HuecoX + 20, Gbl.HuecoY + 20), Gbl.ColorFondo);
     for (i16 i = 1; i <= 8; ++i)
         EXPECT_EQ(Pic_Trabajo.Point(Gbl.Piezas[i].X + 8, Gbl.Piezas[i].Y + 8), Gbl.ColorPiezas);
+}
+
+TEST_F(Tendido, SlidingBoardIsLaidFromTheFirstOfTheStackTheJigsawFromTheLast) {
+    PlataformaQueMira mira;
+    PonSistema(&mira);
+    for (const i16 juego : {JuegoDeslizantes, JuegoMoviles}) {
+        Monta(juego);
+        const i16 n = Gbl.NumPiezas;
+        for (i16 i = 1; i <= n; ++i) Gbl.OrdenPiezas[i] = static_cast<i16>(i % n + 1);
+        if (juego == JuegoMoviles) {
+            // Each apart from the others, of one colour.
+            Pic_Bitmap.PonPicture(nullptr);
+            Pic_Bitmap.PonBackColor(Gbl.ColorPiezas);
+            for (i16 i = 1; i <= n; ++i) {
+                Gbl.Piezas[i].X = static_cast<i16>((i - 1) % 3 * 150);
+                Gbl.Piezas[i].Y = static_cast<i16>((i - 1) / 3 * 150);
+                Gbl.Piezas[i].Giro = 0;
+            }
+        }
+        mira.vistas.clear();
+        ColocaPiezas(0);
+        ASSERT_GE(mira.vistas.size(), static_cast<std::size_t>(n));
+        for (i16 k = 1; k <= n; ++k) {
+            std::vector<i16> puestas;
+            for (i16 j = 1; j <= k; ++j)
+                puestas.push_back(Gbl.OrdenPiezas[juego == JuegoDeslizantes ? j : n + 1 - j]);
+            std::sort(puestas.begin(), puestas.end());
+            EXPECT_EQ(mira.vistas[static_cast<std::size_t>(k - 1)], puestas) << juego;
+        }
+    }
 }
 
 TEST_F(Tendido, WithAnotherModeThePictureIsLaidButNotShown) {
