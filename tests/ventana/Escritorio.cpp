@@ -242,11 +242,31 @@ Foto Escritorio::Mira() {
     return f;
 }
 
-bool Escritorio::HayVentana(const std::string& titulo) {
+bool Escritorio::BuscaVentana(const std::string& titulo, Marco& marco) {
+    const Window raiz = DefaultRootWindow(d_);
     const int todo = DisplayWidth(d_, DefaultScreen(d_));
-    return Recorre(d_, DefaultRootWindow(d_), [&](Window w, const XWindowAttributes& a) {
-        return a.width < todo && EsTitulo(Propiedad(d_, w, "_NET_WM_NAME"), titulo);
+    return Recorre(d_, raiz, [&](Window w, const XWindowAttributes& a) {
+        if (a.width >= todo || !EsTitulo(Propiedad(d_, w, "_NET_WM_NAME"), titulo)) return false;
+        Window hija = 0;
+        marco = {0, 0, a.width, a.height};
+        XTranslateCoordinates(d_, w, raiz, 0, 0, &marco.x, &marco.y, &hija);
+        return true;
     });
+}
+
+bool Escritorio::HayVentana(const std::string& titulo) {
+    Marco marco;
+    return BuscaVentana(titulo, marco);
+}
+
+bool Escritorio::Responde(const std::string& titulo, bool si) {
+    // The buttons' centres, from the window's right and lower edge.
+    constexpr int NO = 39, SI = 102, ALTURA = 37;
+    Marco m;
+    if (!Espera([&] { return BuscaVentana(titulo, m); })) return false;
+    EsperaAtendido();
+    Pulsa(m.x + m.ancho - (si ? SI : NO), m.y + m.alto - ALTURA);
+    return Espera([&] { return !HayVentana(titulo); });
 }
 
 unsigned long Escritorio::VentanaDelPrograma() {
@@ -487,9 +507,13 @@ void Programa::Mata() {
     pid_ = 0;
 }
 
-bool Programa::Sale() {
-    const Lugar b = Boton(7);
+void Programa::PulsaBoton(int indice) {
+    const Lugar b = Boton(indice);
     e_.Pulsa(b.x, b.y);
+}
+
+bool Programa::Sale() {
+    PulsaBoton(7);
     if (!e_.Espera([&] { return e_.HayVentana("Salir de TESSARIO"); })) return false;
     e_.EsperaQuieto(120);
     e_.Tecla("Return");

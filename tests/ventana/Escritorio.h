@@ -46,6 +46,12 @@ public:
     Foto Mira();
     // Is a window of this title on the screen? The table, which fills the screen, does not count.
     bool HayVentana(const std::string& titulo);
+    struct Marco {
+        int x = 0, y = 0, ancho = 0, alto = 0;
+    };
+    bool BuscaVentana(const std::string& titulo, Marco& marco);
+    // Waits for a message and clicks its yes or its no; of a message with one button, no closes it.
+    bool Responde(const std::string& titulo, bool si);
     // Waits until the condition holds, looking every few milliseconds. False: it never did.
     bool Espera(const std::function<bool()>& condicion, int milisegundos = 15000);
     // Waits until the program has dealt with all input so far, and what it painted is seen. While a
@@ -119,6 +125,7 @@ public:
     bool Vive();
     int EsperaFin(int milisegundos = 8000);  // exit status, -1 while it still runs
     void Mata();
+    void PulsaBoton(int indice);  // with the mouse
     // Leaves through the exit button, answering yes.
     bool Sale();
     PartidaLeida LeePartida(int juego) const;
