@@ -82,7 +82,6 @@ void ConectaBoton(i16 i) {
     };
     // Reached by keyboard, a button learns of its state without a move of the mouse.
     boton.GotFocus = [i] { Sigue([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
-    boton.KeyDown = [i](i16, i16) { Sigue([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
 }
 
 void ConectaTira() {

@@ -134,8 +134,16 @@ TEST_F(Ordenes, KeyboardFocusFreshensTheStateLikeThePointer) {
     Pic_Boton(11).GotFocus();
     EXPECT_EQ(Gbl.BotonEstado[11], 12);
     Gbl.PuzzleTerminado = false;
-    Pic_Boton(11).KeyDown(32, 0);
+    Pic_Boton(11).MouseMove(0, 0, 24, 24);  // comes before every press, from the keyboard too
     EXPECT_EQ(Gbl.BotonEstado[11], 23);
+}
+
+TEST_F(Ordenes, ButtonsTakeNoKeysOfTheirOwnSoThatSpacePressesThem) {
+    for (i16 i = 1; i <= 12; ++i) {
+        EXPECT_TRUE(Pic_Boton(i).TabStop) << i;
+        EXPECT_FALSE(Pic_Boton(i).KeyDown) << i;
+        EXPECT_FALSE(Pic_Boton(i).KeyPress) << i;
+    }
 }
 
 // ---------------------------------------------------------------- common steps

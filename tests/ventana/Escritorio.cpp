@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <thread>
 
@@ -26,24 +27,38 @@ void Duerme(int ms) {
     std::this_thread::sleep_for(std::chrono::milliseconds(ms));
 }
 
-// Starts a program with its output thrown away; `descriptor` stays open in it.
-pid_t Lanza(const std::vector<std::string>& orden, const std::string& pantalla, int descriptor,
-            const std::string& carpeta = "") {
+// Starts a program with its output thrown away, or its errors in a file; `descriptor` stays open in
+// it.
+struct Lanzamiento {
+    std::vector<std::string> orden;
+    std::string pantalla;
+    int descriptor = -1;
+    Entorno entorno = {};
+    std::string errores = "/dev/null";
+};
+
+pid_t Lanza(const Lanzamiento& l) {
     const pid_t pid = fork();
     if (pid != 0) return pid;
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // nothing outlives a test that is stopped
-    if (!pantalla.empty()) setenv("DISPLAY", pantalla.c_str(), 1);
+    if (!l.pantalla.empty()) setenv("DISPLAY", l.pantalla.c_str(), 1);
     unsetenv("WAYLAND_DISPLAY");
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    if (!carpeta.empty()) setenv("XDG_DATA_HOME", (carpeta + "datos").c_str(), 1);
-    if (!getenv("TESSARIO_VER_SALIDA")) {
-        if (!freopen("/dev/null", "w", stdout) || !freopen("/dev/null", "w", stderr)) _exit(126);
+    for (const auto& [nombre, valor] : l.entorno) {
+        if (valor.empty())
+            unsetenv(nombre.c_str());
+        else
+            setenv(nombre.c_str(), valor.c_str(), 1);
+    }
+    if (!getenv("TESSARIO_VER_SALIDA") || l.errores != "/dev/null") {
+        if (!freopen("/dev/null", "w", stdout)) _exit(126);
+        if (!freopen(l.errores.c_str(), "w", stderr)) _exit(126);
     }
     for (int fd = 3; fd < 64; ++fd)
-        if (fd != descriptor) close(fd);
+        if (fd != l.descriptor) close(fd);
     std::vector<char*> args;
-    for (const auto& a : orden) args.push_back(const_cast<char*>(a.c_str()));
+    for (const auto& a : l.orden) args.push_back(const_cast<char*>(a.c_str()));
     args.push_back(nullptr);
     execvp(args[0], args.data());
     _exit(127);
@@ -143,10 +158,11 @@ void Foto::Guarda(const std::string& nombre) const {
 Escritorio::Escritorio(int ancho, int alto) {
     int tubo[2];
     if (pipe(tubo) != 0) throw std::runtime_error("pipe");
-    servidor_ = Lanza({"Xvfb", "-displayfd", std::to_string(tubo[1]), "-screen", "0",
-                       std::to_string(ancho) + "x" + std::to_string(alto) + "x24", "-nolisten",
-                       "tcp", "-noreset"},
-                      "", tubo[1]);
+    servidor_ = Lanza({{"Xvfb", "-displayfd", std::to_string(tubo[1]), "-screen", "0",
+                        std::to_string(ancho) + "x" + std::to_string(alto) + "x24", "-nolisten",
+                        "tcp", "-noreset"},
+                       "",
+                       tubo[1]});
     close(tubo[1]);
     std::string numero;
     char c = 0;
@@ -159,7 +175,7 @@ Escritorio::Escritorio(int ancho, int alto) {
     if (!d_) throw std::runtime_error("cannot open the private display");
     // The answers to the pings come to the root window.
     XSelectInput(d_, DefaultRootWindow(d_), StructureNotifyMask);
-    gestor_ = Lanza({"openbox"}, nombre_, -1);
+    gestor_ = Lanza({{"openbox"}, nombre_});
     // The manager announces itself on the root window.
     const Atom marca = XInternAtom(d_, "_NET_SUPPORTING_WM_CHECK", False);
     Espera([&] {
@@ -475,17 +491,32 @@ void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int 
     EscribeBytes("Imagenes/" + nombre, b);
 }
 
-bool Programa::Arranca(bool cierraBienvenida) {
-    pid_ = Lanza({carpeta_ + "tessario"}, e_.Nombre(), -1, carpeta_);
+void Programa::Lanzalo(const Entorno& entorno) {
+    Entorno todo{{"XDG_DATA_HOME", carpeta_ + "datos"}};
+    todo.insert(todo.end(), entorno.begin(), entorno.end());
+    pid_ = Lanza({{carpeta_ + "tessario"}, e_.Nombre(), -1, todo, carpeta_ + "errores.txt"});
     estado_ = -1;
-    if (!e_.Espera([&] { return e_.HayVentana("TESSARIO  3.3") || !Vive(); }, 15000)) return false;
-    if (!Vive()) return false;
+}
+
+std::string Programa::Errores() const {
+    std::ifstream f(carpeta_ + "errores.txt", std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+bool Programa::LlegaALaMesa(bool cierraBienvenida) {
+    const auto llega = [&] { return e_.HayVentana("TESSARIO  3.3"); };
+    if (!e_.Espera([&] { return llega() || !Vive(); }, 30000) || !Vive()) return false;
     e_.EsperaQuieto();
     if (!cierraBienvenida) return true;
     e_.Tecla("Return");
-    if (!e_.Espera([&] { return !e_.HayVentana("TESSARIO  3.3"); })) return false;
+    if (!e_.Espera([&] { return !llega(); })) return false;
     e_.EsperaQuieto();
     return Vive();
+}
+
+bool Programa::Arranca(bool cierraBienvenida) {
+    Lanzalo();
+    return LlegaALaMesa(cierraBienvenida);
 }
 
 bool Programa::Vive() {

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 struct _XDisplay;
@@ -28,6 +29,9 @@ struct Foto {
     int Diferencia(const Foto& otra, int x, int y, int w, int h) const;
     void Guarda(const std::string& nombre) const;  // PNG in the build's folder of screens
 };
+
+// Variables of the environment; an empty value takes the variable out.
+using Entorno = std::vector<std::pair<std::string, std::string>>;
 
 class Escritorio {
 public:
@@ -122,6 +126,10 @@ public:
     static unsigned ColorDeCuadro(int i);
 
     bool Arranca(bool cierraBienvenida = true);  // until the table is on the screen
+    // The same in two steps, for what comes in between.
+    void Lanzalo(const Entorno& entorno = {});
+    bool LlegaALaMesa(bool cierraBienvenida = true);
+    std::string Errores() const;  // what it wrote on its error output
     bool Vive();
     int EsperaFin(int milisegundos = 8000);  // exit status, -1 while it still runs
     void Mata();

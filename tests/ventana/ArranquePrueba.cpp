@@ -1,0 +1,167 @@
+// The real program started where things are missing or damaged: it tells, goes on, and leaves in
+// order.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "ventana/Escritorio.h"
+
+namespace tessario::ventana {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char *SIN_AJUSTES = "Error en la carga de datos iniciales",
+                     *SIN_IMAGEN = "Imagen del puzzle", *NO_VALIDA = "Imagen no válida",
+                     *RESOLUCION = "Resolución de pantalla",
+                     *CAMBIO = "Cambio de resolución de pantalla";
+
+std::string Entero(unsigned v, int bytes) {
+    std::string s;
+    for (int i = 0; i < bytes; ++i) s += static_cast<char>(v >> (8 * i));
+    return s;
+}
+
+// The header of a 24-bit bitmap and then `datos`, however many it announces.
+std::string Bmp(unsigned ancho, unsigned alto, const std::string& datos) {
+    return "BM" + Entero(static_cast<unsigned>(54 + datos.size()), 4) + Entero(0, 4) +
+           Entero(54, 4) + Entero(40, 4) + Entero(ancho, 4) + Entero(alto, 4) + Entero(1, 2) +
+           Entero(24, 2) + Entero(0, 24) + datos;
+}
+
+void VaciaImagenes(const Programa& programa) {
+    for (const auto& f : fs::directory_iterator(programa.Carpeta() + "Imagenes"))
+        fs::remove(f.path());
+}
+
+void PonImagenesMalas(Programa& programa) {
+    programa.EscribeBytes("Imagenes/enorme.bmp", Bmp(20000, 20000, "abc"));
+    programa.EscribeBytes("Imagenes/punto.bmp", Bmp(1, 1, std::string(4, '\x40')));
+    programa.EscribeBytes("Imagenes/texto.jpg", "esto no es una imagen\n");
+    programa.EscribeBytes("Imagenes/vacia.jpg", "");
+}
+
+TEST(ArranqueVentana, WithoutAUsablePictureTheJigsawStartsOnAnEmptyOne) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    VaciaImagenes(programa);
+    for (const bool malas : {false, true}) {
+        if (malas) PonImagenesMalas(programa);
+        fs::remove(programa.Carpeta() + "TsR2133.ini");
+        programa.EscribeGlobal(21, 100);
+        programa.Lanzalo();
+        ASSERT_TRUE(e.Responde(SIN_AJUSTES, false)) << malas;
+        ASSERT_TRUE(e.Responde(SIN_IMAGEN, false)) << malas;
+        ASSERT_TRUE(programa.LlegaALaMesa()) << malas;
+        e.Mira().Guarda("arranque-sin-imagen");
+        ASSERT_TRUE(programa.Sale()) << malas;
+        EXPECT_GE(programa.LeePartida(21).piezas.size(), 9U);
+    }
+}
+
+// A game whose own picture is no good begins anew with the first good one of the folder.
+TEST(ArranqueVentana, ARecordWithABadPictureDoesNotStopTheProgram) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    VaciaImagenes(programa);
+    programa.EscribeImagenDeCuadros("zz.bmp", 480, 360, 3);
+    PonImagenesMalas(programa);
+    programa.EscribeGlobal(21, 100);
+    for (const char* imagen : {"texto.jpg", "enorme.bmp", "ninguna.jpg"}) {
+        PartidaGuardada p;
+        p.imagen = imagen;
+        p.anchoImagen = 480;
+        p.altoImagen = 360;
+        p.piezas.resize(9);
+        programa.EscribePartida(p);
+        programa.Lanzalo();
+        ASSERT_TRUE(programa.LlegaALaMesa()) << imagen;
+        ASSERT_TRUE(programa.Sale()) << imagen;
+        EXPECT_EQ(programa.LeePartida(21).imagen, "zz.bmp") << imagen;
+    }
+    // A sound picture that is too small is told of.
+    PartidaGuardada p;
+    p.imagen = "punto.bmp";
+    p.anchoImagen = p.altoImagen = 1;
+    p.piezas.resize(9);
+    programa.EscribePartida(p);
+    programa.Lanzalo();
+    ASSERT_TRUE(e.Responde(NO_VALIDA, false));
+    ASSERT_TRUE(programa.LlegaALaMesa());
+    EXPECT_TRUE(programa.Sale());
+}
+
+TEST(ArranqueVentana, ADamagedGlobalFileIsReplaced) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    std::string basura;
+    for (int i = 0; i < 5000; ++i) basura += static_cast<char>(i * 7 % 256);
+    programa.EscribeBytes("TsR33.ini", basura);
+    PartidaGuardada p;
+    p.imagen = "cuadros.bmp";
+    p.anchoImagen = 480;
+    p.altoImagen = 360;
+    p.piezas.resize(9);
+    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
+    programa.EscribePartida(p);
+    ASSERT_TRUE(programa.Arranca());
+    ASSERT_TRUE(programa.Sale());
+    std::ifstream f(programa.Carpeta() + "TsR33.ini", std::ios::binary);
+    const std::string linea{std::istreambuf_iterator<char>(f), {}};
+    EXPECT_EQ(linea.substr(0, 3), "\"21");
+    EXPECT_EQ(linea.size(), 125U + 4U);
+}
+
+TEST(ArranqueVentana, ASmallScreenIsAskedAbout) {
+    Escritorio e(640, 480);
+    Programa programa(e);
+    programa.EscribeGlobal(23, 100);
+    PartidaGuardada p;
+    p.juego = 23;
+    p.piezas.resize(7);
+    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 40 * i;
+    programa.EscribePartida(p);
+    programa.Lanzalo();
+    ASSERT_TRUE(e.Responde(RESOLUCION, false));
+    EXPECT_EQ(programa.EsperaFin(), 0) << "cancelled: the end, in order";
+
+    programa.Lanzalo();
+    ASSERT_TRUE(e.Responde(RESOLUCION, true));
+    ASSERT_TRUE(e.Responde(CAMBIO, false));
+    ASSERT_TRUE(programa.LlegaALaMesa());
+    e.Mira().Guarda("arranque-640");
+    EXPECT_TRUE(programa.Sale());
+}
+
+TEST(ArranqueVentana, WithoutASoundDeviceThePlayGoesOn) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    PartidaGuardada p;
+    p.juego = 23;
+    p.piezas.resize(7);
+    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 80 * i;
+    for (const char* driver : {"", "ninguno"}) {
+        programa.EscribeGlobal(23, 100, true);
+        programa.EscribePartida(p);
+        programa.Lanzalo({{"SDL_AUDIODRIVER", driver}});
+        ASSERT_TRUE(programa.LlegaALaMesa()) << driver;
+        const Foto antes = e.Mira();
+        programa.PulsaBoton(1);  // with its sound, and the deal
+        EXPECT_TRUE(e.Espera([&] { return e.Mira().Diferencia(antes, 0, 0, 659, 600) > 500; }));
+        EXPECT_TRUE(programa.Sale()) << driver;
+    }
+}
+
+TEST(ArranqueVentana, WithoutADisplayItSaysSoAndFails) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    for (const char* pantalla : {"", ":9876"}) {
+        programa.Lanzalo({{"DISPLAY", pantalla}});
+        EXPECT_EQ(programa.EsperaFin(), 1) << pantalla;
+        EXPECT_NE(programa.Errores().find("tessario: no hay ninguna pantalla"), std::string::npos)
+            << programa.Errores();
+    }
+}
+
+}  // namespace
+}  // namespace tessario::ventana
