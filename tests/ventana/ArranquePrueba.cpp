@@ -152,6 +152,39 @@ TEST(ArranqueVentana, WithoutASoundDeviceThePlayGoesOn) {
     }
 }
 
+std::string Bytes(const std::string& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+TEST(ArranqueVentana, AFolderThatCannotBeWrittenIsWorkedOnInACopy) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    programa.EscribeGlobal(23, 100);
+    PartidaGuardada p;
+    p.juego = 23;
+    p.piezas.resize(7);
+    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 80 * i;
+    programa.EscribePartida(p);
+    const std::string original = Bytes(programa.Carpeta() + "TsR2333.ini");
+    const fs::path datos = fs::path(programa.Carpeta()).parent_path().string() + "-datos";
+    programa.CierraCarpeta(datos.string());
+    programa.Lanzalo({{"XDG_DATA_HOME", datos.string()}, {"HOME", datos.string()}});
+    ASSERT_TRUE(programa.LlegaALaMesa());
+    EXPECT_TRUE(programa.Sale());
+    EXPECT_EQ(Bytes(programa.Carpeta() + "TsR2333.ini"), original) << "the original is untouched";
+    int globales = 0, partidas = 0, modelos = 0;
+    for (const auto& f : fs::recursive_directory_iterator(datos)) {
+        globales += f.path().filename() == "TsR33.ini" || f.path().filename() == "TSR33.INI";
+        partidas += f.path().filename() == "TsR2333.ini" || f.path().filename() == "TSR2333.INI";
+        modelos += f.path().filename() == "MODELOS.TPU" || f.path().filename() == "Modelos.tpu";
+    }
+    EXPECT_EQ(globales, 1);
+    EXPECT_EQ(partidas, 1);
+    EXPECT_EQ(modelos, 1);
+    fs::remove_all(datos);
+}
+
 TEST(ArranqueVentana, WithoutADisplayItSaysSoAndFails) {
     Escritorio e(800, 600);
     Programa programa(e);

@@ -35,11 +35,14 @@ struct Lanzamiento {
     int descriptor = -1;
     Entorno entorno = {};
     std::string errores = "/dev/null";
+    bool ajeno = false;  // as a user who owns nothing, where we may choose
 };
 
 pid_t Lanza(const Lanzamiento& l) {
     const pid_t pid = fork();
     if (pid != 0) return pid;
+    constexpr unsigned NADIE = 65534;
+    const bool cambia = l.ajeno && geteuid() == 0;
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // nothing outlives a test that is stopped
     if (!l.pantalla.empty()) setenv("DISPLAY", l.pantalla.c_str(), 1);
     unsetenv("WAYLAND_DISPLAY");
@@ -55,6 +58,8 @@ pid_t Lanza(const Lanzamiento& l) {
         if (!freopen("/dev/null", "w", stdout)) _exit(126);
         if (!freopen(l.errores.c_str(), "w", stderr)) _exit(126);
     }
+    if (cambia && (setgid(NADIE) != 0 || setuid(NADIE) != 0)) _exit(125);
+    if (cambia) prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (int fd = 3; fd < 64; ++fd)
         if (fd != l.descriptor) close(fd);
     std::vector<char*> args;
@@ -401,6 +406,9 @@ Programa::Programa(Escritorio& e) : e_(e) {
 Programa::~Programa() {
     Mata();
     std::error_code error;
+    if (cerrada_)
+        for (const char* sub : {"", "Imagenes", "Archivo"})
+            std::filesystem::permissions(carpeta_ + sub, std::filesystem::perms::owner_all, error);
     std::filesystem::remove_all(carpeta_, error);
 }
 
@@ -494,8 +502,24 @@ void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int 
 void Programa::Lanzalo(const Entorno& entorno) {
     Entorno todo{{"XDG_DATA_HOME", carpeta_ + "datos"}};
     todo.insert(todo.end(), entorno.begin(), entorno.end());
-    pid_ = Lanza({{carpeta_ + "tessario"}, e_.Nombre(), -1, todo, carpeta_ + "errores.txt"});
+    pid_ = Lanza({{carpeta_ + "tessario"},
+                  e_.Nombre(),
+                  -1,
+                  todo,
+                  cerrada_ ? "/dev/null" : carpeta_ + "errores.txt",
+                  cerrada_});
     estado_ = -1;
+}
+
+void Programa::CierraCarpeta(const std::string& datos) {
+    namespace fs = std::filesystem;
+    fs::create_directories(datos);
+    fs::permissions(datos, fs::perms::all);
+    constexpr auto leer = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+    constexpr auto entrar = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+    for (const char* sub : {"Imagenes", "Archivo", ""})
+        fs::permissions(carpeta_ + sub, leer | entrar);
+    cerrada_ = true;
 }
 
 std::string Programa::Errores() const {

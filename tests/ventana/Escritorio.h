@@ -129,6 +129,8 @@ public:
     // The same in two steps, for what comes in between.
     void Lanzalo(const Entorno& entorno = {});
     bool LlegaALaMesa(bool cierraBienvenida = true);
+    // From now on the program may not write into its folder; `datos` is made for what it keeps.
+    void CierraCarpeta(const std::string& datos);
     std::string Errores() const;  // what it wrote on its error output
     bool Vive();
     int EsperaFin(int milisegundos = 8000);  // exit status, -1 while it still runs
@@ -152,6 +154,7 @@ private:
     std::string carpeta_;
     pid_t pid_ = 0;
     int estado_ = -1;
+    bool cerrada_ = false;
 };
 
 }  // namespace tessario::ventana

@@ -59,11 +59,9 @@ TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
         EXPECT_EQ(e.Mira().En(c.x, c.y), Programa::ColorDeCuadro(static_cast<int>(i)));
         for (int vueltas = q.giro == 0 ? 0 : 4 - q.giro; vueltas > 0; --vueltas) {
             e.Pulsa(c.x, c.y, 3);
-            e.EsperaQuieto(220);
         }
         // Six pixels off: the attraction does the rest.
         e.Arrastra(c.x, c.y, q.xBien + CELDA_ANCHO / 2 + 6, q.yBien + CELDA_ALTO / 2 - 6);
-        if (i < 8) e.EsperaQuieto(150);
     }
     ASSERT_TRUE(e.Espera([&] { return e.HayVentana("TESSARIO"); }));
     e.EsperaQuieto();

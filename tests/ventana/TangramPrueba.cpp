@@ -111,7 +111,7 @@ TEST(TangramVentana, FigureIsSolvedWithDragsTurnsAndTheFlip) {
             e.Pulsa(coge.x, coge.y, 3);
             q = Girada(n, q);
         }
-        e.EsperaQuieto(220);
+        e.EsperaAtendido();
         const Sitio desde = Dentro(n, q);
         ASSERT_EQ(e.Mira().En(desde.x, desde.y), VERDE) << "piece " << n;
         PiezaGuardada meta = q;
@@ -120,7 +120,6 @@ TEST(TangramVentana, FigureIsSolvedWithDragsTurnsAndTheFlip) {
         const Sitio hasta = Dentro(n, meta);
         e.Arrastra(desde.x, desde.y, hasta.x + 3, hasta.y - 3);
         if (n == 4) e.Mira().Guarda("tangram-mitad");
-        if (n < 7) e.EsperaQuieto(150);
     }
     ASSERT_TRUE(e.Espera([&] { return e.HayVentana("TESSARIO"); }));
     e.Mira().Guarda("tangram-fin");
