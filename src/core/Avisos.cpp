@@ -8,6 +8,7 @@ namespace aviso {
 
 namespace {
 constexpr std::string_view TITULO_MODO = "Cambio de resolución de pantalla";
+constexpr std::string_view TITULO_HISTORICO = "Histórico de puzzles resueltos";
 constexpr std::string_view TITULO_CARGA = "Error en la carga de datos iniciales";
 }  // namespace
 
@@ -77,6 +78,46 @@ const Aviso SIN_SOLUCION{
     "automáticamente para  que  pueda tener solución.",
     3, 1, 3020};
 
+const Aviso YA_RESUELTO{
+    "Puzzle resuelto",
+    "Este puzzle ya se ha resuelto. Si desea deshacerlo y volver atrás, utilice la "
+    "Grabadora de movimientos.",
+    2, 1, 2200};
+const Aviso RESUELTO{"TESSARIO", "Ha conseguido resolver el puzzle", 1, 1, 0};
+const Aviso AL_HISTORICO{TITULO_HISTORICO, "¿Se actualiza el Histórico de puzzles?", 1, 2, 2161};
+const Aviso ERROR_HISTORICO{TITULO_HISTORICO, "HIS ERROR %1", 1, 1, 0, {"75"}};
+
+const Aviso MEZCLA_TANGRAM{
+    "Barajar las piezas del Tangram",
+    "Si pulsa este botón cuando está resolviendo un modelo, se despejará  la  mesa  de  "
+    "juego  para  que  pueda  crear  sus propios  diseños,   por  lo   que  finalizará  "
+    "la  resolución  del modelo actual  y  se  mezclarán las piezas.   Pulse  el  botón "
+    "Aceptar para mezclar las piezas. Si pulsa el botón Cancelar podrá continuar "
+    "resolviendo el modelo actual.",
+    6, 2, 2180};
+const Aviso ORDEN_A_MANO{
+    "Ordenar las piezas manualmente",
+    "Si pulsa este botón  para  colocar manualmente  las  piezas, cuando finalize  ese  proceso "
+    "comenzará  la  resolución  del puzzle  con  las  piezas  en  la  posición  que  Usted  "
+    "prefiera. Pulse el botón Aceptar para colocar las piezas como desee y  comenzar  un  nuevo  "
+    "puzzle.  Si  pulsa  el  botón  Cancelar podrá continuar resolviendo el puzzle actual.",
+    6, 2, 2184};
+const Aviso ORDEN_INSOLUBLE{
+    "Configuración sin solución",
+    "Este puzzle no tiene solución con la configuración de piezas actual.  Pulse el botón Aceptar "
+    "para que el programa baraje automáticamente  las  piezas  y  obtenga  una  configuración "
+    "soluble.  Si pulsa el botón Cancelar podrá seguir ordenando las piezas hasta obtener  una  "
+    "configuración  que  permita su solución.",
+    6, 2, 3020};
+
+const Aviso SALIR{"Salir de TESSARIO", "¿Desea abandonar el programa?", 1, 2, 0};
+const Aviso SALIR_GRABADORA{
+    "Salir del programa",
+    "Tiene que apagar la Grabadora de movimientos antes de poder salir del programa.", 2, 1, 2170};
+const Aviso ARCHIVO_GRABADORA{
+    "Grabadora encendida",
+    "Tiene que apagar la Grabadora de jugadas antes de poder cargar o guardar un puzzle.", 2, 1, 0};
+
 }  // namespace aviso
 
 std::span<const Aviso* const> Avisos() {
@@ -85,7 +126,10 @@ std::span<const Aviso* const> Avisos() {
         &aviso::MODO_REINICIO,     &aviso::MODO_FALLIDO,     &aviso::BIENVENIDA,
         &aviso::SIN_CONFIGURACION, &aviso::SIN_AJUSTES,      &aviso::ERROR_CONFIGURACION,
         &aviso::ERROR_AJUSTES,     &aviso::IMAGEN_NO_VALIDA, &aviso::SIN_IMAGENES,
-        &aviso::SIN_SOLUCION};
+        &aviso::SIN_SOLUCION,      &aviso::YA_RESUELTO,      &aviso::RESUELTO,
+        &aviso::AL_HISTORICO,      &aviso::ERROR_HISTORICO,  &aviso::MEZCLA_TANGRAM,
+        &aviso::ORDEN_A_MANO,      &aviso::ORDEN_INSOLUBLE,  &aviso::SALIR,
+        &aviso::SALIR_GRABADORA,   &aviso::ARCHIVO_GRABADORA};
     return TODOS;
 }
 

@@ -1,4 +1,4 @@
-// The fixed messages of the core and the records, with the room that each was given, in one table:
+// The fixed messages of the game, with the room that each was given, in one table:
 // what the player reads is found here, and the tests of the window measure every text against its
 // number of lines.
 #pragma once
@@ -28,6 +28,9 @@ extern const Aviso BIENVENIDA;
 extern const Aviso SIN_CONFIGURACION, SIN_AJUSTES, ERROR_CONFIGURACION, ERROR_AJUSTES;
 extern const Aviso IMAGEN_NO_VALIDA, SIN_IMAGENES;
 extern const Aviso SIN_SOLUCION;
+extern const Aviso YA_RESUELTO, RESUELTO, AL_HISTORICO, ERROR_HISTORICO;
+extern const Aviso MEZCLA_TANGRAM, ORDEN_A_MANO, ORDEN_INSOLUBLE;
+extern const Aviso SALIR, SALIR_GRABADORA, ARCHIVO_GRABADORA;
 }  // namespace aviso
 
 // All of the above.

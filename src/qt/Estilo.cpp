@@ -198,7 +198,8 @@ void Estilo::PintaBarra(const QStyleOptionSlider& o, QPainter& p, const QWidget*
                 p.drawLine(mando.left() + 5, c.y() + d, mando.right() - 5, c.y() + d);
         }
     }
-    if (o.state & State_HasFocus) Anillo(p, mando);
+    // A click takes the keyboard too, but only who goes by keys looks for the ring.
+    if ((o.state & State_HasFocus) && (o.state & State_KeyboardFocusChange)) Anillo(p, mando);
 }
 
 int Estilo::pixelMetric(PixelMetric m, const QStyleOption* o, const QWidget* w) const {

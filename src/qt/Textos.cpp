@@ -9,6 +9,7 @@ namespace tessario {
 namespace {
 
 constexpr std::size_t ANCHOS_GUARDADOS = 4096;  // widths kept for one font before a fresh start
+constexpr i16 LETRA_MINIMA = 9;                 // pixels; nothing is set smaller to fit
 constexpr i32 REBORDE = 3;                      // glyphs may reach out of their box by so much
 
 QString Qs(std::string_view t) {
@@ -31,7 +32,8 @@ void CortaParrafo(const QString& p, const QFontMetrics& m, i32 ancho,
         while (i < p.size()) {
             qsizetype fin = i;
             while (fin < p.size() && p[fin] == u' ') ++fin;
-            while (fin < p.size() && p[fin] != u' ') ++fin;
+            while (fin < p.size() && p[fin] != u' ')
+                if (p[fin++] == u'/') break;
             if (m.horizontalAdvance(p.mid(inicio, fin - inicio)) > ancho) break;
             corte = i = fin;
         }
@@ -127,6 +129,21 @@ std::vector<QString> Textos::Renglones(const Fuente& f, std::string_view texto, 
     for (const QString& parrafo : t.split(u'\n'))
         CortaParrafo(parrafo, Entrada(f).medida, ancho, salida);
     return salida;
+}
+
+i32 Textos::AltoBloque(const Fuente& f, std::size_t renglones) {
+    if (renglones == 0) return 0;
+    return static_cast<i32>(renglones - 1) * Interlinea(f) + Medida(f).height();
+}
+
+Fuente Textos::QueCabe(const Fuente& f, std::string_view texto, i32 ancho, i32 alto) {
+    Fuente letra = f;
+    while (letra.Tamano > LETRA_MINIMA) {
+        const std::size_t n = Renglones(letra, texto, ancho).size();
+        if (n <= 1 || AltoBloque(letra, n) <= alto) break;
+        --letra.Tamano;
+    }
+    return letra;
 }
 
 }  // namespace tessario

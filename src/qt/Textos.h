@@ -30,7 +30,11 @@ public:
     static i32 Interlinea(const Fuente& f) { return f.Tamano + 3; }
     // The text cut into lines no wider than `ancho`. Runs of blanks are kept within a line and at
     // its beginning after a line end; those at which a line is broken stay on the line that ends.
+    // A path is broken after a slash.
     std::vector<QString> Renglones(const Fuente& f, std::string_view texto, i32 ancho);
+    // The letter of a block: `f`, or smaller when the lines would run out of the block's height.
+    Fuente QueCabe(const Fuente& f, std::string_view texto, i32 ancho, i32 alto);
+    i32 AltoBloque(const Fuente& f, std::size_t renglones);
 
 private:
     struct Ficha {

@@ -68,6 +68,8 @@ VentanaAyuda::VentanaAyuda()
     busca_->setPlaceholderText(QStringLiteral("Buscar en la ayuda"));
     busca_->setAccessibleName(QStringLiteral("Buscar en la ayuda"));
     busca_->setClearButtonEnabled(true);
+    busca_->setTextMargins(3, 0, 3, 0);
+    indice_->setSpacing(1);
     indice_->setAccessibleName(QStringLiteral("Índice de la ayuda"));
     hojas_->setAccessibleName(QStringLiteral("Página de la ayuda"));
     hojas_->document()->setDefaultStyleSheet(HOJA_DE_ESTILO);
@@ -99,12 +101,15 @@ VentanaAyuda::VentanaAyuda()
     connect(cerrar, &QToolButton::clicked, this, &QWidget::close);
     connect(hojas_, &QTextBrowser::backwardAvailable, atras, &QWidget::setEnabled);
     connect(hojas_, &QTextBrowser::forwardAvailable, adelante, &QWidget::setEnabled);
-    connect(hojas_, &QTextBrowser::sourceChanged, this, [this] { MarcaEnIndice(); });
+    // The browser tells of the new page before its own source() knows it.
+    connect(hojas_, &QTextBrowser::sourceChanged, this, [this](const QUrl& u) {
+        actual_ = u.toString(QUrl::RemoveFragment);
+        MarcaEnIndice();
+    });
     connect(busca_, &QLineEdit::textChanged, this, [this](const QString& t) { RellenaIndice(t); });
-    connect(indice_, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* i) { hojas_->setSource(QUrl(i->data(RUTA).toString())); });
-    connect(indice_, &QListWidget::itemActivated, this,
-            [this](QListWidgetItem* i) { hojas_->setSource(QUrl(i->data(RUTA).toString())); });
+    connect(busca_, &QLineEdit::returnPressed, this, [this] { Abre(indice_->item(0)); });
+    connect(indice_, &QListWidget::itemClicked, this, &VentanaAyuda::Abre);
+    connect(indice_, &QListWidget::itemActivated, this, &VentanaAyuda::Abre);
     const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
     resize(TAMANO.boundedTo(pantalla - QSize(20, 40)));
     LeeHojas();
@@ -129,23 +134,32 @@ void VentanaAyuda::LeeHojas() {
     });
 }
 
+// Pages with all the words; those that have them in the title come first.
 void VentanaAyuda::RellenaIndice(const QString& buscado) {
     const QStringList palabras = Llano(buscado).split(u' ', Qt::SkipEmptyParts);
+    const auto todas = [&](const QString& texto) {
+        return std::all_of(palabras.begin(), palabras.end(),
+                           [&](const QString& p) { return texto.contains(p); });
+    };
     indice_->clear();
-    for (const Hoja& h : hojasTodas_) {
-        if (!std::all_of(palabras.begin(), palabras.end(),
-                         [&](const QString& p) { return h.texto.contains(p); }))
-            continue;
-        auto* i = new QListWidgetItem(h.titulo, indice_);
-        i->setData(RUTA, h.ruta);
+    for (const bool enTitulo : {true, false}) {
+        for (const Hoja& h : hojasTodas_) {
+            if (todas(Llano(h.titulo)) != enTitulo || !todas(h.texto)) continue;
+            auto* i = new QListWidgetItem(h.titulo, indice_);
+            i->setData(RUTA, h.ruta);
+        }
     }
     MarcaEnIndice();
 }
 
+void VentanaAyuda::Abre(const QListWidgetItem* i) {
+    if (i) hojas_->setSource(QUrl(i->data(RUTA).toString()));
+}
+
 void VentanaAyuda::MarcaEnIndice() {
-    const QString actual = hojas_->source().toString(QUrl::RemoveFragment);
+    indice_->setCurrentRow(-1);
     for (int i = 0; i < indice_->count(); ++i)
-        if (indice_->item(i)->data(RUTA).toString() == actual) indice_->setCurrentRow(i);
+        if (indice_->item(i)->data(RUTA).toString() == actual_) indice_->setCurrentRow(i);
 }
 
 void VentanaAyuda::Muestra(i32 tema) {

@@ -33,8 +33,10 @@ private:
     void LeeHojas();
     void RellenaIndice(const QString& buscado);
     void MarcaEnIndice();
+    void Abre(const QListWidgetItem* i);
 
     QList<Hoja> hojasTodas_;
+    QString actual_;  // page on show
     QTextBrowser* hojas_;
     QListWidget* indice_;
     QLineEdit* busca_;

@@ -58,14 +58,20 @@ VistaEtiqueta::VistaEtiqueta(Etiqueta& c, VistaVentana& v, QWidget* padre)
 
 i32 VistaEtiqueta::SincronizaPropio() {
     const Etiqueta& c = etiqueta_;
-    const bool corta = texto_ != c.Caption || fuente_ != c.Font || anchoCortado_ != c.Width();
+    const bool corta = texto_ != c.Caption || fuente_ != c.Font || anchoCortado_ != c.Width() ||
+                       altoCortado_ != c.Height();
     if (!corta && tinta_ == c.ForeColor && papel_ == c.BackColor &&
         transparente_ == c.Transparente && centrada_ == c.Centrada)
         return 0;
-    if (corta) renglones_ = anfitrion().textos().Renglones(c.Font, c.Caption, c.Width());
+    if (corta) {
+        Textos& textos = anfitrion().textos();
+        letra_ = textos.QueCabe(c.Font, c.Caption, c.Width(), c.Height());
+        renglones_ = textos.Renglones(letra_, c.Caption, c.Width());
+    }
     texto_ = c.Caption;
     fuente_ = c.Font;
     anchoCortado_ = c.Width();
+    altoCortado_ = c.Height();
     tinta_ = c.ForeColor;
     papel_ = c.BackColor;
     transparente_ = c.Transparente;
@@ -80,14 +86,14 @@ void VistaEtiqueta::paintEvent(QPaintEvent*) {
     QPainter p(this);
     if (!transparente_) p.fillRect(rect(), QColor::fromRgb(PixelDe(papel_)));
     Textos& textos = anfitrion().textos();
-    p.setFont(textos.Letra(fuente_));
+    p.setFont(textos.Letra(letra_));
     p.setPen(QColor::fromRgb(PixelDe(tinta_)));
-    const QFontMetrics& m = textos.Medida(fuente_);
+    const QFontMetrics& m = textos.Medida(letra_);
     int y = m.ascent();
     for (const QString& r : renglones_) {
         const int x = centrada_ ? (width() - m.horizontalAdvance(r)) / 2 : 0;
         p.drawText(x, y, r);
-        y += Textos::Interlinea(fuente_);
+        y += Textos::Interlinea(letra_);
     }
     PintaAnillo(p, rect());
 }

@@ -33,11 +33,11 @@ protected:
 private:
     Etiqueta& etiqueta_;
     std::string texto_;
-    Fuente fuente_;
+    Fuente fuente_, letra_;  // asked for; used, which may be smaller
     Color tinta_ = 0, papel_ = 0;
     bool transparente_ = true, centrada_ = false;
     std::vector<QString> renglones_;
-    i32 anchoCortado_ = -1;
+    i32 anchoCortado_ = -1, altoCortado_ = -1;
 };
 
 // Shows the rectangles of `e` from the surface.

@@ -1,5 +1,6 @@
 #include "sliding/Movimientos.h"
 
+#include "core/Avisos.h"
 #include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
@@ -25,34 +26,6 @@ constexpr i16 CURSORES_LADO[] = {CURSOR_PROHIBIDO, 25, 26, 27, 28};
 constexpr i32 JUGADAS_POR_PIEZA = 4;  // of the animated shuffle before its first test
 constexpr i16 PAUSA_JUGADA = 15;      // ms at speed 50
 
-// A question of the manual ordering: six lines, two buttons.
-struct Pregunta {
-    const char* titulo;
-    const char* texto;
-    i16 ayuda;
-};
-constexpr i16 LINEAS_PREGUNTA = 6, DOS_BOTONES = 2;
-
-constexpr Pregunta PREGUNTA_ENTRAR = {
-    "Ordenar las piezas manualmente",
-    "Si pulsa este botón  para  colocar manualmente  las  piezas, cuando finalize  ese  proceso "
-    "comenzará  la  resolución  del puzzle  con  las  piezas  en  la  posición  que  Usted  "
-    "prefiera. Pulse el botón Aceptar para colocar las piezas como desee y  comenzar  un  nuevo  "
-    "puzzle.  Si  pulsa  el  botón  Cancelar podrá continuar resolviendo el puzzle actual.",
-    2184};
-
-constexpr Pregunta PREGUNTA_INSOLUBLE = {
-    "Configuración sin solución",
-    "Este puzzle no tiene solución con la configuración de piezas actual.  Pulse el botón Aceptar "
-    "para que el programa baraje automáticamente  las  piezas  y  obtenga  una  configuración "
-    "soluble.  Si pulsa el botón Cancelar podrá seguir ordenando las piezas hasta obtener  una  "
-    "configuración  que  permita su solución.",
-    3020};
-
-void Haz(const Pregunta& p) {
-    Mensaje(p.titulo, p.texto, LINEAS_PREGUNTA, DOS_BOTONES, p.ayuda);
-}
-
 // A neighbour of the hole other than the piece that moved last; 0 when there is none, which only a
 // damaged board can give.
 i16 SorteaVecino(i16 previa) {
@@ -72,7 +45,7 @@ void SaleDeOrdenManual() {
         ReiniciaPartida();
         return;
     }
-    Haz(PREGUNTA_INSOLUBLE);
+    Avisa(aviso::ORDEN_INSOLUBLE);
     if (!Gbl.RespuestaMensaje) return;
     Sistema().Presenta();
     BarajaDeslizantes();
@@ -144,7 +117,7 @@ void OrdenManualDeslizantes() {
     if (Gbl.OrdenManual)
         SaleDeOrdenManual();
     else
-        Haz(PREGUNTA_ENTRAR);
+        Avisa(aviso::ORDEN_A_MANO);
     if (Gbl.RespuestaMensaje) Gbl.OrdenManual = !Gbl.OrdenManual;
 }
 

@@ -1,5 +1,6 @@
 #include "table/Final.h"
 
+#include "core/Avisos.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "records/Historial.h"
@@ -15,11 +16,10 @@ constexpr i16 PAUSA_FINAL = 500, SONIDO_RESUELTO = 14;
 // A result that was helped along is not offered: the question would promise what cannot be.
 void OfreceAlHistorico() {
     if (!Gbl.PuzzleArchivable) return;
-    Mensaje("Histórico de puzzles resueltos", "¿Se actualiza el Histórico de puzzles?", 1, 2, 2161);
+    Avisa(aviso::AL_HISTORICO);
     if (!Gbl.RespuestaMensaje) return;
     const i16 error = EntraEnHistorico();
-    if (error != 0)
-        Mensaje("Histórico de puzzles resueltos", "HIS ERROR " + std::to_string(error), 1, 1);
+    if (error != 0) Avisa(aviso::ERROR_HISTORICO, {std::to_string(error)});
 }
 
 }  // namespace
@@ -29,7 +29,7 @@ void FinDeJuego() {
     Pausa(PAUSA_FINAL);
     Sigue([] { EntraEnCompleto(); });
     SonidoJuego(1, SONIDO_RESUELTO);
-    Mensaje("TESSARIO", "Ha conseguido resolver el puzzle", 1, 1);
+    Avisa(aviso::RESUELTO);
     Sigue([] { OfreceAlHistorico(); });
     Gbl.PuzzleArchivable = false;
 }

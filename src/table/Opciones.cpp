@@ -1,5 +1,6 @@
 #include "table/Opciones.h"
 
+#include "core/Avisos.h"
 #include "core/Numeros.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
@@ -112,10 +113,7 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
     // Deliberate: only loading and saving wait for the recorder; deleting and saving a model do
     // not.
     if (opcion <= 2 && Gbl.GrabadoraEncendida) {
-        Mensaje("Grabadora encendida",
-                "Tiene que apagar la Grabadora de jugadas antes de poder cargar o guardar un "
-                "puzzle.",
-                2, 1);
+        Avisa(aviso::ARCHIVO_GRABADORA);
         return;
     }
     AbreCargua(MODO_DE_OPCION[opcion]);

@@ -1,6 +1,7 @@
 #include "table/Ordenes.h"
 
 #include "core/Arranque.h"
+#include "core/Avisos.h"
 #include "core/Configuracion.h"
 #include "core/Despacho.h"
 #include "core/PuzzBas.h"
@@ -59,14 +60,7 @@ void MuestraSiExiste(Ventana* v) {
 void Baraja() {
     Gbl.RespuestaMensaje = true;
     if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER)
-        Mensaje(
-            "Barajar las piezas del Tangram",
-            "Si pulsa este botón cuando está resolviendo un modelo, se despejará  la  mesa  de  "
-            "juego  para  que  pueda  crear  sus propios  diseños,   por  lo   que  finalizará  "
-            "la  resolución  del modelo actual  y  se  mezclarán las piezas.   Pulse  el  botón "
-            "Aceptar para mezclar las piezas. Si pulsa el botón Cancelar podrá continuar "
-            "resolviendo el modelo actual.",
-            6, 2, 2180);
+        Avisa(aviso::MEZCLA_TANGRAM);
     if (!Gbl.RespuestaMensaje) return;
     if (EsDeslizantes()) {
         BarajaPiezas();
@@ -134,14 +128,12 @@ void AbreAyuda() {
 
 void Sale() {
     if (Gbl.GrabadoraEncendida) {
-        Mensaje("Salir del programa",
-                "Tiene que apagar la Grabadora de movimientos antes de poder salir del programa.",
-                2, 1, 2170);
+        Avisa(aviso::SALIR_GRABADORA);
         return;
     }
     Gbl.CronoAntes = Gbl.CronoEnMarcha;
     CambiaCrono(2);
-    Mensaje("Salir de TESSARIO", "¿Desea abandonar el programa?", 1, 2);
+    Avisa(aviso::SALIR);
     if (Gbl.RespuestaMensaje)
         TerminaPrograma();
     else

@@ -1,5 +1,6 @@
 #include "table/Raton.h"
 
+#include "core/Avisos.h"
 #include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
@@ -46,10 +47,7 @@ bool PulsoIzquierdoManda() {
 void AvisaTerminado() {
     // A pointer of its own says that the mouse stands on a piece.
     if (Pic_Trabajo.MousePointer == PUNTERO_NORMAL) return;
-    Mensaje("Puzzle resuelto",
-            "Este puzzle ya se ha resuelto. Si desea deshacerlo y volver atrás, utilice la "
-            "Grabadora de movimientos.",
-            2, 1, 2200);
+    Avisa(aviso::YA_RESUELTO);
 }
 
 void CogePieza() {

@@ -9,8 +9,12 @@
 #include <cstring>
 
 #include "PruebaQt.h"
+#include "core/Avisos.h"
+#include "core/PuzzGbl.h"
+#include "pieces/Superficies.h"
 #include "qt/Imagenes.h"
 #include "qt/Sonidos.h"
+#include "table/Sugerencias.h"
 
 namespace tessario {
 
@@ -58,37 +62,51 @@ protected:
 
 // --- Text.
 
-TEST_F(VistaDeServicios, MessageLinesFitTheirWidthInAsManyLinesAsTheyAreGiven) {
-    const struct {
-        const char* texto;
-        std::size_t renglones;
-    } TEXTOS[] = {
-        {"Este  programa  se  ha  diseñado  para  funcionar  con  una resolución mínima de "
-         "pantalla de 800x600 con profundidad de color de 16 bits o superior.  La resolución "
-         "seleccionada actualmente es de (640x480).  Pulse  Aceptar  para cambiar  la  "
-         "resolución  de  la  pantalla  a  800x600  o  Cancelar  para abandonar el programa.",
-         6},
-        {"Si   desea   consultar   una   descripción   general   de   este programa  para  "
-         "conocer  rápidamente  su  funcionamiento, pulse el botón de Ayuda.",
-         3},
-        {"Tiene que apagar la Grabadora de movimientos antes de poder salir del programa.", 2},
-        {"Este puzzle ya se ha resuelto. Si desea deshacerlo y volver atrás, utilice la "
-         "Grabadora de movimientos.",
-         2},
-        {"¿Desea abandonar el programa?", 1},
-        {"Cuando se modifica  el  valor  de esta lista,  finaliza  el  juego actual  y  se  "
-         "inicia la modalidad de juego  seleccionada.  Si pulsa  el botón Aceptar comenzará el "
-         "nuevo juego.  Si pulsa el botón Cancelar no se modificará ningún valor y continuará "
-         "el juego actual.",
-         5},
-    };
+// Every message that the game sends, in the letter and the width of its window.
+TEST_F(VistaDeServicios, EveryMessageFitsTheLinesThatItIsGiven) {
+    constexpr i32 ANCHO = 365;
+    const Fuente titulo{Familia::Sans, 13, true, false};
     Textos t;
-    for (const auto& caso : TEXTOS) {
-        const auto renglones = t.Renglones(Fuente{}, caso.texto, 365);
-        EXPECT_LE(renglones.size(), caso.renglones) << caso.texto;
+    ASSERT_FALSE(Avisos().empty());
+    for (const Aviso* a : Avisos()) {
+        const std::string texto = TextoDe(*a, {a->muestra[0], a->muestra[1]});
+        const auto renglones = t.Renglones(Fuente{}, texto, ANCHO);
+        EXPECT_LE(renglones.size(), static_cast<std::size_t>(a->modo)) << texto;
         for (const QString& r : renglones)
-            EXPECT_LE(P().AnchoTexto(Fuente{}, r.trimmed().toStdString()), 365);
+            EXPECT_LE(P().AnchoTexto(Fuente{}, r.trimmed().toStdString()), ANCHO) << texto;
+        EXPECT_LE(P().AnchoTexto(titulo, a->titulo), ANCHO) << a->titulo;
     }
+}
+
+// The program may stand in a folder with a long name: then the letter gives way, not the last line.
+TEST_F(VistaDeServicios, AMessageWithALongPathIsStillShownWhole) {
+    const std::string ruta =
+        "/home/maria.fernandez/.local/share/tessario/Temp/Tsb/otra/carpeta/larga/TsR2133.ini";
+    const std::string texto = TextoDe(aviso::SIN_AJUSTES, {ruta});
+    constexpr i32 ANCHO = 365, ALTO = 3 * 16 + 3;
+    Textos t;
+    EXPECT_GT(t.AltoBloque(Fuente{}, t.Renglones(Fuente{}, texto, ANCHO).size()), ALTO);
+    const Fuente letra = t.QueCabe(Fuente{}, texto, ANCHO, ALTO);
+    const auto renglones = t.Renglones(letra, texto, ANCHO);
+    EXPECT_LE(t.AltoBloque(letra, renglones.size()), ALTO);
+    EXPECT_GE(letra.Tamano, 10);
+    QString junto;
+    for (const QString& r : renglones) junto += r;
+    EXPECT_TRUE(junto.contains(QString::fromStdString(ruta))) << "a path is cut only at a slash";
+    // What fits is left alone.
+    const std::string corto = TextoDe(aviso::SIN_AJUSTES, {"/opt/tessario/TsR2133.ini"});
+    EXPECT_EQ(t.QueCabe(Fuente{}, corto, ANCHO, ALTO).Tamano, Fuente{}.Tamano);
+}
+
+TEST_F(VistaDeServicios, TheLinkOfTheHintsFitsItsBox) {
+    Gbl.VentanaInformacion = true;
+    CargaSugerencias();
+    Sugerencia(21);
+    EXPECT_LE(P().AnchoTexto(Pic_SugeMasAyuda.Font, "más ayuda"), Pic_SugeMasAyuda.Width());
+    EXPECT_LE(P().AltoTexto(Pic_SugeMasAyuda.Font), Pic_SugeMasAyuda.Height());
+    // Three lines of 59 characters between the margin and the panel's edge.
+    EXPECT_LE(3 + P().AnchoTexto(Pic_Sugerencia.Font, std::string(59, 'm')), 423 - 1);
+    Gbl.VentanaInformacion = false;
 }
 
 TEST_F(VistaDeServicios, WrappingKeepsRunsOfBlanksAndLineEnds) {

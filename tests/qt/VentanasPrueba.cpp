@@ -2,6 +2,7 @@
 // errors, sleeping, the end of the program, the help beside a message.
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <ctime>
 
@@ -297,6 +298,53 @@ TEST_F(VistaDeVentanas, HelpShowsTheStartPageForTopicsWithoutAPage) {
     EXPECT_EQ(P().AyudaAbierta()->Indice().count(), 0);
     P().AyudaAbierta()->Busqueda().setText("");
     EXPECT_EQ(P().AyudaAbierta()->Indice().count(), todas);
+}
+
+TEST_F(VistaDeVentanas, TheIndexOfTheHelpMarksThePageOnShow) {
+    Abre(mesa, {&c});
+    P().Ayuda(3010);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    const auto marcada = [&] {
+        const QListWidgetItem* const i = ayuda.Indice().currentItem();
+        return i ? i->text() : QString();
+    };
+    const auto titulo = [&] { return ayuda.Hojas().documentTitle(); };
+    EXPECT_EQ(marcada(), titulo());
+    const QString primera = titulo();
+    P().Ayuda(2200);
+    EXPECT_EQ(marcada(), titulo());
+    EXPECT_NE(titulo(), primera);
+    ayuda.Hojas().backward();
+    EXPECT_EQ(titulo(), primera);
+    EXPECT_EQ(marcada(), primera);
+}
+
+TEST_F(VistaDeVentanas, TheSearchPutsPagesWithTheWordsInTheTitleFirstAndReturnOpensThem) {
+    Abre(mesa, {&c});
+    P().Ayuda(0);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    ayuda.Busqueda().setText("PIEZAS ocultas");
+    ASSERT_GE(ayuda.Indice().count(), 2);
+    EXPECT_EQ(ayuda.Indice().item(0)->text(), "Mostrar piezas ocultas");
+    QTest::keyClick(&ayuda.Busqueda(), Qt::Key_Return);
+    EXPECT_EQ(ayuda.Hojas().documentTitle(), "Mostrar piezas ocultas");
+    QTest::keyClick(&ayuda.Busqueda(), Qt::Key_Escape);
+    EXPECT_FALSE(ayuda.isVisible());
+}
+
+TEST_F(VistaDeVentanas, EveryPageOfTheHelpIsReadWithoutScrollingSideways) {
+    Abre(mesa, {&c});
+    P().Ayuda(0);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    ASSERT_GT(ayuda.Indice().count(), 30);
+    for (int i = 0; i < ayuda.Indice().count(); ++i) {
+        ayuda.Indice().setCurrentRow(i);
+        QTest::keyClick(&ayuda.Indice(), Qt::Key_Return);
+        Eventos();
+        EXPECT_EQ(ayuda.Hojas().documentTitle(), ayuda.Indice().item(i)->text());
+        EXPECT_EQ(ayuda.Hojas().horizontalScrollBar()->maximum(), 0)
+            << ayuda.Indice().item(i)->text().toStdString();
+    }
 }
 
 TEST_F(VistaDeVentanas, DateAndTimeHaveTheShortSpanishForms) {

@@ -11,6 +11,10 @@ import svg
 
 PASO = 49
 TERRACOTA = (178, 81, 60)   # colour of the strip
+LECHO = '<rect width="48" height="48" fill="#b2513c"/>'
+# Outside the strip a tile lies on the cream of the windows, with round corners.
+LECHO_CREMA = ('<rect width="48" height="48" fill="#f4e9d2"/>'
+               '<rect width="48" height="48" rx="4" fill="#b2513c"/>')
 FILAS = [
     ["barajar", "personalizar", "tutor", "estadisticas", "historico", "ayuda", "salir", "modelo",
      "ocultas", "colocadas", "ordenar", "resolver"],
@@ -23,8 +27,8 @@ def Interior(texto):
     return re.search(r"<svg[^>]*>(.*)</svg>", texto, re.S).group(1)
 
 
-def Baldosa(nombre):
-    texto = svg.Lee("botones/baldosa.svg")
+def Baldosa(nombre, lecho=LECHO):
+    texto = svg.Lee("botones/baldosa.svg").replace(LECHO, lecho)
     if nombre:
         texto = texto.replace("</svg>", Interior(svg.Lee("botones/%s.svg" % nombre)) + "</svg>")
     return svg.Rinde(texto, 48, 48)
@@ -35,7 +39,7 @@ def Botones():
     for y, fila in enumerate(FILAS):
         for x, nombre in enumerate(fila):
             if nombre:
-                hoja.paste(Baldosa(nombre).convert("RGB"), (x * PASO, y * PASO))
+                hoja.paste(Baldosa(nombre, LECHO_CREMA if y else LECHO).convert("RGB"), (x * PASO, y * PASO))
     return hoja
 
 
