@@ -7,13 +7,14 @@ HTML of the kind that a rich text view shows. In the text, [[topic]] or [[topic|
 """
 import re
 
-from PIL import Image, ImageDraw
+from PIL import Image
 
 import botones
 import svg
 
 FUENTES = svg.FUENTES / "ayuda"
 DESTINO = svg.RECURSOS / "ayuda"
+PANTALLAS = svg.RAIZ / "docs" / "img"
 
 ESTILO = """
 body { color: #241c18; background-color: #fbf3e2; }
@@ -36,84 +37,9 @@ TECLAS = {"interruptor": (6, 6, 39, 13), "unoatras": (4, 25, 21, 13), "unoadelan
 
 # --- Pictures.
 
-def Movil():
-    """The first sample picture half put together, with loose pieces round it."""
-    lado, n, m = 96, 5, 4
-    foto = Image.open(svg.RECURSOS / "muestras" / "Azulejos.jpg").convert("RGB")
-    foto = foto.resize((lado * n, lado * m), Image.LANCZOS)
-    mesa = Image.new("RGB", (960, 600), (0, 0, 128))
-    sueltas = {(4, 0): (560, 60, 90), (4, 1): (770, 30, 0), (3, 3): (610, 250, 180), (4, 3): (800, 210, 0),
-               (2, 3): (700, 420, 270), (4, 2): (520, 440, 0), (0, 3): (240, 470, 90)}
-    salto = int(lado * .22)
-
-    def Pieza(i, j):
-        caja = Image.new("L", (lado + 2 * salto, lado + 2 * salto), 0)
-        d = ImageDraw.Draw(caja)
-        d.rectangle([salto, salto, salto + lado - 1, salto + lado - 1], fill=255)
-        medio, r = salto + lado / 2, lado * .13
-        for x, y, dx, dy, borde, fuera in (
-                (salto, medio, -1, 0, i == 0, (i + j) % 2), (salto + lado, medio, 1, 0, i == n - 1, (i + j) % 2),
-                (medio, salto, 0, -1, j == 0, (i + j + 1) % 2), (medio, salto + lado, 0, 1, j == m - 1, (i + j + 1) % 2)):
-            if not borde:
-                s = 1 if fuera else -1
-                cx, cy = x + s * dx * r * .6, y + s * dy * r * .6
-                d.ellipse([cx - r, cy - r, cx + r, cy + r], fill=255 if fuera else 0)
-        trozo = Image.new("RGB", caja.size, (0, 0, 128))
-        trozo.paste(foto.crop((i * lado - salto, j * lado - salto, (i + 1) * lado + salto, (j + 1) * lado + salto)))
-        sombra = caja.point(lambda v: v // 2)
-        return trozo, caja, sombra
-
-    for suelta in (False, True):
-        for j in range(m):
-            for i in range(n):
-                if ((i, j) in sueltas) != suelta:
-                    continue
-                trozo, caja, sombra = Pieza(i, j)
-                x, y, giro = sueltas.get((i, j), (i * lado, j * lado, 0))
-                if suelta:
-                    trozo, caja, sombra = (k.rotate(giro) for k in (trozo, caja, sombra))
-                    mesa.paste((0, 0, 40), (x + 4, y + 6), sombra)
-                    mesa.paste(trozo, (x, y), caja)
-                else:
-                    mesa.paste(trozo, (x - salto + 14, y - salto + 14), caja)
-    return mesa
-
-
-def Deslizante():
-    numeros = [1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 0, 11, 13, 14, 15, 12]
-    partes = ['<rect width="320" height="200" fill="#800000" fill-opacity="0"/><rect width="320" height="200" '
-              'fill="#000080"/><defs><linearGradient id="g" x1="0" y1="0" x2="0.5" y2="1"><stop offset="0" '
-              'stop-color="#4caf5f"/><stop offset="1" stop-color="#157a2a"/></linearGradient></defs>']
-    for k, n in enumerate(numeros):
-        x, y = 72 + 44 * (k % 4), 12 + 44 * (k // 4)
-        if n:
-            partes.append('<rect x="%d" y="%d" width="43" height="43" rx="2" fill="url(#g)" stroke="#0b4a1b"/>'
-                          '<path d="M%d %d v-42 h42" fill="none" stroke="#9fe0ac" stroke-width="2"/>'
-                          '<text x="%g" y="%d" font-family="Liberation Sans" font-weight="bold" font-size="22" '
-                          'text-anchor="middle" fill="#fff">%d</text>' % (x, y, x + 1, y + 43, x + 21.5, y + 30, n))
-    partes.append('<path d="M199 117.5 h-18 v-8 l-15 12 l15 12 v-8 h18 z" fill="#ffd24a" stroke="#5a3a00" '
-                  'stroke-linejoin="round"/>')
-    return svg.Rinde('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 320 200">%s</svg>' % "".join(partes),
-                     320, 200).convert("RGB")
-
-
-TANGRAM = [([(0, 0), (4, 0), (2, 2)], "#2f62c4"), ([(0, 0), (2, 2), (0, 4)], "#c8552f"),
-           ([(4, 4), (2, 4), (4, 2)], "#2e9a4b"), ([(4, 0), (4, 2), (3, 1)], "#f2b33d"),
-           ([(2, 2), (1, 3), (3, 3)], "#8a4ac0"), ([(2, 2), (3, 1), (4, 2), (3, 3)], "#d8402e"),
-           ([(0, 4), (1, 3), (3, 3), (2, 4)], "#1fa0b0")]
-
-
-def Tangram():
-    """The seven pieces, a little apart."""
-    partes = ['<rect width="320" height="200" fill="#000080"/>']
-    for puntos, color in TANGRAM:
-        cx = sum(p[0] for p in puntos) / len(puntos) - 2
-        cy = sum(p[1] for p in puntos) / len(puntos) - 2
-        texto = " ".join("%.1f,%.1f" % (160 + (x - 2) * 38 + cx * 9, 100 + (y - 2) * 38 + cy * 9) for x, y in puntos)
-        partes.append('<polygon points="%s" fill="%s" stroke="#fff" stroke-width="1.6" stroke-linejoin="round"/>'
-                      % (texto, color))
-    return svg.Rinde('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 320 200">%s</svg>' % "".join(partes),
-                     320, 200).convert("RGB")
+def Pantalla(nombre):
+    """The real program at play, as tools/capturas pictures it."""
+    return Image.open(PANTALLAS / (nombre + ".png")).convert("RGB")
 
 
 def Cenefa():
@@ -129,9 +55,11 @@ def Dibuja():
     def Guarda(imagen, nombre):
         svg.Guarda(imagen, "ayuda/imagenes/%s.png" % nombre)
     Guarda(Cenefa(), "cenefa")
-    for nombre, imagen in (("movil", Movil()), ("deslizante", Deslizante()), ("tangram", Tangram())):
-        Guarda(imagen.resize((320, 200), Image.LANCZOS).quantize(160, dither=Image.NONE), nombre + "_grande")
-        Guarda(imagen.resize((144, 90), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre)
+    for nombre, captura in (("movil", "moviles"), ("deslizante", "deslizantes"), ("tangram", "tangram")):
+        imagen = Pantalla(captura)
+        Guarda(imagen.resize((440, 330), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre + "_grande")
+        Guarda(imagen.resize((144, 108), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre)
+    Guarda(Pantalla("mesa").resize((440, 330), Image.LANCZOS).quantize(128, dither=Image.NONE), "mesa")
     for nombre in [o[0] for o in ORDENES] + ["cargar", "guardar", "borrar"]:
         Guarda(botones.Baldosa(nombre).resize((24, 24), Image.LANCZOS).convert("RGB"), "boton_" + nombre)
     for nombre, _, _ in ORDENES:
