@@ -10,7 +10,8 @@ namespace tessario {
 
 void PreparaJuego(bool Barajar) {
     const i16 nuevo = Booleano(Barajar).Valor();
-    CalculaTamanos();  // leaves the sizes alone outside the three games
+    CalculaTamanos();     // leaves the sizes alone outside the three games
+    Gbl.PiezaActual = 0;  // what the pointer found lay on the table that was
     switch (Gbl.JuegoActual) {
         case JuegoMoviles:
             CreaMoviles(Barajar);

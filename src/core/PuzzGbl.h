@@ -207,6 +207,9 @@ struct DatosRaton {
     Booleano TareaAutomatica;         // an automatic run shows the busy cursor
     Booleano Barajando;               // a shuffle runs
     Booleano GirandoPieza;            // the right button is held on a piece
+    i16 EventosAnidados = 0;          // depth of the calls that let events through; 0 none
+    i16 ManejadoresEnCurso = 0;       // handlers of the table at work, one inside the other
+    i16 OrdenAplazada = 0;            // request that waits for them to end; 0 none
     i16 CursorDeseado = 0;            // cursor id that the hover wants
     i16 CursorActual = 0;             // cursor id last applied
     i16 BotonPulsado = 0;             // button of the last press

@@ -14,6 +14,16 @@ double CuatroDecimales(double x) {
     return std::nearbyint(x * 10000.0) / 10000.0;
 }
 
+// Events handled now come in from inside the caller's work. The end of the program leaves by an
+// exception.
+class NivelDeEventos {
+public:
+    NivelDeEventos() { ++Gbl.EventosAnidados; }
+    ~NivelDeEventos() { --Gbl.EventosAnidados; }
+    NivelDeEventos(const NivelDeEventos&) = delete;
+    NivelDeEventos& operator=(const NivelDeEventos&) = delete;
+};
+
 }  // namespace
 
 void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
@@ -76,6 +86,7 @@ void PonCursor(Ventana& objeto, const std::string& Nombre) {
 }
 
 void DejaPasarEventos() {
+    const NivelDeEventos nivel;
     Sistema().DejaPasarEventos();
 }
 

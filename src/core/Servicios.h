@@ -31,7 +31,7 @@ void PonCursor(Ventana& objeto, const std::string& Nombre);
 void PonPuntero(Control& objeto, i16 puntero);
 void PonPuntero(Ventana& objeto, i16 puntero);
 
-// Lets pending window events run.
+// Lets pending window events run; Gbl.EventosAnidados tells them that they come in so.
 void DejaPasarEventos();
 
 // Help topic; 0 is the start page.

@@ -91,6 +91,7 @@ void ResuelvePuzzle() {
         SubePieza(i);
         const i16 piece = Gbl.OrdenPiezas[1];
         if (!PiezaEnSuSitio(piece)) ColocaPieza(piece);
+        Gbl.ArrastrandoPieza = false;  // no piece is in hand here: a release drops none
         DejaPasarEventos();
         if (!Gbl.ResolviendoPuzzle) break;
     }

@@ -14,6 +14,7 @@ namespace tessario {
 namespace {
 
 constexpr i16 ADELANTE = 0, ATRAS = 1;
+constexpr i16 BOTON_COLOCADAS = 10;  // command pressed for the player
 constexpr i16 SONIDO_PULSA = 6, SONIDO_SUELTA = 7;
 
 enum Tecla : i32 { Mando, AtrasUno, AdelanteUno, AtrasAuto, AdelanteAuto, Restaurar, Ninguna };
@@ -105,7 +106,10 @@ const char* Letrero(Tecla t) {
 
 void PulsaMando() {
     if (!Gbl.GrabadoraEncendida) {
-        if (Gbl.NumMovimientos >= 1) EnciendeGrabadora();
+        if (Gbl.NumMovimientos < 1) return;
+        // Moves are replayed in the pieces' own looks.
+        if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+        EnciendeGrabadora();
         return;
     }
     Gbl.AutoAtras = Gbl.AutoAdelante = false;  // an automatic run under this press ends

@@ -13,6 +13,7 @@
 #include "table/Ordenes.h"
 #include "table/Raton.h"
 #include "table/Sugerencias.h"
+#include "table/Tareas.h"
 
 namespace tessario {
 
@@ -22,17 +23,33 @@ constexpr i32 INTERVALO_TIC = 1000;  // ms
 constexpr i16 BOTON_SALIR = 7;
 constexpr i32 SUGERENCIA_ANCHO = 423, SUGERENCIA_ALTO = 64;
 
-// An event of a control: an error that no routine below has dealt with ends the handler, not the
-// program.
+// The work that a request waited for may have left it forbidden.
+void Cumple(i16 aplazada) {
+    if (aplazada > APLAZADA_OPCION)
+        CumpleOpcion(Corto(aplazada - APLAZADA_OPCION));
+    else if (!OrdenProhibida(aplazada))
+        CumpleOrden(aplazada);
+}
+
+// Every event of the window is handled through here. An error that no routine below has dealt with
+// ends the handler, not the program; what was asked for meanwhile is done when the outermost
+// handler has ended.
+template <class F>
+void Atiende(F&& manejador) {
+    const ManejadorEnCurso este;
+    Sigue(manejador);
+    while (const i16 aplazada = este.TomaAplazada()) Sigue([&] { Cumple(aplazada); });
+}
+
 template <class F>
 auto Raton(F manejador) {
     return [manejador](i16 Button, i16 Shift, float X, float Y) {
-        Sigue([&] { manejador(Button, Shift, X, Y); });
+        Atiende([&] { manejador(Button, Shift, X, Y); });
     };
 }
 template <class F>
 auto Aviso(F manejador) {
-    return [manejador] { Sigue(manejador); };
+    return [manejador] { Atiende(manejador); };
 }
 
 void LlenaControles() {
@@ -75,13 +92,13 @@ void ConectaBoton(i16 i) {
     PonCursor(boton, "ManoIndice");
     boton.TabStop = true;
     boton.MouseDown = [i](i16 Button, i16 Shift, float X, float Y) {
-        Sigue([&] { Pic_Boton_MouseDown(i, Button, Shift, X, Y); });
+        Atiende([&] { Pic_Boton_MouseDown(i, Button, Shift, X, Y); });
     };
     boton.MouseMove = [i](i16 Button, i16 Shift, float X, float Y) {
-        Sigue([&] { Pic_Boton_MouseMove(i, Button, Shift, X, Y); });
+        Atiende([&] { Pic_Boton_MouseMove(i, Button, Shift, X, Y); });
     };
     // Reached by keyboard, a button learns of its state without a move of the mouse.
-    boton.GotFocus = [i] { Sigue([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
+    boton.GotFocus = [i] { Atiende([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
 }
 
 void ConectaTira() {
@@ -104,7 +121,7 @@ void ConectaVentana() {
         Gbl.AutoAtras = false;
         Gbl.AutoAdelante = false;
     };
-    Mesa.KeyPress = [](i16 KeyAscii) { Sigue([&] { Pic_Trabajo_KeyPress(KeyAscii); }); };
+    Mesa.KeyPress = [](i16 KeyAscii) { Atiende([&] { Pic_Trabajo_KeyPress(KeyAscii); }); };
     // Closing the window from outside asks like the exit button does; when the answer is yes, that
     // has closed the window already.
     Mesa.QueryUnload = [](bool& Cancela) {

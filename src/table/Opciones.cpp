@@ -6,6 +6,7 @@
 #include "core/Servicios.h"
 #include "pieces/Superficies.h"
 #include "table/Cronometro.h"
+#include "table/Tareas.h"
 
 namespace tessario {
 
@@ -109,7 +110,16 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
     if (Gbl.OpcionResaltada == 0) return;
     Pic_SelOpciones.Visible = false;
     const i16 opcion = OpcionDeFila(Gbl.OpcionResaltada);
-    if (opcion < 1 || opcion > OPCION_MODELO) return;
+    if (opcion < 1 || opcion > OPCION_MODELO || Gbl.Barajando) return;
+    if (!DentroDeTarea()) {
+        CumpleOpcion(opcion);
+        return;
+    }
+    TerminaTareas();
+    Aplaza(Corto(APLAZADA_OPCION + opcion));
+}
+
+void CumpleOpcion(i16 opcion) {
     // Deliberate: only loading and saving wait for the recorder; deleting and saving a model do
     // not.
     if (opcion <= 2 && Gbl.GrabadoraEncendida) {

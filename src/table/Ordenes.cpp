@@ -16,7 +16,9 @@
 #include "sliding/Tablero.h"
 #include "table/Barajado.h"
 #include "table/Cronometro.h"
+#include "table/Raton.h"
 #include "table/Sugerencias.h"
+#include "table/Tareas.h"
 
 namespace tessario {
 
@@ -196,7 +198,7 @@ void Ordena() {
 }
 
 void Resuelve() {
-    // A second press only takes the flag back, and the solver, which looks at it, ends.
+    // A second press comes in while the solver runs, and takes the flag back, which ends it.
     Gbl.ResolviendoPuzzle = !Gbl.ResolviendoPuzzle;
     if (Gbl.ResolviendoPuzzle) ConRelojParado([] { ResuelvePuzzle(); });
 }
@@ -247,6 +249,14 @@ void TerminaOtrasOrdenes(i16 Index) {
     if (Index != ORDEN_ORDENAR) Gbl.OrdenandoPiezas = false;
 }
 
+// The work under way ends. A press of the button that began it asks for nothing else.
+void PulsaDentroDeTarea(i16 Index) {
+    const bool laSuya = (Index == ORDEN_RESOLVER && Gbl.ResolviendoPuzzle) ||
+                        (Index == ORDEN_ORDENAR && Gbl.OrdenandoPiezas);
+    TerminaTareas();
+    Aplaza(laSuya ? i16{0} : Index);
+}
+
 // Another command while the pieces are being set up by hand. True: it may go on.
 bool DejaOrdenManual(i16 Index) {
     if (Index == ORDEN_ORDENAR || !Gbl.OrdenManual) return true;
@@ -255,7 +265,9 @@ bool DejaOrdenManual(i16 Index) {
         Gbl.OrdenManual = false;
         return true;
     }
-    return Index == ORDEN_AYUDA || Index == ORDEN_MODELO;
+    // With the recorder on, the board cannot be dealt anew: what may be asked for then leaves it
+    // alone.
+    return Index == ORDEN_AYUDA || Index == ORDEN_MODELO || OrdenProhibida(ORDEN_ORDENAR);
 }
 
 }  // namespace
@@ -272,15 +284,28 @@ void Pic_Boton_MouseMove(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
     Gbl.BotonEstado[Index] = prohibida ? BOTON_PROHIBIDO : BOTON_USABLE;
 }
 
-void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y) {
+void Pic_Boton_MouseDown(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, float /*Y*/) {
     Pic_SelOpciones.Visible = false;
-    if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO) return;
+    if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO || Gbl.Barajando) return;
     Gbl.TutorEsperando = false;
     SonidoJuego(0, SONIDO_BOTON);
+    if (DentroDeTarea()) {
+        PulsaDentroDeTarea(Index);
+        return;
+    }
+    if (Gbl.ArrastrandoPieza) {
+        // Reached by keyboard, a button can be pressed with a piece in hand: that is dropped first.
+        SueltaLoQueHaya(Gbl.XRaton, Gbl.YRaton);
+        if (OrdenProhibida(Index)) return;
+    }
+    CumpleOrden(Index);
+}
+
+void CumpleOrden(i16 Index) {
     TerminaOtrasOrdenes(Index);
     if (!DejaOrdenManual(Index)) {
-        Pic_Boton_MouseMove(ORDEN_ORDENAR, Button, Shift, X, Y);  // its state must be fresh
-        Pic_Boton_MouseDown(ORDEN_ORDENAR, Button, Shift, X, Y);
+        Pic_Boton_MouseMove(ORDEN_ORDENAR, 0, 0, 0, 0);  // its state must be fresh
+        Pic_Boton_MouseDown(ORDEN_ORDENAR, BOTON_IZQUIERDO, 0, 0, 0);
         return;
     }
     Sigue([&] { ORDENES[Index - 1].hace(); });

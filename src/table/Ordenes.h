@@ -19,6 +19,8 @@ extern VentanasDeOrdenes VentanasOrdenes;
 
 // Any mouse button runs the command.
 void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y);
+// What the press does once it has been accepted: ends the other commands and carries this one out.
+void CumpleOrden(i16 Index);
 // Applies the enabling rule.
 void Pic_Boton_MouseMove(i16 Index, i16 Button, i16 Shift, float X, float Y);
 // Is the command forbidden now?

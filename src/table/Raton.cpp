@@ -16,6 +16,7 @@
 #include "table/Final.h"
 #include "table/Grabadora.h"
 #include "table/Opciones.h"
+#include "table/Tareas.h"
 #include "table/Tutor.h"
 #include "tangram/Desolape.h"
 
@@ -66,13 +67,23 @@ void CogePieza() {
     Gbl.CursorActual = CURSOR_NORMAL;
 }
 
+void BuscaPieza(i32 x, i32 y);
+
+// The display of right and wrong pieces ends before a piece is touched. The pointer found none
+// while it lasted, so it looks again.
+void TerminaColocadas() {
+    if (!Gbl.MostrandoColocadas) return;
+    Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    BuscaPieza(Gbl.XPulsado, Gbl.YPulsado);
+}
+
 void PulsaIzquierdo() {
     if (Gbl.PuzzleTerminado) {
         AvisaTerminado();
         return;
     }
     const bool deslizantes = Gbl.JuegoActual == JuegoDeslizantes;
-    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    TerminaColocadas();
     if (deslizantes && Gbl.PiezaActual == 0 && Gbl.OrdenManual) {
         Pulsa(Pic_Boton(BOTON_ORDENAR));
         return;
@@ -90,6 +101,7 @@ void PulsaIzquierdo() {
 void GiraMientrasPulsado() {
     if ((Gbl.BotonPulsado != BOTON_DERECHO || Gbl.GrabadoraEncendida) && !Gbl.ResolviendoPuzzle)
         return;
+    TerminaColocadas();
     if (Gbl.PiezaActual == 0 || Gbl.JuegoActual == JuegoDeslizantes) return;
     const i16 piece = Gbl.PiezaActual;
     const Pieza antes = Gbl.Piezas[piece];
@@ -245,6 +257,7 @@ constexpr i16 GIRO_AL_VOLTEAR[8] = {0, 3, 2, 1, 4, 3, 6, 1};
 
 // The parallelogram is turned over where it lies.
 void VolteaParalelogramo() {
+    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
     Pieza& p = Gbl.Piezas[PARALELOGRAMO];
     Pieza antes = p;
     const bool enMano = Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle;
@@ -287,12 +300,19 @@ void AplicaCursor(i16 id) {
     PonPuntero(Pic_Trabajo, id);
 }
 
+void SueltaLoQueHaya(i16 X, i16 Y) {
+    if (!Gbl.ArrastrandoPieza || DentroDeTarea() || Gbl.ResolviendoPuzzle) return;
+    Pic_Trabajo_MouseUp(BOTON_IZQUIERDO, 0, X, Y);
+}
+
 void Pic_Trabajo_MouseDown(i16 Button, i16 /*Shift*/, float X, float Y) {
     Gbl.XPulsado = Entero(X);
     Gbl.YPulsado = Entero(Y);
     Gbl.BotonPulsado = Button;
     Pic_SelOpciones.Visible = false;
     Gbl.TutorEsperando = false;
+    if (DentroDeTarea()) return;
+    SueltaLoQueHaya(Gbl.XPulsado, Gbl.YPulsado);
     if (Button == BOTON_IZQUIERDO && PulsoIzquierdoManda())
         PulsaIzquierdo();
     else if (Gbl.PermitirGiro)
@@ -343,7 +363,9 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii) {
         case 'V':
         case 'v':
             // With the recorder on, the table is only looked at.
-            if (Gbl.JuegoActual == JuegoTangram && !Gbl.GrabadoraEncendida) VolteaParalelogramo();
+            // Nor does it change in the middle of other work.
+            if (Gbl.JuegoActual == JuegoTangram && !Gbl.GrabadoraEncendida && !DentroDeTarea())
+                VolteaParalelogramo();
             break;
         default:
             break;

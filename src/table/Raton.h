@@ -11,6 +11,9 @@ void Pic_Trabajo_MouseMove(i16 Button, i16 Shift, float X, float Y);
 void Pic_Trabajo_MouseUp(i16 Button, i16 Shift, float X, float Y);
 void Pic_Trabajo_Click();
 void Pic_Trabajo_KeyPress(i16 KeyAscii);
+// Drops the piece in hand, if there is one, with the pointer at this point: whatever begins anew
+// begins with empty hands.
+void SueltaLoQueHaya(i16 X, i16 Y);
 // Applies a cursor id to the table.
 void AplicaCursor(i16 id);
 

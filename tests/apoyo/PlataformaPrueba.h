@@ -102,6 +102,9 @@ public:
     void Suelta();                    // MouseUp, then Click if still over the control
     void Pulsa(i32 x, i32 y, i16 boton = BOTON_IZQUIERDO);   // move, press, release
     Control* Debajo() const;          // the control under the pointer, or null
+    Control* Preso() const { return preso_; }   // the control that holds the press, or null
+    i16 Boton() const { return boton_; }        // the button last pressed
+    Punto Lugar() const { return {x_, y_}; }
     static Punto Origen(const Control& c);   // a control's corner in window pixels
 
 private:

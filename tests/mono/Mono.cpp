@@ -5,6 +5,9 @@
 //
 // The seed is printed; a run with the same seed and game does the same.
 //
+// Events come in also from inside the runs that let them through (solver, shuffle, side
+// arrangement, replay, turning piece), as the real window system does it.
+//
 // The table's picture must equal one laid afresh from the piece table whenever nothing is in hand.
 // The exceptions, each wanted, are the names in `Excepcion` below.
 #include <cstdio>
@@ -24,7 +27,9 @@
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Superficies.h"
+#include "records/Modelos.h"
 #include "sliding/Tablero.h"
+#include "table/Ordenes.h"
 
 namespace tessario {
 namespace {
@@ -43,13 +48,25 @@ enum Excepcion : unsigned {
     Terminado = 1,         // the finished look covers the joints
     DosColores = 2,        // right and wrong pieces are shown in colours
     PiezaDelTutor = 4,     // the tutor's piece comes back above its neighbours
-    PiezaVolteada = 8,     // "V" draws the parallelogram above without raising it
+    PiezaEmpujada = 8,     // "V" draws the piece under the pointer above without raising it
     GiroReproducido = 16,  // the recorder redraws a turned piece above without raising it
 };
 
+// What was under way when an event came in from inside; counted to see that the mix reaches it.
+enum Tarea : std::size_t { Baraja, Resuelve, Ordena, Reproduce, Gira, Tareas };
+constexpr const char* NOMBRES_TAREA[Tareas] = {"shuffle", "solver", "arrangement", "replay",
+                                               "turn"};
+
 class Mono {
 public:
-    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla), puntero_(Mesa) {}
+    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla), puntero_(Mesa) {
+        personal_.Nombre = "Personal";
+    }
+    ~Mono() {
+        if (VentanasOrdenes.Personal == &personal_) VentanasOrdenes.Personal = nullptr;
+    }
+    Mono(const Mono&) = delete;
+    Mono& operator=(const Mono&) = delete;
 
     void Corre(long eventos) {
         Arranca();
@@ -57,6 +74,8 @@ public:
             const i16 antes = Gbl.NumMovimientos;
             Evento();
             jugadas_ += Gbl.NumMovimientos > antes;
+            acabados_ += Gbl.PuzzleTerminado && !acabado_;
+            acabado_ = Gbl.PuzzleTerminado;
             if (p_->terminado) Arranca();
             Comprueba();
         }
@@ -66,6 +85,8 @@ public:
     long Pulsos() const { return pulsos_; }
     long Fotos() const { return fotos_; }
     long Jugadas() const { return jugadas_; }
+    long Acabados() const { return acabados_; }
+    long Anidados(std::size_t tarea) const { return anidados_[tarea]; }
 
 private:
     i32 Hasta(i32 n) { return static_cast<i32>(azar_() % static_cast<unsigned>(n)); }
@@ -93,20 +114,35 @@ private:
         apretado_ = false;
         excepciones_ = 0;
         Exige(Main(), "the start was refused");
-        p_->ventanas["Mensajes"] = [this](Ventana&) { Gbl.RespuestaMensaje = !Una(3); };
-        p_->alDejarPasar = [this] {
-            if (anidado_ >= 2 || !Una(6)) return;
-            ++anidado_;
-            Evento();
-            --anidado_;
-        };
+        Gbl.VentanaInformacion = Una(2);
+        p_->ventanas["Mensajes"] = [this](Ventana&) { Contesta(); };
+        p_->ventanas["Personal"] = [this](Ventana&) { Personaliza(); };
+        if (!VentanasOrdenes.Personal) VentanasOrdenes.Personal = &personal_;
+        p_->alDejarPasar = [this] { EventoDentro(); };
         Varia();
+    }
+
+    // A message is answered after a while, in which the clock goes on.
+    void Contesta() {
+        while (Una(3)) Tic();
+        Gbl.RespuestaMensaje = Gbl.BotonesMensaje == 1 || !Una(3);
+    }
+
+    void EventoDentro() {
+        if (anidado_ >= 2 || !Una(6)) return;
+        const bool bajo[Tareas] = {Gbl.Barajando, Gbl.TareaAutomatica, Gbl.OrdenandoPiezas,
+                                   Gbl.AutoAtras || Gbl.AutoAdelante, Gbl.GirandoPieza};
+        for (std::size_t t = 0; t < Tareas; ++t) anidados_[t] += bajo[t];
+        ++anidado_;
+        Evento();
+        --anidado_;
     }
 
     void Prepara() {
         namespace fs = std::filesystem;
         fs::create_directories(p_->carpeta + "Imagenes");
         fs::create_directories(p_->carpeta + "Archivo");
+        fs::copy_file(TESSARIO_MODELOS, p_->carpeta + "Archivo/Modelos.tpu");
         const std::string ruta = p_->carpeta + "Imagenes/a.jpg";
         std::ofstream(ruta) << "x";
         // The larger one scrolls on this screen.
@@ -122,29 +158,54 @@ private:
             << "-1" << std::string(116, ' ') << "\"\r\n";
     }
 
-    // Now and then another cut, size or background.
+    // Now and then another cut, size, background or model from the start.
     void Varia() {
         if (!Una(2)) return;
+        Elige();
+        PreparaJuego(true);
+        if (juego_ == JuegoDeslizantes) ColocaPiezas(1);
+    }
+
+    void Elige() {
+        Gbl.DibujarBorde = Una(2);
         if (juego_ == JuegoMoviles) {
             Gbl.FormaPiezas = static_cast<i16>(Hasta(8));
             Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas);
             Gbl.PiezasPorLado = static_cast<i16>(3 + Hasta(3));
-            Gbl.DibujarBorde = Una(2);
         } else if (juego_ == JuegoDeslizantes) {
             Gbl.PiezasPorLado = static_cast<i16>(3 + Hasta(2));
-            Gbl.TipoFondo = static_cast<i16>(2 + Hasta(2));
-            Gbl.DibujarBorde = Una(2);
+            Gbl.TipoFondo = static_cast<i16>(1 + Hasta(3));
         } else {
-            Gbl.DibujarBorde = Una(2);
             Gbl.AtraccionPiezas = Una(2);
+            Gbl.ModoJuego = Una(3) ? MODO_CREAR : MODO_RESOLVER;
+            Gbl.ModeloActual = static_cast<i16>(1 + Hasta(150));
+            if (Gbl.ModoJuego == MODO_RESOLVER) LeeModelo();
         }
-        PreparaJuego(true);
-        if (juego_ == JuegoDeslizantes) ColocaPiezas(1);
+    }
+
+    // What the player does in the settings window.
+    void Personaliza() {
+        while (Una(3)) Tic();
+        if (Una(3)) {
+            Elige();
+            Gbl.ParametrosCambiados = true;
+        } else if (Una(2)) {
+            Gbl.ColorFondo = Hasta(0x1000000);
+            Gbl.ColorPiezas = Hasta(0x1000000);
+            CalculaColores();
+            Gbl.ColoresCambiados = true;
+        }
     }
 
     // A point: mostly near a piece, sometimes on the strip, sometimes anywhere.
     Punto Lugar() {
         const i32 suerte = Hasta(10);
+        if (Pic_SelOpciones.Visible && Una(2)) return LugarEn(Pic_SelOpciones);
+        if (Gbl.PuzzleTerminado && Una(4)) return LugarEn(Pic_Boton(1));
+        if (Pic_Muestra.Visible && Una(30)) return LugarEn(Pic_Muestra);
+        if (Pic_Sugerencia.Visible && Una(60))
+            return LugarEn(Una(2) ? Pic_SugeMasAyuda : Pic_SugeBotCerrar);
+        if (Gbl.JuegoActual == JuegoDeslizantes && suerte < 5) return LugarJuntoAlHueco();
         if (suerte < 6 && Gbl.Piezas.Superior() >= 1) {
             const Rect c = CajaDePieza(static_cast<i16>(1 + Hasta(Gbl.NumPiezas)));
             return {c.Izq + Hasta(std::max(1, c.Ancho())) - BarraHor.Value,
@@ -154,16 +215,25 @@ private:
         return {Hasta(p_->ancho), Hasta(p_->alto)};
     }
 
+    Punto LugarEn(const Cuadro& c) {
+        const Punto o = PunteroPrueba::Origen(c);
+        return {o.x + Hasta(std::max(1, c.Width())), o.y + Hasta(std::max(1, c.Height()))};
+    }
+
+    // A piece that can slide, when the board has one on that side.
+    Punto LugarJuntoAlHueco() {
+        static constexpr Punto LADOS[] = {{0, -1}, {1, 0}, {0, 1}, {-1, 0}};
+        const Punto lado = LADOS[Hasta(4)];
+        return {Gbl.HuecoX + lado.x * Gbl.AnchoCelda + Gbl.AnchoCelda / 2,
+                Gbl.HuecoY + lado.y * Gbl.AltoCelda + Gbl.AltoCelda / 2};
+    }
+
     // A command button, a key of the recorder or the clock's switch.
     Punto LugarDeLaBotonera() {
         static constexpr Punto TECLAS[] = {{20, 12}, {20, 12}, {14, 31}, {35, 31},
                                            {14, 47}, {35, 47}, {24, 63}};
         const i32 cual = Hasta(20);
-        if (cual < 12) {
-            const Cuadro& boton = Pic_Boton(cual + 1);
-            const Punto o = PunteroPrueba::Origen(boton);
-            return {o.x + Hasta(boton.Width()), o.y + Hasta(boton.Height())};
-        }
+        if (cual < 12) return LugarEn(Pic_Boton(cual + 1));
         if (cual < 19) {
             const Punto o = PunteroPrueba::Origen(Pic_Grabadora);
             const Punto t = TECLAS[cual - 12];
@@ -174,7 +244,6 @@ private:
     }
 
     void Evento() {
-        static constexpr i16 TECLAS[] = {'v', 'V', 27, 'q', 'x', 13, ' '};
         switch (Hasta(12)) {
             case 0:
             case 1:
@@ -196,25 +265,104 @@ private:
                 Suelta();
                 break;
             default:
-                if (Una(2)) {
-                    ultimo_ = "tick";
-                    if (Timer1.Timer) Timer1.Timer();
-                    p_->reloj += 1000;
-                } else {
-                    ultimo_ = "key";
-                    const i16 tecla = TECLAS[Hasta(7)];
-                    if (juego_ == JuegoTangram && (tecla == 'v' || tecla == 'V'))
-                        excepciones_ |= PiezaVolteada;
-                    if (Mesa.KeyPress) Mesa.KeyPress(tecla);
-                }
+                EventoRaro();
         }
-        if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
-        for (const auto& s : p_->sonidos)
-            if (s.first == 55) excepciones_ |= PiezaDelTutor;
+        AnotaExcepciones();
         p_->sonidos.clear();
         p_->avisos.clear();
         p_->mostradas.clear();
         p_->ayudas.clear();
+    }
+
+    // What comes less often than the mouse.
+    void EventoRaro() {
+        switch (Hasta(8)) {
+            case 0:
+            case 1:
+            case 2:
+                Tic();
+                break;
+            case 3:
+            case 4:
+                Tecla();
+                break;
+            case 5:
+                PulsaConTeclado();
+                break;
+            case 6:
+                OtroBoton();
+                break;
+            default:
+                DeLaVentana();
+        }
+    }
+
+    void AnotaExcepciones() {
+        if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
+        for (const auto& s : p_->sonidos)
+            if (s.first == 55) excepciones_ |= PiezaDelTutor;
+        vistos_ = std::min(vistos_, Gbl.NumMovimientos);
+        while (vistos_ < Gbl.NumMovimientos) {
+            const Movimiento& m = Gbl.Movimientos[++vistos_];
+            if (m.VolteoAntes == m.VolteoDespues) continue;
+            excepciones_ |= PiezaEmpujada;
+            volteada_ = true;
+        }
+    }
+
+    void Tic() {
+        ultimo_ = "tick";
+        p_->reloj += Una(8) ? 16000 : 1000;
+        if (Timer1.Timer) Timer1.Timer();
+    }
+
+    void Tecla() {
+        static constexpr i16 TECLAS[] = {'v', 'V', 27, 'q', 'x', 13, ' '};
+        const i16 tecla = TECLAS[Hasta(7)];
+        ultimo_ = "key " + std::to_string(tecla);
+        if (Mesa.KeyPress) Mesa.KeyPress(tecla);
+    }
+
+    // A command button reached with the tabulator and pressed with the space bar, whatever the
+    // mouse is doing.
+    void PulsaConTeclado() {
+        const i32 cual = 1 + Hasta(12);
+        Cuadro& boton = Pic_Boton(cual);
+        if (!boton.Visible) return;
+        ultimo_ = "space on button " + std::to_string(cual);
+        ++pulsos_;
+        if (boton.GotFocus) boton.GotFocus();
+        if (boton.KeyDown) boton.KeyDown(' ', 0);
+        Pulsa(boton);
+    }
+
+    // While one button holds the table, the other is pressed and released there too.
+    void OtroBoton() {
+        if (!apretado_ || puntero_.Preso() != &Pic_Trabajo) return;
+        ultimo_ = "other button";
+        const i16 boton = puntero_.Boton() == BOTON_DERECHO ? BOTON_IZQUIERDO : BOTON_DERECHO;
+        const Punto p = puntero_.Lugar(), o = PunteroPrueba::Origen(Pic_Trabajo);
+        const auto x = static_cast<float>(p.x - o.x), y = static_cast<float>(p.y - o.y);
+        Pic_Trabajo.MouseDown(boton, 0, x, y);
+        Pic_Trabajo.MouseUp(boton, 0, x, y);
+        Pic_Trabajo.Click();
+    }
+
+    // The window is closed from outside, uncovered, scrolled.
+    void DeLaVentana() {
+        const i32 suerte = Hasta(8);
+        if (suerte == 0) {
+            ultimo_ = "close";
+            bool cancela = false;
+            Mesa.QueryUnload(cancela);
+        } else if (suerte < 4) {
+            ultimo_ = "paint";
+            Pic_Trabajo.Paint();
+        } else {
+            ultimo_ = "scroll";
+            BarraDesplazamiento& barra = Una(2) ? BarraHor : BarraVer;
+            if (barra.Visible) barra.Pon(Hasta(barra.Max + 1));
+        }
     }
 
     void Mueve(Punto p) {
@@ -242,6 +390,7 @@ private:
         CompruebaOrden();
         CompruebaGrabadora();
         CompruebaBanderas();
+        if (numero_ % 16 == 0 && !Gbl.ArrastrandoPieza) CompruebaCadena();
         if (Gbl.JuegoActual == JuegoDeslizantes && !Gbl.ArrastrandoPieza) CompruebaCeldas();
         Exige(Gbl.JuegoActual == juego_, "the game is the one that was started");
         // The picture is looked at when something was drawn on it.
@@ -275,6 +424,22 @@ private:
                   "the log names pieces");
     }
 
+    // The log leads to where the pieces are: taken back from the last move to the first, each move
+    // ends where the next one of its piece begins. "V" may push a piece without a move.
+    void CompruebaCadena() {
+        if (Gbl.NumMovimientos == 0) volteada_ = false;
+        if (volteada_) return;
+        std::vector<Punto> lugar(static_cast<std::size_t>(Gbl.NumPiezas) + 1);
+        for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
+            lugar[static_cast<std::size_t>(i)] = {Gbl.Piezas[i].X, Gbl.Piezas[i].Y};
+        for (i32 i = Gbl.NumMovimientos; i >= 1; --i) {
+            const Movimiento& m = Gbl.Movimientos[i];
+            Punto& p = lugar[static_cast<std::size_t>(m.Pieza)];
+            Exige(p.x == m.XDespues && p.y == m.YDespues, "the log leads to the table");
+            p = {m.XAntes, m.YAntes};
+        }
+    }
+
     void CompruebaBanderas() const {
         Exige(!Gbl.ArrastrandoPieza || apretado_, "no piece in hand without a press");
         Exige(!Gbl.SoltandoPieza, "no drop under way between events");
@@ -285,6 +450,9 @@ private:
         Exige(!Gbl.TareaAutomatica, "no automatic run under way between events");
         Exige(!Gbl.AutoAtras && !Gbl.AutoAdelante, "no replay under way between events");
         Exige(Gbl.MarcaPausa == 0, "no pause under way between events");
+        Exige(Gbl.EventosAnidados == 0 && Gbl.ManejadoresEnCurso == 0, "no handler still at work");
+        Exige(Gbl.OrdenAplazada == 0, "no request left waiting");
+        Exige(Mesa.MousePointer == PUNTERO_NORMAL, "no busy pointer between events");
         // A piece in hand is counted when it is dropped.
         Exige(Gbl.ArrastrandoPieza || Gbl.PiezasColocadas == CuentaColocadas(),
               "the count of placed pieces is right");
@@ -331,15 +499,20 @@ private:
     }
 
     i16 juego_;
+    Ventana personal_;
     std::mt19937 azar_;
     std::unique_ptr<PlataformaPrueba> p_;
     PunteroPrueba puntero_;
     bool apretado_ = false;
     bool dibujado_ = true;
+    bool volteada_ = false;  // a parallelogram was turned over since the log began
+    bool acabado_ = false;
+    i16 vistos_ = 0;  // moves of the log looked at for turned pieces
     int anidado_ = 0;
     unsigned excepciones_ = 0;
     long numero_ = 0;
-    long pulsos_ = 0, fotos_ = 0, jugadas_ = 0;
+    long pulsos_ = 0, fotos_ = 0, jugadas_ = 0, acabados_ = 0;
+    long anidados_[Tareas] = {};
     std::string ultimo_;
 };
 
@@ -355,9 +528,12 @@ bool Suelta(i16 juego, long eventos, unsigned semilla) {
     }
     PonSistema(nullptr);
     std::printf(
-        "game %d: %ld events, %ld presses, %ld pictures compared, %ld moves logged: "
-        "nothing to complain of\n",
-        juego, eventos, mono.Pulsos(), mono.Fotos(), mono.Jugadas());
+        "game %d: %ld events, %ld presses, %ld pictures compared, %ld moves logged, %ld puzzles "
+        "finished; events inside",
+        juego, eventos, mono.Pulsos(), mono.Fotos(), mono.Jugadas(), mono.Acabados());
+    for (std::size_t t = 0; t < Tareas; ++t)
+        std::printf("%s %s %ld", t == 0 ? "" : ",", NOMBRES_TAREA[t], mono.Anidados(t));
+    std::printf(": nothing to complain of\n");
     return true;
 }
 
