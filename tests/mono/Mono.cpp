@@ -59,7 +59,7 @@ constexpr const char* NOMBRES_TAREA[Tareas] = {"shuffle", "solver", "arrangement
 
 class Mono {
 public:
-    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla), puntero_(Mesa) {
+    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla) {
         personal_.Nombre = "Personal";
     }
     ~Mono() {
@@ -111,6 +111,7 @@ private:
         if (!nombre.empty() && Una(2))
             std::ofstream(p_->carpeta + nombre, std::ios::binary) << guardado;
         Prepara();
+        puntero_ = std::make_unique<PunteroPrueba>(Mesa);
         apretado_ = false;
         excepciones_ = 0;
         Exige(Main(), "the start was refused");
@@ -338,10 +339,10 @@ private:
 
     // While one button holds the table, the other is pressed and released there too.
     void OtroBoton() {
-        if (!apretado_ || puntero_.Preso() != &Pic_Trabajo) return;
+        if (!apretado_ || puntero_->Preso() != &Pic_Trabajo) return;
         ultimo_ = "other button";
-        const i16 boton = puntero_.Boton() == BOTON_DERECHO ? BOTON_IZQUIERDO : BOTON_DERECHO;
-        const Punto p = puntero_.Lugar(), o = PunteroPrueba::Origen(Pic_Trabajo);
+        const i16 boton = puntero_->Boton() == BOTON_DERECHO ? BOTON_IZQUIERDO : BOTON_DERECHO;
+        const Punto p = puntero_->Lugar(), o = PunteroPrueba::Origen(Pic_Trabajo);
         const auto x = static_cast<float>(p.x - o.x), y = static_cast<float>(p.y - o.y);
         Pic_Trabajo.MouseDown(boton, 0, x, y);
         Pic_Trabajo.MouseUp(boton, 0, x, y);
@@ -367,7 +368,7 @@ private:
 
     void Mueve(Punto p) {
         ultimo_ = "move " + std::to_string(p.x) + "," + std::to_string(p.y);
-        puntero_.Mueve(p.x, p.y);
+        puntero_->Mueve(p.x, p.y);
     }
 
     void Aprieta(i16 boton) {
@@ -376,14 +377,14 @@ private:
         ultimo_ += boton == BOTON_DERECHO ? " right press" : " left press";
         apretado_ = p_->botones = true;
         ++pulsos_;
-        puntero_.Aprieta(boton);
+        puntero_->Aprieta(boton);
     }
 
     void Suelta() {
         if (!apretado_) return;
         ultimo_ += " release";
         apretado_ = p_->botones = false;
-        puntero_.Suelta();
+        puntero_->Suelta();
     }
 
     void Comprueba() {
@@ -502,7 +503,7 @@ private:
     Ventana personal_;
     std::mt19937 azar_;
     std::unique_ptr<PlataformaPrueba> p_;
-    PunteroPrueba puntero_;
+    std::unique_ptr<PunteroPrueba> puntero_;
     bool apretado_ = false;
     bool dibujado_ = true;
     bool volteada_ = false;  // a parallelogram was turned over since the log began
