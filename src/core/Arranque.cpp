@@ -220,7 +220,7 @@ bool Main() {
     Sigue([] { CargaMesa(); });
     Sigue([] { Inicializa(); });
     Sigue([] { SituaMesa(); });
-    Sigue([] { CambiaCrono(1); });
+    Sigue([] { CambiaCrono(CRONO_MARCHA); });
     Sistema().Cierra(Careta);
     Sigue([] { LeeConfiguracion(); });
     Sigue([] { CargaBotonera(); });

@@ -4,7 +4,6 @@
 
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
-#include "pieces/Raster.h"
 #include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
 #include "table/Cronometro.h"
@@ -31,8 +30,7 @@ bool GiroCorrectoTangram(i16 piece, const Pieza& p) {
 
 void DibujaPiezaEnMesa(i32 indice, i16 Modo) {
     const i16 piece = Gbl.OrdenPiezas[indice];
-    PreparaPieza(piece);
-    PintaPieza(Pic_Imagen, piece);
+    PonPieza(piece);
     if (Modo != 0) return;
     Pic_Trabajo_Paint();
     Sistema().Presenta();
@@ -62,6 +60,14 @@ i16 CuentaColocadas() {
     for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
         if (PiezaEnSuSitio(static_cast<i16>(i))) ++colocadas;
     return colocadas;
+}
+
+bool CreandoFiguras() {
+    return Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR;
+}
+
+bool ResolviendoModelo() {
+    return Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER;
 }
 
 void ColocaPiezas(i16 Modo) {

@@ -14,6 +14,10 @@ bool PiezaEnSuSitio(i16 piece);
 // Pieces in their place, counted in full.
 i16 CuentaColocadas();
 
+// The two modes of the Tangram; false in the other games.
+bool CreandoFiguras();
+bool ResolviendoModelo();
+
 // Draws every piece in stacking order on a cleared Pic_Imagen and recounts. Modo 0 repaints the
 // table after every piece, 1 once at the end; with any other the caller repaints.
 void ColocaPiezas(i16 Modo);

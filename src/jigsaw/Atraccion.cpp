@@ -7,7 +7,6 @@
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
-#include "pieces/Raster.h"
 #include "pieces/Superficies.h"
 #include "tangram/Completado.h"
 
@@ -37,8 +36,7 @@ bool CercaDeSuSitio(i16 piece) {
 void LlevaASuSitio(i16 piece) {
     const Rect caja = CajaDePieza(piece);
     BorraPieza(piece);
-    BitBlt(Pic_Trabajo, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Imagen, caja.Izq,
-           caja.Arr, SRCCOPY);
+    MuestraCaja(caja);
     Pieza& z = Gbl.Piezas[piece];
     z.X = z.XBien;
     z.Y = z.YBien;
@@ -47,8 +45,7 @@ void LlevaASuSitio(i16 piece) {
 }
 
 bool TieneGemela(i16 piece) {
-    return Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER &&
-           Gbl.TGemela[piece] != 0;
+    return ResolviendoModelo() && Gbl.TGemela[piece] != 0;
 }
 
 // ---------------------------------------------------------------- attraction between pieces
@@ -134,8 +131,7 @@ void Pega(const Busqueda& b) {
     const i32 a = Gbl.XInterior, c = Gbl.YInterior;
     BorraPieza(piece);
     BuscaContacto(b, a, c);
-    PreparaPieza(piece);
-    PintaPieza(Pic_Imagen, piece);
+    PonPieza(piece);
     Pic_Trabajo_Paint();
 }
 

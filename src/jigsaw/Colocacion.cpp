@@ -4,7 +4,6 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "pieces/Composicion.h"
-#include "pieces/Raster.h"
 #include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
 #include "sliding/Solucion.h"
@@ -26,11 +25,8 @@ constexpr i16 PAUSA_GIRO = 110, PAUSA_COLOCADA = 15;  // ms
 void MuestraPieza(i16 piece) {
     const Color color = PiezaEnSuSitio(piece) ? COLOR_BIEN : COLOR_MAL;
     if (Pic_PiezaColor.BackColor() != color) Pic_PiezaColor.PonBackColor(color);
-    PreparaPieza(piece);
-    PintaPieza(Pic_Imagen, piece);
-    const Rect caja = CajaDePieza(piece);
-    BitBlt(Pic_Trabajo, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Imagen, caja.Izq,
-           caja.Arr, SRCCOPY);
+    PonPieza(piece);
+    MuestraCaja(CajaDePieza(piece));
     Sistema().Presenta();  // the player sees the table change piece by piece
 }
 

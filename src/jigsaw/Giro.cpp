@@ -18,7 +18,6 @@ struct Salto {
 
 constexpr i16 FORMA_TRIANGULOS = 3;
 constexpr i16 ULTIMO_TRIANGULO = 5;  // of the Tangram
-constexpr i16 CRONO_EN_MARCHA = 1;
 
 // Quarter of its cell that a triangle fills, by side: top, right, bottom, left.
 constexpr double CUARTO_X[4] = {-0.25, 0.25, 0.25, -0.25};
@@ -95,12 +94,11 @@ void GiraPieza() {
     // An automatic run turns the piece straight to its right orientation.
     z.Giro = Gbl.ResolviendoPuzzle ? z.GiroBien : nuevo;
 
-    PreparaPieza(piece);
-    PintaPieza(Pic_Imagen, piece);
+    PonPieza(piece);
     Pic_Trabajo_Paint();
     if (Gbl.JuegoActual == JuegoTangram) TDesolapaPieza();
     MuestraColocadas();
-    CambiaCrono(CRONO_EN_MARCHA);
+    CambiaCrono(CRONO_MARCHA);
 }
 
 }  // namespace tessario

@@ -59,6 +59,16 @@ void PintaPieza(Superficie& destino, i16 piece) {
     BitBlt(destino, x, y, w, h, Pic_PiezaFinal, 0, 0, SRCCOPY);
 }
 
+void PonPieza(i16 piece) {
+    PreparaPieza(piece);
+    PintaPieza(Pic_Imagen, piece);
+}
+
+void MuestraCaja(const Rect& caja) {
+    BitBlt(Pic_Trabajo, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Imagen, caja.Izq,
+           caja.Arr, SRCCOPY);
+}
+
 void BorraPieza(i16 piece) {
     const Rect caja = CajaDePieza(piece);
     BitBlt(Pic_Imagen, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Fondo, caja.Izq, caja.Arr,
@@ -70,8 +80,7 @@ void BorraPieza(i16 piece) {
         if (p == piece) continue;
         // The boxes are what the intersection of the two regions would tell.
         if (Interseccion(caja, CajaDePieza(p)).Vacio()) continue;
-        PreparaPieza(p);
-        PintaPieza(Pic_Imagen, p);
+        PonPieza(p);
     }
 }
 
@@ -100,8 +109,7 @@ void MuevePieza(i16 x, i16 y, i16 piece) {
     PonRegion(Gbl.RegionAux2, nueva);
     CombineRgn(Gbl.RegionAux3, Gbl.RegionAux1, Gbl.RegionAux2, RGN_DIFF);
     SelectClipRgn(Pic_Trabajo, &Gbl.RegionAux3);
-    BitBlt(Pic_Trabajo, vieja.Izq, vieja.Arr, vieja.Ancho(), vieja.Alto(), Pic_Imagen, vieja.Izq,
-           vieja.Arr, SRCCOPY);
+    MuestraCaja(vieja);
     SelectClipRgn(Pic_Trabajo, nullptr);
     Gbl.XRaton = x;
     Gbl.YRaton = y;
@@ -140,8 +148,7 @@ void Pic_Trabajo_Paint() {
     const Rect tocado = Interseccion(Union(Pic_Imagen.TomaTocado(), Pic_Trabajo.TomaTocado()),
                                      Pic_Imagen.Limites());
     if (tocado.Vacio()) return;
-    BitBlt(Pic_Trabajo, tocado.Izq, tocado.Arr, tocado.Ancho(), tocado.Alto(), Pic_Imagen,
-           tocado.Izq, tocado.Arr, SRCCOPY);
+    MuestraCaja(tocado);
     Pic_Trabajo.TomaTocado();  // the copy itself is no difference
 }
 

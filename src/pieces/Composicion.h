@@ -8,6 +8,8 @@ namespace tessario {
 
 // Composites the prepared piece on a surface, blended with Pic_Imagen.
 void PintaPieza(Superficie& destino, i16 piece);
+// Prepares a piece and composites it into Pic_Imagen, above what lies there.
+void PonPieza(i16 piece);
 // Removes a piece from Pic_Imagen. The prepared piece is then another one.
 void BorraPieza(i16 piece);
 // Picks a piece up; it stays visible on Pic_Trabajo and is prepared.
@@ -22,7 +24,9 @@ i16 PosicionEnOrden(i16 piece);
 void SubePieza(i16 index);
 // Box of a piece on the table, with its overhang.
 Rect CajaDePieza(i16 piece);
-// Shows what has been composed: Pic_Imagen onto Pic_Trabajo.
+// Shows what has been composed in a box: Pic_Imagen onto Pic_Trabajo.
+void MuestraCaja(const Rect& caja);
+// Shows all that has been composed.
 void Pic_Trabajo_Paint();
 
 }  // namespace tessario

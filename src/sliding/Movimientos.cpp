@@ -17,7 +17,6 @@ namespace {
 
 constexpr i16 SONIDO_DESLIZA = 53;
 constexpr i16 ESPERA = 0, SIN_ESPERA = 1;  // modes of SonidoJuego
-constexpr i16 CRONO_EN_MARCHA = 1;
 
 // Cursor ids by LadoHueco, and the one of the manual ordering.
 constexpr i16 CURSOR_PROHIBIDO = 12, CURSOR_CRUZ = 15;
@@ -80,7 +79,7 @@ bool CursorDeslizante(i16 piece) {
 
 void PulsaDeslizante() {
     if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
-    CambiaCrono(CRONO_EN_MARCHA);
+    CambiaCrono(CRONO_MARCHA);
     // Deliberate: ArrastrandoPieza stays set after the run: the release closes the move.
     JuegaPieza(Gbl.PiezaActual, true);
     HuecoAlOrigen();

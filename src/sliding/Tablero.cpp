@@ -18,7 +18,6 @@ constexpr i16 MAX_VECINOS = 4;
 constexpr i16 MARCA_HUECO = 999;      // greater than every piece number in the count of inversions
 constexpr i32 CAMBIOS_POR_PIEZA = 3;  // swaps of the instant shuffle before its first test
 constexpr i32 MOVIMIENTOS_INICIALES = 100;  // upper bound of a new log
-constexpr i16 CRONO_EN_MARCHA = 1;
 
 // Column and row, from 0.
 struct Casilla {
@@ -194,7 +193,7 @@ void ReiniciaPartida() {
     Gbl.SegundosJuego = 0;
     Gbl.NumMovimientos = 0;
     Gbl.Movimientos.Redimensiona(MOVIMIENTOS_INICIALES);
-    CambiaCrono(CRONO_EN_MARCHA);
+    CambiaCrono(CRONO_MARCHA);
 }
 
 }  // namespace tessario

@@ -220,7 +220,7 @@ bool ColumnaTocada(i32 x) {
 void BarajaPiezas() {
     AplicaCursor(CURSOR_RELOJ);
     Gbl.Barajando = true;
-    CambiaCrono(2);
+    CambiaCrono(CRONO_PARO);
     Sigue([] {
         switch (Gbl.JuegoActual) {
             case JuegoMoviles:

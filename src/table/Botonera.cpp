@@ -1,5 +1,6 @@
 #include "table/Botonera.h"
 
+#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "pieces/Superficies.h"
@@ -89,7 +90,7 @@ void ColocaAparato(Cuadro& aparato, const LugarAparato& lugar, i32 y, bool visib
 
 void ColocaAparatos(i32 y) {
     // Who creates figures has nothing to place, no time to beat and no result.
-    const bool visible = Gbl.JuegoActual != JuegoTangram || Gbl.ModoJuego != MODO_CREAR;
+    const bool visible = !CreandoFiguras();
     ColocaAparato(Pic_Cronome, LUGAR_CRONOME, y, visible);
     ColocaAparato(Pic_InfoColo, LUGAR_INFOCOLO, y, visible);
     ColocaAparato(Pic_Grabadora, LUGAR_GRABADORA, y, visible);
@@ -99,7 +100,7 @@ void ColocaAparatos(i32 y) {
            SRCCOPY);
     if (!visible) return;
     Pic_Cronome.PonBackColor(COLOR_CRONOME);
-    CambiaCrono(Gbl.CronoEnMarcha ? 1 : 2);
+    CambiaCrono(Gbl.CronoEnMarcha ? CRONO_MARCHA : CRONO_PARO);
     PintaTiempo();
     // As last counted: at this point of a new game its pieces do not exist yet.
     PintaColocadas();

@@ -14,8 +14,6 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 CRONO_MARCHA = 1, CRONO_PARO = 2;  // states of CambiaCrono
-
 // The switch: its picture in Pic_BmpVario, running and stopped, and its place in Pic_Cronome.
 constexpr i32 INTERRUPTOR_ANCHO = 39, INTERRUPTOR_ALTO = 13;
 constexpr Punto INTERRUPTOR_MARCHA{57, 6}, INTERRUPTOR_PARO{6, 6}, INTERRUPTOR_LUGAR{10, 4};
@@ -65,9 +63,6 @@ bool EsDeslizantes() {
 bool EsTangram() {
     return Gbl.JuegoActual == JuegoTangram;
 }
-bool EsDiseno() {
-    return EsTangram() && Gbl.ModoJuego == MODO_CREAR;
-}
 bool SinTerminar() {
     return !Gbl.PuzzleTerminado;
 }
@@ -92,7 +87,7 @@ const BandaSugerencia BANDAS[] = {
     {16, 20, Siempre, SEGUN_BORDE},
     {21, 25, SinTerminar, 45},
     {26, 30, [] { return SinTerminar() && !Gbl.TutorEsperando; }, 50},
-    {31, 35, [] { return EsMoviles() || (EsTangram() && Gbl.ModoJuego == MODO_RESOLVER); }, 25},
+    {31, 35, [] { return EsMoviles() || ResolviendoModelo(); }, 25},
     {36, 40, [] { return EsMoviles() && AlgunaColocada() && SinTerminar(); }, 30},
     {41, 45, [] { return (EsMoviles() || EsTangram()) && SinTerminar(); }, 34},
     {46, 50, [] { return EsDeslizantes() && SinTerminar(); }, 36},
@@ -108,10 +103,10 @@ const BandaSugerencia BANDAS[] = {
     {66, 70, EsTangram, 63},
     {71, 75, EsMoviles, 65},
     {76, 80, EsTangram, 67},
-    {81, 85, [] { return !EsDiseno(); }, 75},
+    {81, 85, [] { return !CreandoFiguras(); }, 75},
     {86, 90, Siempre, 77},
-    {91, 95, EsDiseno, 78},
-    {96, 99, [] { return !EsDiseno(); }, 80},
+    {91, 95, CreandoFiguras, 78},
+    {96, 99, [] { return !CreandoFiguras(); }, 80},
     {100, 120, Siempre, SEGUN_JUEGO},
 };
 constexpr double SORTEO_SUGERENCIAS = 120;
@@ -157,6 +152,15 @@ void CambiaCrono(i16 estado) {
     LineaVer(Pic_Cronome, 1, 1, h - 3, MARCO_CLARO);
 }
 
+void DetieneCrono() {
+    Gbl.CronoAntes = Gbl.CronoEnMarcha;
+    CambiaCrono(CRONO_PARO);
+}
+
+void ReponeCrono() {
+    CambiaCrono(Gbl.CronoAntes ? CRONO_MARCHA : CRONO_PARO);
+}
+
 void PintaTiempo() {
     DibujaVisor(Pic_CroTime, TextoTiempo(Gbl.SegundosJuego), ESTILO_RELOJ);
 }
@@ -182,7 +186,7 @@ void PintaColocadas() {
 
 void MuestraColocadas() {
     Gbl.PiezasColocadas = CuentaColocadas();
-    if (!EsDiseno()) PintaColocadas();
+    if (!CreandoFiguras()) PintaColocadas();
 }
 
 void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo) {

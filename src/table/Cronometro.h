@@ -9,8 +9,12 @@
 
 namespace tessario {
 
-// 1 runs, 2 stops the chronometer; paints its switch.
+// Runs or stops the chronometer; paints its switch.
+inline constexpr i16 CRONO_MARCHA = 1, CRONO_PARO = 2;
 void CambiaCrono(i16 estado);
+// Stops it for a while, and afterwards makes it what it was. One memory serves all, CronoAntes.
+void DetieneCrono();
+void ReponeCrono();
 // One second of the timer.
 void Tic();
 // Recounts the pieces in their place and shows the count.

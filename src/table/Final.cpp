@@ -25,7 +25,7 @@ void OfreceAlHistorico() {
 }  // namespace
 
 void FinDeJuego() {
-    CambiaCrono(2);
+    CambiaCrono(CRONO_PARO);
     Pausa(PAUSA_FINAL);
     Sigue([] { EntraEnCompleto(); });
     SonidoJuego(1, SONIDO_RESUELTO);

@@ -4,7 +4,6 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "pieces/Composicion.h"
-#include "pieces/Raster.h"
 #include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
 #include "table/Cronometro.h"
@@ -182,8 +181,7 @@ void ReproduceOrientacion(const Movimiento& r, bool adelante) {
     p.Y = adelante ? r.YDespues : r.YAntes;
     p.Giro = adelante ? r.GiroDespues : r.GiroAntes;
     p.Volteo = adelante ? r.VolteoDespues : r.VolteoAntes;
-    PreparaPieza(r.Pieza);
-    PintaPieza(Pic_Imagen, r.Pieza);
+    PonPieza(r.Pieza);
 }
 
 }  // namespace
@@ -209,15 +207,14 @@ void EnciendeGrabadora() {
     Gbl.GrabadoraEncendida = true;
     // Deliberate: the commands remember the clock in the same place, so that one of them, such as
     // the help, leaves it stopped when the recorder is switched off afterwards.
-    Gbl.CronoAntes = Gbl.CronoEnMarcha;
-    CambiaCrono(2);
+    DetieneCrono();
     Gbl.FinMovimientos = Gbl.NumMovimientos;
     SonidoJuego(1, SONIDO_PULSA);
 }
 
 void ApagaGrabadora() {
     Gbl.GrabadoraEncendida = false;
-    CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+    ReponeCrono();
     PintaTecla(Mando, false);
     SonidoJuego(1, SONIDO_SUELTA);
     Pausa(10);

@@ -78,9 +78,8 @@ void ColocaPanel() {
 // Everything around the window of saved puzzles: the clock stands while it is open.
 void AbreCargua(i16 modo) {
     Gbl.ModoCargua = modo;
-    Gbl.CronoAntes = Gbl.CronoEnMarcha;
-    CambiaCrono(2);
-    CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+    DetieneCrono();
+    ReponeCrono();
 }
 
 }  // namespace

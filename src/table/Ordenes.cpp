@@ -9,7 +9,6 @@
 #include "core/Servicios.h"
 #include "jigsaw/Colocacion.h"
 #include "pieces/Composicion.h"
-#include "pieces/Raster.h"
 #include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
 #include "sliding/Movimientos.h"
@@ -41,10 +40,9 @@ bool EsDeslizantes() {
 // The clock stands still while the work is done, and then is as it was.
 template <class F>
 void ConRelojParado(F&& trabajo) {
-    Gbl.CronoAntes = Gbl.CronoEnMarcha;
-    CambiaCrono(2);
+    DetieneCrono();
     Sigue(trabajo);
-    CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+    ReponeCrono();
 }
 
 void Reloj() {
@@ -61,8 +59,7 @@ void MuestraSiExiste(Ventana* v) {
 // ---------------------------------------------------------------- the commands
 void Baraja() {
     Gbl.RespuestaMensaje = true;
-    if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER)
-        Avisa(aviso::MEZCLA_TANGRAM);
+    if (ResolviendoModelo()) Avisa(aviso::MEZCLA_TANGRAM);
     if (!Gbl.RespuestaMensaje) return;
     if (EsDeslizantes()) {
         BarajaPiezas();
@@ -133,13 +130,12 @@ void Sale() {
         Avisa(aviso::SALIR_GRABADORA);
         return;
     }
-    Gbl.CronoAntes = Gbl.CronoEnMarcha;
-    CambiaCrono(2);
+    DetieneCrono();
     Avisa(aviso::SALIR);
     if (Gbl.RespuestaMensaje)
         TerminaPrograma();
     else
-        CambiaCrono(Gbl.CronoAntes ? 1 : 2);
+        ReponeCrono();
 }
 
 void ColocaMuestra() {
@@ -163,12 +159,9 @@ void SacaOculta(i16 posicion) {
     const i16 piece = Gbl.OrdenPiezas[posicion];
     if (!PiezaEnSuSitio(piece)) {
         SubePieza(posicion);
-        PreparaPieza(piece);
-        PintaPieza(Pic_Imagen, piece);
+        PonPieza(piece);
     }
-    const Rect caja = CajaDePieza(piece);
-    BitBlt(Pic_Trabajo, caja.Izq, caja.Arr, caja.Ancho(), caja.Alto(), Pic_Imagen, caja.Izq,
-           caja.Arr, SRCCOPY);
+    MuestraCaja(CajaDePieza(piece));
     Pausa(PAUSA_OCULTA);
 }
 
@@ -214,8 +207,7 @@ bool ConGrabadoraOTerminado() {
     return Gbl.GrabadoraEncendida || Gbl.PuzzleTerminado;
 }
 bool SinLugares() {
-    return ConGrabadoraOTerminado() ||
-           (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR);
+    return ConGrabadoraOTerminado() || CreandoFiguras();
 }
 bool SinMuestra() {
     return Gbl.JuegoActual == JuegoTangram || (EsDeslizantes() && Gbl.TipoFondo != FONDO_IMAGEN);

@@ -56,7 +56,7 @@ void CogePieza() {
     Gbl.XOrigen = Gbl.Piezas[piece].X;
     Gbl.YOrigen = Gbl.Piezas[piece].Y;
     SubePieza(PosicionEnOrden(piece));
-    CambiaCrono(1);
+    CambiaCrono(CRONO_MARCHA);
     if (Gbl.JuegoActual == JuegoDeslizantes) {
         PulsaDeslizante();
         return;
@@ -158,8 +158,7 @@ bool HoverParado() {
 void CursorDePieza(i16 piece) {
     Gbl.PiezaActual = piece;
     Gbl.CursorDeseado = PiezaEnSuSitio(piece) ? CURSOR_BIEN : CURSOR_MAL;
-    if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR)
-        Gbl.CursorDeseado = CURSOR_DISENO;
+    if (CreandoFiguras()) Gbl.CursorDeseado = CURSOR_DISENO;
 }
 
 // Is the piece under the point? True ends the walk down the stack.
@@ -238,8 +237,7 @@ void SueltaPieza() {
         // Deliberate: what had to be pushed off its neighbours is not drawn back to them.
         if (Gbl.AtraccionPiezas && Gbl.TEmpujes == 0) Sigue([] { PegaDosPiezas(); });
     }
-    const bool conSitio = Gbl.JuegoActual == JuegoMoviles ||
-                          (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER);
+    const bool conSitio = Gbl.JuegoActual == JuegoMoviles || ResolviendoModelo();
     if (conSitio) Sigue([] { AtraeASuSitio(); });
     if (Gbl.JuegoActual != JuegoDeslizantes) Sigue([&] { AsientaPieza(piece); });
     Sigue([&] { RegistraSuelta(piece); });
@@ -270,8 +268,7 @@ void VolteaParalelogramo() {
     BorraPieza(PARALELOGRAMO);
     p.Volteo = static_cast<i16>(1 - std::abs(p.Volteo));
     if (p.Giro >= 0 && p.Giro <= 7) p.Giro = GIRO_AL_VOLTEAR[p.Giro];
-    PreparaPieza(PARALELOGRAMO);
-    PintaPieza(Pic_Imagen, PARALELOGRAMO);
+    PonPieza(PARALELOGRAMO);
     Pic_Trabajo_Paint();
     // Deliberate: this pushes the piece under the pointer, which need not be the parallelogram.
     Sigue([] { TDesolapaPieza(); });
@@ -346,8 +343,7 @@ void Pic_Trabajo_Click() {
     if ((derecho || Gbl.ResolviendoPuzzle) && Gbl.PiezaActual == 0) {
         // Deliberate: an option that has become active stays so until the program ends.
         for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
-        if (Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR)
-            Gbl.OpcionesActivas[OPCION_MODELO] = true;
+        if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
         Sigue([] { MuestraOpcionesSelec(); });
     }
     Gbl.GirandoPieza = false;

@@ -15,11 +15,6 @@ constexpr i16 SONIDO_TUTOR = 55;
 constexpr i32 DESTELLOS = 3;
 constexpr i16 PAUSA_ANTES = 80, PAUSA_DESTELLO = 130, PAUSA_ENTRE = 170;
 
-void PreparaYPinta(i16 piece) {
-    PreparaPieza(piece);
-    PintaPieza(Pic_Imagen, piece);
-}
-
 // The piece vanishes and its place in the picture is shown inverted; then all is as before.
 void DestelloMoviles(i16 id) {
     BorraPieza(id);
@@ -31,7 +26,7 @@ void DestelloMoviles(i16 id) {
     Pausa(PAUSA_DESTELLO);
     // Deliberate: the piece comes back above its neighbours, though its place in the stacking
     // order is the old one; the next redraw of its surroundings puts that right.
-    PreparaYPinta(id);
+    PonPieza(id);
     Pic_Trabajo_Paint();
     Pausa(PAUSA_ENTRE);
 }
@@ -41,7 +36,7 @@ void DestelloTangram(i16 id) {
     BorraPieza(id);
     TBorraFigura(id);
     for (i16 i = 1; i <= 7; ++i)
-        if (i != id) PreparaYPinta(i);
+        if (i != id) PonPieza(i);
     Pic_Trabajo_Paint();
     SonidoJuego(1, SONIDO_TUTOR);
     Pausa(PAUSA_DESTELLO);
