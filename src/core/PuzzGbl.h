@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "core/Numeros.h"
 #include "platform/Region.h"
@@ -12,24 +13,24 @@
 
 namespace tessario {
 
-inline constexpr i16 JuegoMoviles = 21;       // movable-piece jigsaw
-inline constexpr i16 JuegoDeslizantes = 22;   // sliding-piece puzzle
-inline constexpr i16 JuegoTangram = 23;       // Tangram
+inline constexpr i16 JuegoMoviles = 21;      // movable-piece jigsaw
+inline constexpr i16 JuegoDeslizantes = 22;  // sliding-piece puzzle
+inline constexpr i16 JuegoTangram = 23;      // Tangram
 
-inline constexpr i16 MODO_CREAR = 1;          // ModoJuego: free designs
-inline constexpr i16 MODO_RESOLVER = 2;       // ModoJuego: models to cover
+inline constexpr i16 MODO_CREAR = 1;     // ModoJuego: free designs
+inline constexpr i16 MODO_RESOLVER = 2;  // ModoJuego: models to cover
 
-inline constexpr i16 FONDO_IMAGEN = 1;        // TipoFondo of the sliding game
+inline constexpr i16 FONDO_IMAGEN = 1;  // TipoFondo of the sliding game
 inline constexpr i16 FONDO_NUMEROS = 2;
 inline constexpr i16 FONDO_LETRAS = 3;
 
 // One piece. Pixels on the table; Giro in quarter turns (game 21) or eighths (game 23).
 struct Pieza {
-    i16 X = 0, Y = 0;                 // current left and top of the box (game 21: of the cell)
-    i16 Giro = 0;                     // current rotation, clockwise
-    i16 Volteo = 0;                   // Tangram: 1 when the parallelogram is turned over
-    i16 XBien = 0, YBien = 0;         // where it belongs
-    i16 GiroBien = 0, VolteoBien = 0; // how it belongs
+    i16 X = 0, Y = 0;                  // current left and top of the box (game 21: of the cell)
+    i16 Giro = 0;                      // current rotation, clockwise
+    i16 Volteo = 0;                    // Tangram: 1 when the parallelogram is turned over
+    i16 XBien = 0, YBien = 0;          // where it belongs
+    i16 GiroBien = 0, VolteoBien = 0;  // how it belongs
     friend bool operator==(const Pieza&, const Pieza&) = default;
 };
 
@@ -43,14 +44,14 @@ struct Movimiento {
 
 // ---------------------------------------------------------------- which game, how many pieces
 struct DatosJuego {
-    i16 JuegoActual = JuegoMoviles;   // 21, 22 or 23
-    i16 NumPiezas = 25;               // pieces of this puzzle; follows from the other fields
-    i16 PiezasPorLado = 5;            // rows and columns of the grid
-    i16 PiezasPorCelda = 1;           // 1, 2 or 4; follows from FormaPiezas
-    i16 FormaPiezas = 0;              // 0 to 7, index into NombresFormas
-    i16 ModoJuego = MODO_CREAR;       // Tangram: 1 create, 2 solve
-    i16 TipoFondo = FONDO_NUMEROS;    // sliding game: 1 image, 2 numbers, 3 letters
-    i16 ModeloActual = 1;             // record number in the model file, from 1
+    i16 JuegoActual = JuegoMoviles;  // 21, 22 or 23
+    i16 NumPiezas = 25;              // pieces of this puzzle; follows from the other fields
+    i16 PiezasPorLado = 5;           // rows and columns of the grid
+    i16 PiezasPorCelda = 1;          // 1, 2 or 4; follows from FormaPiezas
+    i16 FormaPiezas = 0;             // 0 to 7, index into NombresFormas
+    i16 ModoJuego = MODO_CREAR;      // Tangram: 1 create, 2 solve
+    i16 TipoFondo = FONDO_NUMEROS;   // sliding game: 1 image, 2 numbers, 3 letters
+    i16 ModeloActual = 1;            // record number in the model file, from 1
 };
 
 // ---------------------------------------------------------------- what the player has chosen
@@ -63,37 +64,37 @@ struct DatosAjustes {
     Booleano AtraccionPiezas = true;  // Tangram pieces attract each other
     i16 FactorAtraccion = 20;         // percent, 0 to 100
     i16 ZoomImagen = 100;             // percent of the image's stored size; 100 in games 22, 23
-    std::string NombreJugador = "MiNombre";   // at most 9 characters, without the padding blanks
-    Color ColorFondo = 0x800000;      // of the table
-    Color ColorPiezas = 0x008000;     // of pieces without a picture
+    std::string NombreJugador = "MiNombre";  // at most 9 characters, without the padding blanks
+    Color ColorFondo = 0x800000;             // of the table
+    Color ColorPiezas = 0x008000;            // of pieces without a picture
 };
 
 // ---------------------------------------------------------------- colours that follow from those
 struct DatosColores {
-    Color ColorContraste = 0xFFFFFF;  // text and figures on the table
-    Color ColorFondoClaro = 0, ColorFondoOscuro = 0;     // ColorFondo + 40 and - 40 a channel
-    Color ColorPiezasClaro = 0, ColorPiezasOscuro = 0;   // the same of ColorPiezas
+    Color ColorContraste = 0xFFFFFF;                    // text and figures on the table
+    Color ColorFondoClaro = 0, ColorFondoOscuro = 0;    // ColorFondo + 40 and - 40 a channel
+    Color ColorPiezasClaro = 0, ColorPiezasOscuro = 0;  // the same of ColorPiezas
 };
 
 // ---------------------------------------------------------------- sizes and placement, pixels
 struct DatosTamanos {
-    i16 AnchoPantalla = 0, AltoPantalla = 0;   // screen; 0 until measured
-    i32 AnchoImagen = 0, AltoImagen = 0;       // image at 100 percent
-    i16 AnchoPuzzle = 0, AltoPuzzle = 0;       // area that the puzzle occupies
-    i16 AnchoCelda = 0, AltoCelda = 0;         // one cell of the grid
-    i16 AnchoPieza = 0, AltoPieza = 0;         // box of the piece last measured: an answer register
-    i16 MargenX = 0, MargenY = 0;              // from the table's origin to the puzzle
-    i16 PasoOrdenar = 0;                       // step of the side arrangement
-    i16 PiezasColocadas = 0;                   // pieces that stand in their place
-    i16 HuecoX = 0, HuecoY = 0;                // sliding game: the hole
+    i16 AnchoPantalla = 0, AltoPantalla = 0;  // screen; 0 until measured
+    i32 AnchoImagen = 0, AltoImagen = 0;      // image at 100 percent
+    i16 AnchoPuzzle = 0, AltoPuzzle = 0;      // area that the puzzle occupies
+    i16 AnchoCelda = 0, AltoCelda = 0;        // one cell of the grid
+    i16 AnchoPieza = 0, AltoPieza = 0;        // box of the piece last measured: an answer register
+    i16 MargenX = 0, MargenY = 0;             // from the table's origin to the puzzle
+    i16 PasoOrdenar = 0;                      // step of the side arrangement
+    i16 PiezasColocadas = 0;                  // pieces that stand in their place
+    i16 HuecoX = 0, HuecoY = 0;               // sliding game: the hole
 };
 
 // ---------------------------------------------------------------- the piece table
 struct DatosPiezas {
-    Arreglo<Pieza> Piezas;            // 1 to NumPiezas, by piece number; element 0 unused
-    Arreglo<i16> OrdenPiezas;         // stacking order: index 1 is the piece on top
-    Pieza PiezaAux;                   // scratch copy of the piece being processed
-    i16 PiezaActual = 0;              // piece in hand or under the pointer; 0 none
+    Arreglo<Pieza> Piezas;     // 1 to NumPiezas, by piece number; element 0 unused
+    Arreglo<i16> OrdenPiezas;  // stacking order: index 1 is the piece on top
+    Pieza PiezaAux;            // scratch copy of the piece being processed
+    i16 PiezaActual = 0;       // piece in hand or under the pointer; 0 none
 };
 
 // ---------------------------------------------------------------- recorder
@@ -102,148 +103,157 @@ struct DatosGrabadora {
     i16 NumMovimientos = 0;           // index of the last applied move; 0 none
     i16 FinMovimientos = 0;           // end of the log when the recorder was switched on
     Booleano GrabadoraEncendida;
-    Booleano AutoAtras, AutoAdelante; // an automatic run goes back, forward
+    Booleano AutoAtras, AutoAdelante;  // an automatic run goes back, forward
 };
 
 // ---------------------------------------------------------------- Tangram tables
 struct DatosTangram {
-    Tabla<i16, 1, 7> TAncho, TAlto, TDiagonal;             // sizes, filled with the sizes
-    std::array<Tabla<i16, 1, 4>, 8> TVerticeX, TVerticeY;  // [piece][corner], box coordinates
-    Tabla<i16, 1, 7> TGemela;                              // each piece's twin; 0 none
-    i16 XInterior = 0, YInterior = 0;                      // answer of TPuntoInterior
-    i16 CajaIzq = 0, CajaArr = 0, CajaDer = 0, CajaAba = 0;   // answer of TCajaFigura
-    Arreglo<Punto> TPoligono;                              // corners of a polygon, from 1
-    i16 TEmpujes = 0;                                      // pushes made by the last drop
-    Tabla<i16, 0, 20> TCaminoPilas;                        // direction of each push; 99 none
-    std::string RegistroModelo;                            // record buffer of the model file
+    Tabla<i16, 1, 7> TAncho, TAlto, TDiagonal;               // sizes, filled with the sizes
+    std::array<Tabla<i16, 1, 4>, 8> TVerticeX, TVerticeY;    // [piece][corner], box coordinates
+    Tabla<i16, 1, 7> TGemela;                                // each piece's twin; 0 none
+    i16 XInterior = 0, YInterior = 0;                        // answer of TPuntoInterior
+    i16 CajaIzq = 0, CajaArr = 0, CajaDer = 0, CajaAba = 0;  // answer of TCajaFigura
+    Arreglo<Punto> TPoligono;                                // corners of a polygon, from 1
+    i16 TEmpujes = 0;                                        // pushes made by the last drop
+    Tabla<i16, 0, 20> TCaminoPilas;                          // direction of each push; 99 none
+    std::string RegistroModelo;                              // record buffer of the model file
 };
 
 // ---------------------------------------------------------------- run-time flags
 struct DatosBanderas {
-    Booleano PuzzleTerminado;         // the puzzle stands finished
-    Booleano PuzzleArchivable;        // its result may still enter the history
-    Booleano MostrarMuestra = true;   // the sample view is shown
-    i32 SegundosJuego = 0;            // time played, seconds
-    float Dificultad = 0;             // 0.1 to 99.9
-    std::string NombrePuzzle;         // name it was saved under, at most 25 characters
-    Booleano CronoEnMarcha;           // the chronometer runs
-    Booleano CronoAntes;              // its state before a window stopped it
-    Booleano ArrastrandoPieza;        // a piece is in hand
-    Booleano SoltandoPieza;           // the mouse-up handling runs
-    Booleano TutorEsperando;          // the tutor waits for a click on a piece
-    Booleano ResolviendoPuzzle;       // automatic solving runs
-    Booleano OrdenandoPiezas;         // side arrangement runs
-    Booleano OrdenManual;             // sliding game: the player forms a starting position
-    Booleano MostrandoColocadas;      // right and wrong pieces are shown in two colours
-    Booleano CargaCorrecta;           // the last load of a saved puzzle worked
-    Booleano ImagenValida;            // the image is within limits
-    Booleano ParametrosCambiados;     // settings were left with a change that restarts
-    Booleano ColoresCambiados;        // settings were left with a change that only redraws
-    Booleano SoloLeerAjustes;         // loading a record stops after the sizes
-    i16 JuegoAlEntrar = 0;            // JuegoActual when the settings opened
-    Booleano RespuestaMensaje;        // answer of the last modal question
-    i16 ModoCargua = 0;               // 1 load, 2 save, 3 delete, 4 save as model
-    i16 ModoMensaje = 0;              // height of the open message in text lines
-    i16 BotonesMensaje = 0;           // 1 one button, 2 yes and no
-    i16 AyudaMensaje = 0;             // its help topic; 0 none
-    std::string TituloMensaje, TextoMensaje;   // of the open message
-    i16 ErrorApertura = 0;            // number of a trapped file error
-    i16 ErrorPendiente = 0;           // last error that was suppressed
-    u32 MarcaPausa = 0;               // moment the running delay began, ms; 0 none
+    Booleano PuzzleTerminado;                 // the puzzle stands finished
+    Booleano PuzzleArchivable;                // its result may still enter the history
+    Booleano MostrarMuestra = true;           // the sample view is shown
+    i32 SegundosJuego = 0;                    // time played, seconds
+    float Dificultad = 0;                     // 0.1 to 99.9
+    std::string NombrePuzzle;                 // name it was saved under, at most 25 characters
+    Booleano CronoEnMarcha;                   // the chronometer runs
+    Booleano CronoAntes;                      // its state before a window stopped it
+    Booleano ArrastrandoPieza;                // a piece is in hand
+    Booleano SoltandoPieza;                   // the mouse-up handling runs
+    Booleano TutorEsperando;                  // the tutor waits for a click on a piece
+    Booleano ResolviendoPuzzle;               // automatic solving runs
+    Booleano OrdenandoPiezas;                 // side arrangement runs
+    Booleano OrdenManual;                     // sliding game: the player forms a starting position
+    Booleano MostrandoColocadas;              // right and wrong pieces are shown in two colours
+    Booleano CargaCorrecta;                   // the last load of a saved puzzle worked
+    Booleano ImagenValida;                    // the image is within limits
+    Booleano ParametrosCambiados;             // settings were left with a change that restarts
+    Booleano ColoresCambiados;                // settings were left with a change that only redraws
+    Booleano SoloLeerAjustes;                 // loading a record stops after the sizes
+    i16 JuegoAlEntrar = 0;                    // JuegoActual when the settings opened
+    Booleano RespuestaMensaje;                // answer of the last modal question
+    i16 ModoCargua = 0;                       // 1 load, 2 save, 3 delete, 4 save as model
+    i16 ModoMensaje = 0;                      // height of the open message in text lines
+    i16 BotonesMensaje = 0;                   // 1 one button, 2 yes and no
+    i16 AyudaMensaje = 0;                     // its help topic; 0 none
+    std::string TituloMensaje, TextoMensaje;  // of the open message
+    i16 ErrorApertura = 0;                    // number of a trapped file error
+    i16 ErrorPendiente = 0;                   // last error that was suppressed
+    u32 MarcaPausa = 0;                       // moment the running delay began, ms; 0 none
 };
 
 // ---------------------------------------------------------------- paths and image origin
 struct DatosRutas {
-    std::string CarpetaPrograma;      // where all settings live, with a trailing "/"
-    std::string CarpetaArchivo;       // saved puzzles and models
-    std::string CarpetaImagenes;      // pictures; stays on a read-only medium
+    std::string CarpetaPrograma;  // where all settings live, with a trailing "/"
+    std::string CarpetaArchivo;   // saved puzzles and models
+    std::string CarpetaImagenes;  // pictures; stays on a read-only medium
     Booleano EnMedioSoloLectura;
-    std::string UnidadImagen, CarpetaImagen, FicheroImagen;   // of the current image
-    std::string RutaImagen = " ";     // full path; one blank when there is none
-    std::string FinLinea;             // carriage return and line feed
+    std::string UnidadImagen, CarpetaImagen, FicheroImagen;  // of the current image
+    std::string RutaImagen = " ";  // full path; one blank when there is none
+    std::string FinLinea;          // carriage return and line feed
 };
 
 // ---------------------------------------------------------------- constant tables
 struct Sugerencia_ {
-    std::string Texto;                // 180 characters, in three lines of 60
-    i16 Contexto = 0;                 // help topic
+    std::string Texto;  // 180 characters, in three lines of 60
+    i16 Contexto = 0;   // help topic
 };
 
 struct DatosTextos {
     Tabla<std::string, 0, 7> NombresFormas;
     Tabla<std::string, 1, 7> NombresTangram;
-    Tabla<std::string, 1, 10> TextosOpciones;   // 5 to 10 stay empty
-    std::string LetrasPiezas;                   // 24 characters
+    Tabla<std::string, 1, 10> TextosOpciones;  // 5 to 10 stay empty
+    std::string LetrasPiezas;                  // 24 characters
     Tabla<Sugerencia_, 0, 80> Sugerencias;
 };
 
 // ---------------------------------------------------------------- cut of the jigsaw
 struct DatosCorte {
-    i16 SalienteX = 0, SalienteY = 0; // how far a piece's box reaches out beyond its cell
-    double PosDibujoX = 0, PosDibujoY = 0;   // pen of the drawing code
-    i16 AjusteX = 0, AjusteY = 0;     // 0 or 1, result of the seam repair
-    double Aspecto = 0, Aspecto2 = 0; // of the figure's ellipses
+    i16 SalienteX = 0, SalienteY = 0;       // how far a piece's box reaches out beyond its cell
+    double PosDibujoX = 0, PosDibujoY = 0;  // pen of the drawing code
+    i16 AjusteX = 0, AjusteY = 0;           // 0 or 1, result of the seam repair
+    double Aspecto = 0, Aspecto2 = 0;       // of the figure's ellipses
     i16 RadioForma = 0, RadioForma2 = 0;
-    i16 RecorteX = 0, RecorteY = 0;   // inset of the inner rectangle
+    i16 RecorteX = 0, RecorteY = 0;  // inset of the inner rectangle
 };
 
 // ---------------------------------------------------------------- sliding board
 struct DatosDeslizantes {
-    i16 LadoHueco = 0;                // 1 north, 2 east, 3 south, 4 west, 0 not next to the hole
-    Arreglo<i16> VecinosHueco;        // pieces next to the hole, from 1
+    i16 LadoHueco = 0;          // 1 north, 2 east, 3 south, 4 west, 0 not next to the hole
+    Arreglo<i16> VecinosHueco;  // pieces next to the hole, from 1
     i16 NumVecinos = 0;
-    Arreglo<i16> RutaSolucion;        // pieces to move, from 1, the last move first
+    Arreglo<i16> RutaSolucion;  // pieces to move, from 1, the last move first
     i16 LongitudRuta = 0;
 };
 
 // ---------------------------------------------------------------- compositing
 struct DatosComposicion {
-    i16 XViejo = 0, YViejo = 0;       // corner of the box before the current step
+    i16 XViejo = 0, YViejo = 0;  // corner of the box before the current step
     Region RegionAux1, RegionAux2, RegionAux3, RegionAux4, RegionAux5, RegionAux6;
 };
 
 // ---------------------------------------------------------------- mouse machine
+// A mouse event of the table that waits for its turn.
+struct EntradaTabla {
+    i16 Suceso = 0;  // 0 press, 1 move, 2 release, 3 click
+    i16 Button = 0, Shift = 0;
+    float X = 0, Y = 0;  // table pixels
+};
+
 struct DatosRaton {
-    Booleano TareaAutomatica;         // an automatic run shows the busy cursor
-    Booleano Barajando;               // a shuffle runs
-    Booleano GirandoPieza;            // the right button is held on a piece
-    i16 EventosAnidados = 0;          // depth of the calls that let events through; 0 none
-    i16 ManejadoresEnCurso = 0;       // handlers of the table at work, one inside the other
-    i16 OrdenAplazada = 0;            // request that waits for them to end; 0 none
-    i16 CursorDeseado = 0;            // cursor id that the hover wants
-    i16 CursorActual = 0;             // cursor id last applied
-    i16 BotonPulsado = 0;             // button of the last press
-    i16 XPulsado = 0, YPulsado = 0;   // its point, table pixels
-    i16 XOrigen = 0, YOrigen = 0;     // the piece before the current move
-    i16 XRaton = 0, YRaton = 0;       // last drag point
+    Booleano TareaAutomatica;  // an automatic run shows the busy cursor
+    Booleano Barajando;        // a shuffle runs
+    Booleano GirandoPieza;     // the right button is held on a piece
+    Booleano GiroTerminado;    // it was released, and the turn is still to be written down
+    std::vector<EntradaTabla> EntradaAplazada;  // what came in meanwhile, oldest first
+    i16 EventosAnidados = 0;         // depth of the calls that let events through; 0 none
+    i16 ManejadoresEnCurso = 0;      // handlers of the table at work, one inside the other
+    i16 OrdenAplazada = 0;           // request that waits for them to end; 0 none
+    i16 CursorDeseado = 0;           // cursor id that the hover wants
+    i16 CursorActual = 0;            // cursor id last applied
+    i16 BotonPulsado = 0;            // button of the last press
+    i16 XPulsado = 0, YPulsado = 0;  // its point, table pixels
+    i16 XOrigen = 0, YOrigen = 0;    // the piece before the current move
+    i16 XRaton = 0, YRaton = 0;      // last drag point
 };
 
 // ---------------------------------------------------------------- panel, clock, hints
 struct DatosPanel {
-    Tabla<i16, 1, 12> BotonX, BotonY; // places of the command buttons in the strip
-    Tabla<i16, 1, 12> BotonEstado;    // 23 usable, 12 forbidden
-    u32 HoraUltimaSugerencia = 0;     // ms
-    i16 SugerenciaActual = 0;         // hint on show
-    i32 ContextoAyuda = 0;            // its help topic
-    i16 ZonaCrono = 0, ZonaCronoPrevia = 0;   // 23 while the pointer is over the switch
+    Tabla<i16, 1, 12> BotonX, BotonY;        // places of the command buttons in the strip
+    Tabla<i16, 1, 12> BotonEstado;           // 23 usable, 12 forbidden
+    u32 HoraUltimaSugerencia = 0;            // ms
+    i16 SugerenciaActual = 0;                // hint on show
+    i32 ContextoAyuda = 0;                   // its help topic
+    i16 ZonaCrono = 0, ZonaCronoPrevia = 0;  // 23 while the pointer is over the switch
 };
 
 // ---------------------------------------------------------------- options panel and sample view
 struct DatosOpciones {
-    Tabla<Booleano, 1, 10> OpcionesActivas;   // only ever set to true
-    i16 OpcionResaltada = 0;          // row lit, from 1; 0 none
-    i32 MuestraX = 0, MuestraY = 0;   // where the dragged sample would stand
-    i32 AgarreX = 0, AgarreY = 0;     // grab point inside it
+    Tabla<Booleano, 1, 10> OpcionesActivas;  // only ever set to true
+    i16 OpcionResaltada = 0;                 // row lit, from 1; 0 none
+    i32 MuestraX = 0, MuestraY = 0;          // where the dragged sample would stand
+    i32 AgarreX = 0, AgarreY = 0;            // grab point inside it
 };
 
 // ---------------------------------------------------------------- side arrangement
 struct DatosOrdenar {
-    i32 TriX = 0, TriY = 0, TriAncho = 0, TriAlto = 0;   // half box of a triangular piece
+    i32 TriX = 0, TriY = 0, TriAncho = 0, TriAlto = 0;  // half box of a triangular piece
 };
 
 // ---------------------------------------------------------------- random numbers
 struct DatosAzar {
-    u32 Azar[4] = {0x9E3779B9U, 0x243F6A88U, 0xB7E15162U, 0x1U};   // generator state
+    u32 Azar[4] = {0x9E3779B9U, 0x243F6A88U, 0xB7E15162U, 0x1U};  // generator state
 };
 
 struct Bloque : DatosJuego,

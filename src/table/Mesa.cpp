@@ -31,6 +31,14 @@ void Cumple(i16 aplazada) {
         CumpleOrden(aplazada);
 }
 
+// The table's mouse events in the order of EntradaTabla::Suceso.
+void EntregaEntrada(const EntradaTabla& e) {
+    static constexpr void (*MANEJADORES[])(i16, i16, float, float) = {
+        Pic_Trabajo_MouseDown, Pic_Trabajo_MouseMove, Pic_Trabajo_MouseUp,
+        [](i16, i16, float, float) { Pic_Trabajo_Click(); }};
+    MANEJADORES[e.Suceso](e.Button, e.Shift, e.X, e.Y);
+}
+
 // Every event of the window is handled through here. An error that no routine below has dealt with
 // ends the handler, not the program; what was asked for meanwhile is done when the outermost
 // handler has ended.
@@ -39,12 +47,19 @@ void Atiende(F&& manejador) {
     const ManejadorEnCurso este;
     Sigue(manejador);
     while (const i16 aplazada = este.TomaAplazada()) Sigue([&] { Cumple(aplazada); });
+    while (const auto entrada = este.TomaEntrada()) Sigue([&] { EntregaEntrada(*entrada); });
 }
 
 template <class F>
 auto Raton(F manejador) {
     return [manejador](i16 Button, i16 Shift, float X, float Y) {
         Atiende([&] { manejador(Button, Shift, X, Y); });
+    };
+}
+auto EntradaDeTabla(i16 suceso) {
+    return [suceso](i16 Button, i16 Shift, float X, float Y) {
+        const EntradaTabla entrada{suceso, Button, Shift, X, Y};
+        if (!GuardaEntrada(entrada)) Atiende([&] { EntregaEntrada(entrada); });
     };
 }
 template <class F>
@@ -69,10 +84,10 @@ void LlenaControles() {
 }
 
 void ConectaTabla() {
-    Pic_Trabajo.MouseDown = Raton(Pic_Trabajo_MouseDown);
-    Pic_Trabajo.MouseMove = Raton(Pic_Trabajo_MouseMove);
-    Pic_Trabajo.MouseUp = Raton(Pic_Trabajo_MouseUp);
-    Pic_Trabajo.Click = Aviso(Pic_Trabajo_Click);
+    Pic_Trabajo.MouseDown = EntradaDeTabla(0);
+    Pic_Trabajo.MouseMove = EntradaDeTabla(1);
+    Pic_Trabajo.MouseUp = EntradaDeTabla(2);
+    Pic_Trabajo.Click = [] { EntradaDeTabla(3)(0, 0, 0, 0); };
     Pic_Trabajo.Paint = Aviso(Pic_Trabajo_Paint);
     Pic_Muestra.MouseDown = Raton(Pic_Muestra_MouseDown);
     Pic_Muestra.MouseMove = Raton(Pic_Muestra_MouseMove);

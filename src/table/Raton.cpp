@@ -117,6 +117,7 @@ void GiraMientrasPulsado() {
         // A release that went astray, to another window for example, brings no Click.
         if (!Sistema().BotonesApretados()) Gbl.GirandoPieza = false;
     }
+    Gbl.GiroTerminado = false;
     const Pieza& p = Gbl.Piezas[piece];
     RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
 }
@@ -346,6 +347,7 @@ void Pic_Trabajo_Click() {
         if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
         Sigue([] { MuestraOpcionesSelec(); });
     }
+    if (Gbl.GirandoPieza && DentroDeTarea()) Gbl.GiroTerminado = true;
     Gbl.GirandoPieza = false;
 }
 

@@ -6,6 +6,9 @@
 // While a shuffle runs, commands are dead.
 #pragma once
 
+#include <optional>
+
+#include "core/PuzzGbl.h"
 #include "platform/Tipos.h"
 
 namespace tessario {
@@ -20,6 +23,10 @@ void TerminaTareas();
 // Notes what is to be done when that work has ended; the last request counts.
 void Aplaza(i16 orden);
 
+// A mouse event of the table that comes in behind the release that ended a turn, while the turn's
+// handler is still at work, is kept to be handled after it. True: it was kept.
+bool GuardaEntrada(const EntradaTabla& entrada);
+
 // A handler at work. Handlers press buttons on the player's behalf, so one may run in another.
 class ManejadorEnCurso {
 public:
@@ -29,6 +36,8 @@ public:
     ManejadorEnCurso& operator=(const ManejadorEnCurso&) = delete;
     // The request that waits, taken; 0 when there is none or work is under way around this handler.
     i16 TomaAplazada() const;
+    // The oldest mouse event that was kept, likewise.
+    std::optional<EntradaTabla> TomaEntrada() const;
 };
 
 }  // namespace tessario

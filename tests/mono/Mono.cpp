@@ -445,6 +445,7 @@ private:
         Exige(!Gbl.ArrastrandoPieza || apretado_, "no piece in hand without a press");
         Exige(!Gbl.SoltandoPieza, "no drop under way between events");
         Exige(!Gbl.GirandoPieza || apretado_, "no turning without a press");
+        Exige(!Gbl.GiroTerminado && Gbl.EntradaAplazada.empty(), "nothing is left waiting");
         Exige(!Gbl.Barajando, "no shuffle under way between events");
         Exige(!Gbl.ResolviendoPuzzle, "no solving under way between events");
         Exige(!Gbl.OrdenandoPiezas, "no arrangement under way between events");

@@ -214,6 +214,31 @@ TEST_F(Tareas, CommandWhileAPieceTurnsEndsTheTurning) {
     EXPECT_FALSE(dentro);
 }
 
+TEST_F(Tareas, DragMadeDuringATurnsPauseComesAfterTheTurn) {
+    Moviles(3, 300, 300);
+    Pon(5, 400, 200, 0);
+    Pon(6, 400, 400, 0);
+    const Punto p = PuntoDe(5), q = PuntoDe(6);
+    P().botones = true;
+    // All of it was in the queue when the pause ended: the release, then a whole drag.
+    EnElPaso(1, [&] {
+        Puntero.Suelta();
+        Puntero.Mueve(q.x, q.y);
+        Puntero.Aprieta();
+        Puntero.Mueve(q.x + 30, q.y + 20);
+        EXPECT_EQ(Gbl.Piezas[6].X, 400) << "not inside the turn";
+        Puntero.Suelta();
+    });
+    Puntero.Mueve(p.x, p.y);
+    Puntero.Aprieta(BOTON_DERECHO);
+    ASSERT_EQ(Gbl.NumMovimientos, 2);
+    EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{5, 400, 200, 0, 0, 400, 200, 1, 0}));
+    EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{6, 400, 400, 0, 0, 430, 420, 0, 0}));
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_FALSE(Gbl.GiroTerminado);
+    EXPECT_TRUE(Gbl.EntradaAplazada.empty());
+}
+
 TEST_F(Tareas, CommandByKeyboardDropsThePieceInHandFirst) {
     Moviles(3, 300, 300);
     Pon(5, 400, 200);
