@@ -2,7 +2,6 @@
 // table against one with many, and the cut and the laying of the largest picture.
 #include <array>
 #include <cstring>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <utility>
@@ -229,19 +228,6 @@ struct Arrastra {
     }
 };
 
-// Resident memory of the process in megabytes.
-double MegasResidentes() {
-    std::ifstream f("/proc/self/status");
-    std::string palabra;
-    while (f >> palabra)
-        if (palabra == "VmRSS:") {
-            double kb = 0;
-            f >> kb;
-            return kb / 1024;
-        }
-    return 0;
-}
-
 void Corta(benchmark::State& estado) {
     PonPuzzle(2, 20);
     CreaMoviles(true);
@@ -252,7 +238,6 @@ void Tiende(benchmark::State& estado) {
     PonPuzzle(2, 20);
     CreaMoviles(true);
     for (auto _ : estado) ColocaPiezas(1);
-    std::printf("resident with 1024 x 768 in 400 pieces: %.1f MB\n", MegasResidentes());
 }
 
 // 9 rectangles of 51 by 38 against 400 circles and their frames in cells of 51 by 38.
