@@ -245,6 +245,8 @@ private:
     }
 
     void Evento() {
+        // Also for the press that plays the rest and then switches the recorder off.
+        if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
         switch (Hasta(12)) {
             case 0:
             case 1:
