@@ -10,9 +10,9 @@
 #include "apoyo/SolucionLiteral.h"
 #include "apoyo/TableroDeslizante.h"
 #include "bench/Razon.h"
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Busqueda.h"
 #include "sliding/Solucion.h"
 

@@ -9,13 +9,13 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "bench/Razon.h"
-#include "core/Medidas.h"
-#include "core/PuzzBas.h"
+#include "core/Superficies.h"
 #include "jigsaw/Corte.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
+#include "rules/Medidas.h"
+#include "rules/PuzzBas.h"
 
 namespace tessario::bench {
 

@@ -9,10 +9,10 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "bench/Razon.h"
-#include "core/Arranque.h"
-#include "core/Despacho.h"
 #include "core/PuzzGbl.h"
-#include "jigsaw/Atraccion.h"
+#include "rules/Despacho.h"
+#include "start/Arranque.h"
+#include "table/Atraccion.h"
 #include "tangram/Desolape.h"
 
 namespace tessario::bench {

@@ -2,13 +2,13 @@
 #include <QApplication>
 #include <cstdio>
 
-#include "core/Arranque.h"
 #include "core/Servicios.h"
 #include "qt/Accesible.h"
 #include "qt/Estilo.h"
 #include "qt/Pantalla.h"
 #include "qt/PlataformaQt.h"
 #include "qt/Senales.h"
+#include "start/Arranque.h"
 
 namespace {
 

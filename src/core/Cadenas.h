@@ -20,10 +20,10 @@ std::string Ajusta(std::string_view texto, i32 ancho);
 std::string Ceros(i32 n, i32 digitos);
 // Right-aligned in `ancho` columns with blanks in front; a longer number stands whole.
 std::string Derecha(i32 n, i32 ancho);
-std::string Minusculas(std::string_view texto);   // ASCII letters only
+std::string Minusculas(std::string_view texto);  // ASCII letters only
 
 // Val-like readings. `ok` false when the text (blanks trimmed) is no whole number in the range.
 bool LeeEntero(std::string_view texto, i32& valor);
-bool LeeReal(std::string_view texto, double& valor);   // point or comma as separator
+bool LeeReal(std::string_view texto, double& valor);  // point or comma as separator
 
 }  // namespace tessario

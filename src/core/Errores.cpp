@@ -4,8 +4,14 @@
 
 namespace tessario {
 
-i16 ErrorPendiente() { return Gbl.ErrorPendiente; }
-void BorraError() { Gbl.ErrorPendiente = 0; }
-void PonErrorPendiente(i16 numero) { Gbl.ErrorPendiente = numero; }
+i16 ErrorPendiente() {
+    return Gbl.ErrorPendiente;
+}
+void BorraError() {
+    Gbl.ErrorPendiente = 0;
+}
+void PonErrorPendiente(i16 numero) {
+    Gbl.ErrorPendiente = numero;
+}
 
 }  // namespace tessario

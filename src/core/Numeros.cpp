@@ -25,8 +25,12 @@ T Comprobado(double x) {
 
 }  // namespace
 
-i16 Entero(double x) { return Comprobado<i16>(x); }
-i32 EnteroLargo(double x) { return Comprobado<i32>(x); }
+i16 Entero(double x) {
+    return Comprobado<i16>(x);
+}
+i32 EnteroLargo(double x) {
+    return Comprobado<i32>(x);
+}
 
 i16 Corto(i32 x) {
     if (x < std::numeric_limits<i16>::min() || x > std::numeric_limits<i16>::max())

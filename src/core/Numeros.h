@@ -20,7 +20,9 @@ i32 EnteroLargo(double x);
 // An integer kept to 16 bits; error 6 when it does not fit.
 i16 Corto(i32 x);
 // The floor.
-inline double Int(double x) { return std::floor(x); }
+inline double Int(double x) {
+    return std::floor(x);
+}
 // -1, 0 or 1.
 template <class T>
 constexpr i16 Sgn(T x) {

@@ -4,7 +4,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 #include "platform/Plataforma.h"
 
 namespace tessario {

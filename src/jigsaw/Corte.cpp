@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
 #include "jigsaw/Plantillas.h"
+#include "panel/Botonera.h"
+#include "panel/Desplazamiento.h"
+#include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
-#include "pieces/Superficies.h"
 #include "table/Barajado.h"
-#include "table/Botonera.h"
-#include "table/Desplazamiento.h"
-#include "table/Sugerencias.h"
 
 namespace tessario {
 

@@ -1,7 +1,7 @@
 #include "jigsaw/Plantillas.h"
 
 #include "core/PuzzGbl.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 
 namespace tessario {
 

@@ -2,9 +2,9 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

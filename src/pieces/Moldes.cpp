@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
 #include "pieces/Formas.h"
 #include "pieces/RasterMascara.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

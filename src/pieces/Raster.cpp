@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
 #include "pieces/Moldes.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

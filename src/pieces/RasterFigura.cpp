@@ -1,9 +1,9 @@
 // The silhouette of a Tangram model: the seven places that the pieces must cover.
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "pieces/RasterMascara.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

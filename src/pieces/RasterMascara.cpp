@@ -3,7 +3,7 @@
 #include <span>
 
 #include "core/PuzzGbl.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 
 namespace tessario {
 

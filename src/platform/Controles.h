@@ -17,7 +17,7 @@ namespace tessario {
 inline constexpr i16 PUNTERO_NORMAL = 0;
 inline constexpr i16 PUNTERO_RELOJ = 11;
 inline constexpr i16 PUNTERO_PROHIBIDO = 12;
-inline constexpr i16 PUNTERO_PROPIO = 99;   // the cursor named in MouseIcon
+inline constexpr i16 PUNTERO_PROPIO = 99;  // the cursor named in MouseIcon
 
 // Mouse buttons as events give them; Shift holds 1 shift, 2 control, 4 alt.
 inline constexpr i16 BOTON_IZQUIERDO = 1;
@@ -26,16 +26,16 @@ inline constexpr i16 BOTON_DERECHO = 2;
 struct Control {
     virtual ~Control() = default;
 
-    std::string Nombre;              // name of the record, for tests
-    i32 Left = 0, Top = 0;           // in its container's pixels
+    std::string Nombre;     // name of the record, for tests
+    i32 Left = 0, Top = 0;  // in its container's pixels
     bool Visible = true;
     bool Enabled = true;
     i16 MousePointer = PUNTERO_NORMAL;
-    std::string MouseIcon;           // cursor resource, look-up ignores case; with PUNTERO_PROPIO
+    std::string MouseIcon;  // cursor resource, look-up ignores case; with PUNTERO_PROPIO
     std::string ToolTipText;
-    std::string NombreAccesible;     // what a screen reader says; empty: the trimmed tooltip
-    bool TabStop = false;            // reached with Tab; Space or Enter then presses it
-    Control* Contenedor = nullptr;   // a picture box that holds it, or null: the window itself
+    std::string NombreAccesible;    // what a screen reader says; empty: the trimmed tooltip
+    bool TabStop = false;           // reached with Tab; Space or Enter then presses it
+    Control* Contenedor = nullptr;  // a picture box that holds it, or null: the window itself
 
     virtual i32 Width() const { return ancho_; }
     virtual i32 Height() const { return alto_; }
@@ -66,7 +66,7 @@ struct Cuadro : Control, Superficie {
     i32 Height() const override { return Superficie::Height(); }
     void Tamano(i32 ancho, i32 alto) override { Superficie::Tamano(ancho, alto); }
 
-    std::function<void()> Paint;     // asked to paint itself anew; the view needs no such call
+    std::function<void()> Paint;  // asked to paint itself anew; the view needs no such call
 };
 
 // A line or block of fixed text, wrapped at its width, runs of blanks kept.
@@ -83,9 +83,9 @@ struct BarraDesplazamiento : Control {
     bool Vertical = false;
     i32 Min = 0, Max = 0;
     i32 SmallChange = 1, LargeChange = 10;
-    i32 Value = 0;                                // the code may set it; Change is then not called
-    std::function<void()> Change;                 // Value has a new value by the player's hand
-    void Pon(i32 v);                              // as by the player: clamps, sets and calls Change
+    i32 Value = 0;                 // the code may set it; Change is then not called
+    std::function<void()> Change;  // Value has a new value by the player's hand
+    void Pon(i32 v);               // as by the player: clamps, sets and calls Change
 };
 
 struct Lista : Control {
@@ -93,23 +93,23 @@ struct Lista : Control {
         std::string Texto;
         i32 Dato = 0;
     };
-    bool Ordenada = false;           // AddItem keeps the text order; equal texts in order of arrival
+    bool Ordenada = false;  // AddItem keeps the text order; equal texts in order of arrival
     std::vector<Elemento> Elementos;
-    i32 ListIndex = -1;              // -1: none
+    i32 ListIndex = -1;  // -1: none
     Fuente Font;
 
     void AddItem(const std::string& texto, i32 dato = 0);
     void Clear();
     i32 ListCount() const { return static_cast<i32>(Elementos.size()); }
-    void Selecciona(i32 indice);     // as by the player: sets ListIndex and calls Click
+    void Selecciona(i32 indice);  // as by the player: sets ListIndex and calls Click
 };
 
 struct CajaTexto : Control {
-    std::string Text;                // the code may set it; Change is then not called
-    i32 MaxLength = 0;               // in characters; 0: no limit
+    std::string Text;   // the code may set it; Change is then not called
+    i32 MaxLength = 0;  // in characters; 0: no limit
     Fuente Font;
     std::function<void()> Change;
-    void Escribe(const std::string& texto);   // as by the player: cuts, sets and calls Change
+    void Escribe(const std::string& texto);  // as by the player: cuts, sets and calls Change
 };
 
 // A labelled switch.
@@ -118,13 +118,13 @@ struct Buleano : Control {
     bool Value = false;
     bool Sound = true;
     std::function<void()> Change;
-    void Pon(bool v);                // as by the player
+    void Pon(bool v);  // as by the player
 };
 
 // A titled list of choices 1..n, of which one is in force.
 struct Selector : Control {
     std::string Caption;
-    std::vector<std::string> Textos;   // Textos[0] is choice 1
+    std::vector<std::string> Textos;  // Textos[0] is choice 1
     i16 Value = 1;
     bool Sound = true;
     std::function<void()> Change;
@@ -144,7 +144,7 @@ struct Spin : Control {
     std::string Caption;
     i16 Value = 0, Min = 0, Max = 100, Incremento = 1;
     bool Sound = true;
-    bool Pulsado = false;              // one of its buttons is held
+    bool Pulsado = false;  // one of its buttons is held
     std::function<void()> Change;
     void Pon(i16 v);
 };
@@ -157,42 +157,42 @@ struct ListaUnidades : Control {
 };
 
 struct ListaCarpetas : Control {
-    std::string Path;                  // with a trailing "/"
+    std::string Path;  // with a trailing "/"
     std::function<void()> Change;
 };
 
 struct ListaFicheros : Lista {
-    std::string Path;                  // with a trailing "/"
-    std::string Pattern;               // "*.bmp;*.jpg", without regard to case
+    std::string Path;     // with a trailing "/"
+    std::string Pattern;  // "*.bmp;*.jpg", without regard to case
 
-    void Relee();       // the rows anew from the file system; none is chosen
-    void Actualiza();   // the same, only if Path or Pattern differ from what was read last
+    void Relee();      // the rows anew from the file system; none is chosen
+    void Actualiza();  // the same, only if Path or Pattern differ from what was read last
 
 private:
     std::string rutaLeida_, patronLeido_;
 };
 
 struct Temporizador {
-    i32 Interval = 0;                  // milliseconds; 0: off
+    i32 Interval = 0;  // milliseconds; 0: off
     bool Enabled = false;
     std::function<void()> Timer;
 };
 
 // A window. Its own surface is the ground on which it draws and on which its controls lie.
 struct Ventana : Superficie {
-    std::string Nombre;                // name of the record, for tests
+    std::string Nombre;  // name of the record, for tests
     std::string Caption;
-    i32 Left = 0, Top = 0;             // screen pixels
-    bool PantallaCompleta = false;     // no frame, above panels of the desktop
-    bool Abierta = false;              // shown and not yet closed; the platform keeps it
+    i32 Left = 0, Top = 0;          // screen pixels
+    bool PantallaCompleta = false;  // no frame, above panels of the desktop
+    bool Abierta = false;           // shown and not yet closed; the platform keeps it
     i16 MousePointer = PUNTERO_NORMAL;
     std::string MouseIcon;
-    std::vector<Control*> Controles;   // from the bottom up
+    std::vector<Control*> Controles;  // from the bottom up
     std::vector<Temporizador*> Temporizadores;
-    Control* Foco = nullptr;           // the control that gets the keys when the window opens
+    Control* Foco = nullptr;  // the control that gets the keys when the window opens
 
     std::function<void()> Load, Activate, Unload;
-    std::function<void(bool& Cancela)> QueryUnload;   // the player asks to close it from outside
+    std::function<void(bool& Cancela)> QueryUnload;  // the player asks to close it from outside
     // A key comes first to the window, then to the control that has the focus.
     std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
     std::function<void(i16 KeyAscii)> KeyPress;

@@ -13,6 +13,8 @@ Plataforma& Sistema() {
     return *enUso;
 }
 
-void PonSistema(Plataforma* p) { enUso = p; }
+void PonSistema(Plataforma* p) {
+    enUso = p;
+}
 
 }  // namespace tessario

@@ -1,6 +1,7 @@
 // Plataforma: what the game asks of the machine that cannot be a record: screen, clock, events,
 // windows, text, pictures, sound, clipboard, help, folders. The shell has one implementation, the
-// tests another with a virtual clock. File numbers of errors are those of core/Errores.h; 0 is none.
+// tests another with a virtual clock. File numbers of errors are those of core/Errores.h; 0 is
+// none.
 #pragma once
 
 #include <string>
@@ -25,10 +26,10 @@ public:
     virtual i32 CambiaModoPantalla(i32 ancho, i32 alto) = 0;
 
     // --- Time.
-    virtual u32 timeGetTime() = 0;        // milliseconds, wraps
-    virtual double Timer() = 0;           // seconds since midnight, with fraction
-    virtual std::string Fecha() = 0;      // short date of the system, at most 10 characters
-    virtual std::string Hora() = 0;       // short time of the system, at most 8 characters
+    virtual u32 timeGetTime() = 0;    // milliseconds, wraps
+    virtual double Timer() = 0;       // seconds since midnight, with fraction
+    virtual std::string Fecha() = 0;  // short date of the system, at most 10 characters
+    virtual std::string Hora() = 0;   // short time of the system, at most 8 characters
     // Shows what has been painted, then sleeps; no event passes.
     virtual void Duerme(double milisegundos) = 0;
 
@@ -44,7 +45,7 @@ public:
     virtual void Cierra(Ventana& v) = 0;
     virtual void Minimiza(Ventana& v) = 0;
     virtual void PonFoco(Control& c) = 0;
-    virtual void Termina() = 0;           // ends the program once the running handlers return
+    virtual void Termina() = 0;  // ends the program once the running handlers return
 
     // --- Text. Widths and heights in pixels; PintaTexto clips to the surface and its clip.
     virtual i32 AnchoTexto(const Fuente& f, std::string_view texto) = 0;
@@ -54,8 +55,9 @@ public:
 
     // --- Pictures. CargaImagen: 0, 53 no such file, 7 too large, 481 not a picture.
     virtual i32 CargaImagen(const std::string& ruta, Mapa& destino) = 0;
-    virtual i32 GuardaImagen(const std::string& ruta, const Mapa& imagen) = 0;   // BMP; 0, 61, 75, 76
-    virtual bool RecursoImagen(std::string_view nombre, Mapa& destino) = 0;      // in the program
+    virtual i32 GuardaImagen(const std::string& ruta,
+                             const Mapa& imagen) = 0;                        // BMP; 0, 61, 75, 76
+    virtual bool RecursoImagen(std::string_view nombre, Mapa& destino) = 0;  // in the program
 
     // --- Sound: resource number; waits for the end unless asynchronous. A new sound cuts the one
     // before. Unknown numbers and a missing device are silent.
@@ -70,7 +72,7 @@ public:
 
     // --- Folders, with a trailing "/".
     virtual std::string CarpetaDelPrograma() = 0;
-    virtual std::string CarpetaDelSistema() = 0;   // the user's own data folder
+    virtual std::string CarpetaDelSistema() = 0;  // the user's own data folder
 };
 
 // The platform in use. PonSistema comes before anything else of the game.

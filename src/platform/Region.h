@@ -10,9 +10,9 @@
 namespace tessario {
 
 // Result codes of the combining operations.
-inline constexpr int REGION_VACIA = 1;      // no point
-inline constexpr int REGION_SIMPLE = 2;     // one rectangle
-inline constexpr int REGION_COMPLEJA = 3;   // several rectangles
+inline constexpr int REGION_VACIA = 1;     // no point
+inline constexpr int REGION_SIMPLE = 2;    // one rectangle
+inline constexpr int REGION_COMPLEJA = 3;  // several rectangles
 
 // Modes of CombineRgn.
 inline constexpr int RGN_AND = 1;
@@ -32,17 +32,17 @@ public:
 
     const std::vector<Rect>& Rectangulos() const { return rects_; }
     bool Vacia() const { return rects_.empty(); }
-    int Codigo() const;     // REGION_VACIA, REGION_SIMPLE or REGION_COMPLEJA
-    Rect Caja() const;      // smallest rectangle around all; empty for an empty region
+    int Codigo() const;  // REGION_VACIA, REGION_SIMPLE or REGION_COMPLEJA
+    Rect Caja() const;   // smallest rectangle around all; empty for an empty region
     bool Contiene(i32 x, i32 y) const;
     // The rectangles of the band that holds the row, from left to right; none if no band does.
     std::span<const Rect> Banda(i32 y) const;
     // The rectangles from the first band that reaches below the row, to the end.
     std::span<const Rect> Desde(i32 y) const;
-    i32 Area() const;       // number of points; the largest i32 when there are more
+    i32 Area() const;  // number of points; the largest i32 when there are more
     // Shifts all points; those that would leave the range of i32 are dropped.
     void Desplaza(i32 dx, i32 dy);
-    bool Valida() const;    // do the invariants hold? For debug builds and tests.
+    bool Valida() const;  // do the invariants hold? For debug builds and tests.
 
     friend bool operator==(const Region&, const Region&) = default;
 

@@ -38,7 +38,7 @@ enum class Familia { Sans, Mono };
 
 struct Fuente {
     Familia Tipo = Familia::Sans;
-    i16 Tamano = 13;          // height of the font in pixels
+    i16 Tamano = 13;  // height of the font in pixels
     bool Negrita = false;
     bool Subrayado = false;
     friend bool operator==(const Fuente&, const Fuente&) = default;
@@ -46,14 +46,14 @@ struct Fuente {
 
 // Flags of Line and Circle.
 namespace pluma {
-inline constexpr int ConColor = 2;     // the colour is given (else ForeColor)
-inline constexpr int Desde = 4;        // the start point is given (else the pen's own point)
-inline constexpr int Relativo = 8;     // the end point is relative to the start
-inline constexpr int Caja = 16;        // a rectangle by two corners
-inline constexpr int Llena = 32;       // with Caja: filled with the line's own colour
-inline constexpr int AnguloIni = 64;   // Circle: a start angle is given
-inline constexpr int AnguloFin = 128;  // Circle: an end angle is given
-inline constexpr int ConAspecto = 256; // Circle: an aspect is given
+inline constexpr int ConColor = 2;      // the colour is given (else ForeColor)
+inline constexpr int Desde = 4;         // the start point is given (else the pen's own point)
+inline constexpr int Relativo = 8;      // the end point is relative to the start
+inline constexpr int Caja = 16;         // a rectangle by two corners
+inline constexpr int Llena = 32;        // with Caja: filled with the line's own colour
+inline constexpr int AnguloIni = 64;    // Circle: a start angle is given
+inline constexpr int AnguloFin = 128;   // Circle: an end angle is given
+inline constexpr int ConAspecto = 256;  // Circle: an aspect is given
 }  // namespace pluma
 
 // The widest pen.
@@ -64,11 +64,11 @@ inline constexpr i16 MODO_INVIERTE = 6;
 inline constexpr i16 MODO_COPIA = 13;
 
 // Raster operations. Only these have a formula; any other code copies the source.
-inline constexpr u32 SRCCOPY = 0xCC0020;       // source
-inline constexpr u32 SRCAND = 0x8800C6;        // destination and source
-inline constexpr u32 SRCINVERT = 0x660046;     // destination xor source
-inline constexpr u32 NOTSRCCOPY = 0x330008;    // not source
-inline constexpr u32 DSNA = 0x220B24;          // destination and not source
+inline constexpr u32 SRCCOPY = 0xCC0020;     // source
+inline constexpr u32 SRCAND = 0x8800C6;      // destination and source
+inline constexpr u32 SRCINVERT = 0x660046;   // destination xor source
+inline constexpr u32 NOTSRCCOPY = 0x330008;  // not source
+inline constexpr u32 DSNA = 0x220B24;        // destination and not source
 
 class Superficie {
 public:
@@ -94,17 +94,17 @@ public:
     Color BackColor() const { return fondo_; }
     void PonBackColor(Color c);
     const Imagen& Picture() const { return picture_; }
-    void PonPicture(Imagen p);      // null empties it
-    Imagen Image() const;           // a copy of what the surface shows now
-    void Cls();                     // clears the drawing down to Picture; the pen goes to (0, 0)
+    void PonPicture(Imagen p);  // null empties it
+    Imagen Image() const;       // a copy of what the surface shows now
+    void Cls();                 // clears the drawing down to Picture; the pen goes to (0, 0)
 
     // --- Pen state, free to set at any time.
     Color ForeColor = 0;
     Color FillColor = 0;
-    bool FillSolido = false;        // closed figures come out filled with FillColor
-    i16 DrawWidth = 1;              // pen width in pixels
+    bool FillSolido = false;  // closed figures come out filled with FillColor
+    i16 DrawWidth = 1;        // pen width in pixels
     i16 DrawMode = MODO_COPIA;
-    bool FontTransparent = true;    // false: text is printed over a box of BackColor
+    bool FontTransparent = true;  // false: text is printed over a box of BackColor
     Fuente Font;
     double CurrentX = 0, CurrentY = 0;
 
@@ -128,7 +128,7 @@ public:
                 double fin = 0, double aspecto = 1);
     void PSet(double x, double y);
     void PSet(double x, double y, Color color);
-    Color Point(i32 x, i32 y) const;   // 0xFFFFFFFF outside the surface
+    Color Point(i32 x, i32 y) const;  // 0xFFFFFFFF outside the surface
     // Prints at the pen's point (top left of the text) with ForeColor; the pen moves to the
     // start of the next line.
     void Print(std::string_view texto);
@@ -148,8 +148,8 @@ public:
     // one union is kept for the screen, one for the routine that repaints the table.
     void Marca(const Rect& r);
     const Rect& Sucio() const { return sucio_; }
-    Rect TomaSucio();               // what changed since the last call of this
-    Rect TomaTocado();              // likewise, for a second reader
+    Rect TomaSucio();   // what changed since the last call of this
+    Rect TomaTocado();  // likewise, for a second reader
 
 private:
     void BorraDibujo();

@@ -22,8 +22,12 @@ using Pixel = u32;
 constexpr u32 CambiaRojoAzul(u32 v) {
     return ((v & 0xFFU) << 16) | (v & 0xFF00U) | ((v >> 16) & 0xFFU);
 }
-constexpr Pixel PixelDe(Color c) { return CambiaRojoAzul(c); }
-constexpr Color ColorDe(Pixel p) { return CambiaRojoAzul(p); }
+constexpr Pixel PixelDe(Color c) {
+    return CambiaRojoAzul(c);
+}
+constexpr Color ColorDe(Pixel p) {
+    return CambiaRojoAzul(p);
+}
 
 // A Boolean of 16 bits, -1 or 0, as the records on disk have it. Converts from and to bool.
 class Booleano {
@@ -50,7 +54,9 @@ struct Rect {
     friend constexpr bool operator==(const Rect&, const Rect&) = default;
 };
 
-constexpr Rect RectDe(i32 x, i32 y, i32 ancho, i32 alto) { return {x, y, x + ancho, y + alto}; }
+constexpr Rect RectDe(i32 x, i32 y, i32 ancho, i32 alto) {
+    return {x, y, x + ancho, y + alto};
+}
 
 constexpr Rect Interseccion(const Rect& a, const Rect& b) {
     return {std::max(a.Izq, b.Izq), std::max(a.Arr, b.Arr), std::min(a.Der, b.Der),

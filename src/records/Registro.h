@@ -1,5 +1,5 @@
 // The text of a record: its fixed columns written and read. Bytes are Windows-1252; columns count
-// from 1. Reading touches the state block only; records/Puzzle rebuilds the table from it.
+// from 1. Reading touches the state block only; session/Montaje rebuilds the table from it.
 #pragma once
 
 #include <string>

@@ -10,7 +10,7 @@
 
 namespace tessario {
 
-std::string A1252(std::string_view utf8);       // a character that has no code becomes "?"
+std::string A1252(std::string_view utf8);  // a character that has no code becomes "?"
 std::string De1252(std::string_view bytes);
 
 // A quoted line: the text in double quotes, quotes inside doubled. `De` gives back the text of

@@ -1,15 +1,15 @@
 #include "sliding/Movimientos.h"
 
 #include "core/Avisos.h"
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
-#include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
-#include "records/Dificultad.h"
+#include "rules/PuzzBas.h"
+#include "session/Dificultad.h"
 #include "sliding/Tablero.h"
-#include "table/Cronometro.h"
 
 namespace tessario {
 

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Busqueda.h"
 #include "sliding/Movimientos.h"
 #include "sliding/Tablero.h"
-#include "table/Cronometro.h"
-#include "table/Grabadora.h"
 
 namespace tessario {
 

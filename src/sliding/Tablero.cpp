@@ -4,10 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
-#include "records/Dificultad.h"
-#include "table/Cronometro.h"
+#include "panel/Cronometro.h"
+#include "rules/PuzzBas.h"
+#include "session/Dificultad.h"
 
 namespace tessario {
 

@@ -1,17 +1,17 @@
 #include "table/Barajado.h"
 
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Movimientos.h"
 #include "sliding/Tablero.h"
-#include "table/Cronometro.h"
-#include "table/Grabadora.h"
 #include "table/Raton.h"
 
 namespace tessario {

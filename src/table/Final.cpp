@@ -3,9 +3,9 @@
 #include "core/Avisos.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
 #include "records/Historial.h"
-#include "table/Cronometro.h"
-#include "table/Grabadora.h"
 
 namespace tessario {
 

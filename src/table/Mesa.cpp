@@ -2,17 +2,17 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
+#include "panel/Desplazamiento.h"
+#include "panel/Grabadora.h"
+#include "panel/Muestra.h"
+#include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
-#include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
-#include "table/Cronometro.h"
-#include "table/Desplazamiento.h"
-#include "table/Grabadora.h"
-#include "table/Muestra.h"
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
-#include "table/Sugerencias.h"
 #include "table/Tareas.h"
 
 namespace tessario {

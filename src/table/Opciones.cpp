@@ -4,8 +4,8 @@
 #include "core/Numeros.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
-#include "pieces/Superficies.h"
-#include "table/Cronometro.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
 #include "table/Tareas.h"
 
 namespace tessario {

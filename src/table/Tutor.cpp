@@ -1,11 +1,11 @@
 #include "table/Tutor.h"
 
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
+#include "rules/PuzzBas.h"
 
 namespace tessario {
 

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

@@ -1,13 +1,13 @@
 #include "tangram/Figuras.h"
 
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
+#include "panel/Botonera.h"
+#include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
 #include "platform/Plataforma.h"
 #include "table/Barajado.h"
-#include "table/Botonera.h"
-#include "table/Desplazamiento.h"
 
 namespace tessario {
 

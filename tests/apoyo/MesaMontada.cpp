@@ -1,13 +1,13 @@
 #include "apoyo/MesaMontada.h"
 
-#include "core/Arranque.h"
-#include "core/Despacho.h"
-#include "core/PuzzBas.h"
+#include "panel/Botonera.h"
+#include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
-#include "table/Botonera.h"
-#include "table/Desplazamiento.h"
+#include "start/Arranque.h"
 #include "table/Mesa.h"
 #include "table/Ordenes.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "apoyo/PlataformaPrueba.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 
 namespace tessario {
 

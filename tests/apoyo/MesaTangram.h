@@ -5,12 +5,12 @@
 #include <string>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "core/Arranque.h"
-#include "core/Despacho.h"
-#include "core/Medidas.h"
-#include "core/PuzzBas.h"
 #include "pieces/Formas.h"
 #include "platform/Region.h"
+#include "rules/Despacho.h"
+#include "rules/Medidas.h"
+#include "rules/PuzzBas.h"
+#include "start/Arranque.h"
 #include "tangram/Desolape.h"
 
 namespace tessario {

@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/Superficies.h"
 #include "core/Ventanas.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 
@@ -27,7 +27,9 @@ i32 Caracteres(std::string_view texto) {
     return n;
 }
 
-i32 AnchoCaracter(const Fuente& f) { return std::max(1, f.Tamano * 7 / 13); }
+i32 AnchoCaracter(const Fuente& f) {
+    return std::max(1, f.Tamano * 7 / 13);
+}
 
 }  // namespace
 
@@ -103,7 +105,9 @@ i32 PlataformaPrueba::AnchoTexto(const Fuente& f, std::string_view texto) {
     return Caracteres(texto) * AnchoCaracter(f);
 }
 
-i32 PlataformaPrueba::AltoTexto(const Fuente& f) { return f.Tamano + 2; }
+i32 PlataformaPrueba::AltoTexto(const Fuente& f) {
+    return f.Tamano + 2;
+}
 
 void PlataformaPrueba::PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto,
                                   const Fuente& f, Color color) {

@@ -23,17 +23,17 @@ public:
 
     // --- What a test sets.
     i32 ancho = 800, alto = 600;
-    i32 pruebaModo = 1, cambioModo = 2;              // answers of the display mode calls
-    double reloj = 1000000;                          // ms
-    double duracionSonido = 0;                       // ms that a waiting sound takes
-    std::deque<std::function<void()>> eventos;       // run, one for each DejaPasarEventos
-    std::function<void()> alDormir;                  // called in each Duerme, after painting
-    std::function<void()> alDejarPasar;              // called in each DejaPasarEventos
-    std::deque<bool> respuestas;                     // answers of the next messages; then no
-    std::map<std::string, std::function<void(Ventana&)>> ventanas;   // by name: what the player does
-    std::map<std::string, Mapa> imagenes;            // pictures by path
-    std::map<std::string, i32> erroresImagen;        // paths that fail, by error number
-    std::map<std::string, Mapa> recursos;            // by name; others are made up (see below)
+    i32 pruebaModo = 1, cambioModo = 2;         // answers of the display mode calls
+    double reloj = 1000000;                     // ms
+    double duracionSonido = 0;                  // ms that a waiting sound takes
+    std::deque<std::function<void()>> eventos;  // run, one for each DejaPasarEventos
+    std::function<void()> alDormir;             // called in each Duerme, after painting
+    std::function<void()> alDejarPasar;         // called in each DejaPasarEventos
+    std::deque<bool> respuestas;                // answers of the next messages; then no
+    std::map<std::string, std::function<void(Ventana&)>> ventanas;  // by name: what the player does
+    std::map<std::string, Mapa> imagenes;                           // pictures by path
+    std::map<std::string, i32> erroresImagen;  // paths that fail, by error number
+    std::map<std::string, Mapa> recursos;      // by name; others are made up (see below)
     bool hayPortapapeles = false;
     Mapa portapapeles;
     bool botones = false;
@@ -44,17 +44,17 @@ public:
         i16 modo, botones, ayuda;
         bool respuesta;
     };
-    std::vector<Aviso> avisos;                       // messages shown, oldest first
-    std::vector<std::pair<i16, bool>> sonidos;       // number, asynchronous
+    std::vector<Aviso> avisos;                  // messages shown, oldest first
+    std::vector<std::pair<i16, bool>> sonidos;  // number, asynchronous
     std::vector<i32> ayudas;
-    std::vector<std::string> mostradas;              // windows shown, by name
-    std::map<std::string, Mapa> guardadas;           // pictures saved
+    std::vector<std::string> mostradas;     // windows shown, by name
+    std::map<std::string, Mapa> guardadas;  // pictures saved
     int presentaciones = 0;
     int pasosDeEventos = 0;
-    double dormido = 0;                              // ms slept in all
+    double dormido = 0;  // ms slept in all
     bool terminado = false, minimizado = false;
     Control* foco = nullptr;
-    std::string carpeta;                             // a fresh folder of this test, trailing "/"
+    std::string carpeta;  // a fresh folder of this test, trailing "/"
 
     // --- Plataforma.
     i32 AnchoPantalla() override { return ancho; }
@@ -99,13 +99,13 @@ public:
     explicit PunteroPrueba(Ventana& v) : ventana_(v) {}
     void Mueve(i32 x, i32 y);
     void Aprieta(i16 boton = BOTON_IZQUIERDO);
-    void Suelta();                    // MouseUp, then Click if still over the control
-    void Pulsa(i32 x, i32 y, i16 boton = BOTON_IZQUIERDO);   // move, press, release
-    Control* Debajo() const;          // the control under the pointer, or null
-    Control* Preso() const { return preso_; }   // the control that holds the press, or null
-    i16 Boton() const { return boton_; }        // the button last pressed
+    void Suelta();  // MouseUp, then Click if still over the control
+    void Pulsa(i32 x, i32 y, i16 boton = BOTON_IZQUIERDO);  // move, press, release
+    Control* Debajo() const;                   // the control under the pointer, or null
+    Control* Preso() const { return preso_; }  // the control that holds the press, or null
+    i16 Boton() const { return boton_; }       // the button last pressed
     Punto Lugar() const { return {x_, y_}; }
-    static Punto Origen(const Control& c);   // a control's corner in window pixels
+    static Punto Origen(const Control& c);  // a control's corner in window pixels
 
 private:
     Ventana& ventana_;

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {

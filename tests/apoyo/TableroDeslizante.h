@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/Configuracion.h"
-#include "core/Medidas.h"
 #include "core/PuzzGbl.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
+#include "rules/Medidas.h"
+#include "session/Configuracion.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {

@@ -2,8 +2,8 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
 #include "core/Ventanas.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

@@ -5,8 +5,8 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Avisos.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
 #include "core/Ventanas.h"
-#include "pieces/Superficies.h"
 
 namespace tessario {
 

@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "core/Medidas.h"
+#include "core/Superficies.h"
 #include "jigsaw/Corte.h"
 #include "jigsaw/Plantillas.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
+#include "rules/Medidas.h"
 
 namespace tessario {
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "core/PuzzBas.h"
 #include "jigsaw/Corte.h"
 #include "jigsaw/MesaMoviles.h"
+#include "rules/PuzzBas.h"
 
 namespace tessario {
 

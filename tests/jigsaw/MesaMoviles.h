@@ -5,12 +5,12 @@
 #include <memory>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "core/Medidas.h"
+#include "core/Superficies.h"
 #include "jigsaw/Corte.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
-#include "pieces/Superficies.h"
+#include "rules/Medidas.h"
 
 namespace tessario {
 

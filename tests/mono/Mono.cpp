@@ -19,16 +19,16 @@
 #include <string>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "core/Arranque.h"
-#include "core/Configuracion.h"
-#include "core/Despacho.h"
-#include "core/PuzzBas.h"
+#include "core/Superficies.h"
 #include "core/Ventanas.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
-#include "pieces/Superficies.h"
 #include "records/Modelos.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
+#include "session/Configuracion.h"
 #include "sliding/Tablero.h"
+#include "start/Arranque.h"
 #include "table/Ordenes.h"
 
 namespace tessario {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "core/Medidas.h"
 #include "pieces/Formas.h"
+#include "rules/Medidas.h"
 
 namespace tessario {
 

@@ -11,10 +11,10 @@
 #include "PruebaQt.h"
 #include "core/Avisos.h"
 #include "core/PuzzGbl.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
+#include "panel/Sugerencias.h"
 #include "qt/Imagenes.h"
 #include "qt/Sonidos.h"
-#include "table/Sugerencias.h"
 
 namespace tessario {
 

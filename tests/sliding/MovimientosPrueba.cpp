@@ -5,14 +5,14 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "apoyo/TableroDeslizante.h"
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
-#include "pieces/Superficies.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Movimientos.h"
 #include "table/Barajado.h"
-#include "table/Cronometro.h"
-#include "table/Grabadora.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
 

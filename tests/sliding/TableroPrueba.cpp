@@ -5,8 +5,8 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "apoyo/TableroDeslizante.h"
-#include "core/PuzzBas.h"
 #include "core/PuzzGbl.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {

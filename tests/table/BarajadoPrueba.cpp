@@ -1,12 +1,12 @@
 #include "apoyo/MesaMontada.h"
-#include "core/Despacho.h"
-#include "core/PuzzBas.h"
+#include "panel/Botonera.h"
+#include "panel/Cronometro.h"
+#include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
 #include "table/Barajado.h"
-#include "table/Botonera.h"
-#include "table/Cronometro.h"
-#include "table/Desplazamiento.h"
 #include "table/Ordenes.h"
 
 namespace tessario {

@@ -1,8 +1,8 @@
 #include <set>
 
 #include "apoyo/MesaMontada.h"
-#include "core/PuzzBas.h"
-#include "table/Cronometro.h"
+#include "panel/Cronometro.h"
+#include "rules/PuzzBas.h"
 #include "table/Mesa.h"
 
 namespace tessario {

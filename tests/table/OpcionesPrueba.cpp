@@ -1,7 +1,7 @@
 // The options panel: its rows, its place, the light that follows the pointer, and what a choice
 // does.
 #include "apoyo/PlataformaPrueba.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 #include "table/Opciones.h"
 
 namespace tessario {

@@ -1,12 +1,12 @@
 #include <filesystem>
 
 #include "apoyo/MesaMontada.h"
-#include "core/Configuracion.h"
-#include "core/Despacho.h"
-#include "core/PuzzBas.h"
+#include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
+#include "session/Configuracion.h"
 #include "sliding/Tablero.h"
-#include "table/Cronometro.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
 

@@ -3,12 +3,12 @@
 #include <fstream>
 
 #include "apoyo/MesaMontada.h"
-#include "core/PuzzBas.h"
+#include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "records/Texto.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
 #include "table/Final.h"
-#include "table/Grabadora.h"
 
 namespace tessario {
 

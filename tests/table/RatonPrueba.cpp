@@ -1,7 +1,7 @@
 #include "apoyo/MesaMontada.h"
-#include "core/PuzzBas.h"
+#include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
-#include "table/Cronometro.h"
+#include "rules/PuzzBas.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
 

@@ -1,12 +1,12 @@
 #include <set>
 
 #include "apoyo/MesaMontada.h"
-#include "core/Despacho.h"
-#include "core/PuzzBas.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
-#include "table/Cronometro.h"
-#include "table/Grabadora.h"
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Tareas.h"

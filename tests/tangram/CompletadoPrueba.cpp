@@ -1,6 +1,6 @@
 #include "apoyo/MesaTangram.h"
-#include "jigsaw/Atraccion.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
+#include "table/Atraccion.h"
 #include "tangram/Completado.h"
 
 namespace tessario {

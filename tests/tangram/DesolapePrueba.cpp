@@ -4,9 +4,9 @@
 #include <sstream>
 
 #include "apoyo/MesaTangram.h"
+#include "core/Superficies.h"
+#include "panel/Botonera.h"
 #include "pieces/Composicion.h"
-#include "pieces/Superficies.h"
-#include "table/Botonera.h"
 #include "tangram/Desolape.h"
 
 namespace tessario {

@@ -2,7 +2,7 @@
 #include <sstream>
 
 #include "apoyo/MesaTangram.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 #include "tangram/Figuras.h"
 
 namespace tessario {

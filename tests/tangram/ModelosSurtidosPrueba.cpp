@@ -2,7 +2,7 @@
 #include <set>
 
 #include "apoyo/MesaTangram.h"
-#include "pieces/Superficies.h"
+#include "core/Superficies.h"
 #include "records/Modelos.h"
 #include "table/Raton.h"
 #include "tangram/Completado.h"

@@ -5,10 +5,10 @@
 #include <fstream>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Superficies.h"
 #include "core/Ventanas.h"
-#include "pieces/Superficies.h"
 #include "records/Modelos.h"
-#include "records/Puzzle.h"
+#include "session/Montaje.h"
 #include "ventana/Escritorio.h"
 
 namespace tessario::ventana {

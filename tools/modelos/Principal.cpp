@@ -16,10 +16,10 @@
 #include <stdexcept>
 
 #include "Ajuste.h"
-#include "core/Medidas.h"
 #include "core/PuzzGbl.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"
+#include "rules/Medidas.h"
 
 namespace fs = std::filesystem;
 

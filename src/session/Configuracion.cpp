@@ -1,0 +1,217 @@
+#include "session/Configuracion.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/Avisos.h"
+#include "core/Cadenas.h"
+#include "core/PuzzGbl.h"
+#include "core/Superficies.h"
+#include "records/Texto.h"
+#include "rules/Despacho.h"
+#include "rules/PuzzBas.h"
+#include "session/Montaje.h"
+#include "sliding/Tablero.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i32 ANCHO_GLOBAL = 125;  // characters of the global file's only line
+
+struct Columnas {
+    i32 desde, ancho;
+};
+constexpr Columnas COL_JUEGO{1, 2}, COL_SONIDO{3, 2}, COL_VELOCIDAD{5, 3}, COL_VENTANA{8, 2};
+
+std::string FicheroGlobal() {
+    return Gbl.CarpetaPrograma + "TsR33.ini";
+}
+
+// ---------------------------------------------------------------- errors of a guarded open
+
+// What the player is told of a file that could not be opened. `ausente` is for a missing file.
+void AvisaApertura(i16 numero, const Aviso& ausente, const Aviso& otro, std::string_view fichero) {
+    Gbl.ErrorApertura = numero;
+    if (numero == ERROR_FICHERO)
+        Avisa(ausente, {fichero});
+    else if (numero != ERROR_DESBORDE)
+        Avisa(otro, {std::to_string(numero)});
+}
+
+// ---------------------------------------------------------------- global file
+
+void LeeCampo(const std::string& linea, const Columnas& c, i16& destino) {
+    i32 n = 0;
+    if (!LeeEntero(Mid(linea, c.desde, c.ancho), n)) throw ErrorEjecucion(ERROR_TIPO);
+    destino = Corto(n);
+}
+
+void LeeCampo(const std::string& linea, const Columnas& c, Booleano& destino) {
+    double x = 0;
+    if (!LeeReal(Mid(linea, c.desde, c.ancho), x)) throw ErrorEjecucion(ERROR_TIPO);
+    destino = x != 0;
+}
+
+void LeeLineaGlobal(const std::string& bytes) {
+    const std::vector<std::string> lineas = Lineas(bytes);
+    if (lineas.empty()) return;
+    const std::string linea = De1252(DeComillas(lineas[0]));
+    Sigue([&] { LeeCampo(linea, COL_JUEGO, Gbl.JuegoActual); });
+    Sigue([&] { LeeCampo(linea, COL_SONIDO, Gbl.Sonido); });
+    Sigue([&] { LeeCampo(linea, COL_VELOCIDAD, Gbl.VelocidadJuego); });
+    Sigue([&] { LeeCampo(linea, COL_VENTANA, Gbl.VentanaInformacion); });
+}
+
+void Pon(std::string& linea, const Columnas& c, std::string_view valor) {
+    const std::string_view cortado = valor.substr(0, static_cast<std::size_t>(c.ancho));
+    linea.replace(static_cast<std::size_t>(c.desde - 1), cortado.size(), cortado);
+}
+
+const char* TextoLogico(const Booleano& b) {
+    return b ? "-1" : "0 ";
+}
+
+// ---------------------------------------------------------------- defaults of a game
+
+i16 PiezasPorDefecto() {
+    switch (Gbl.JuegoActual) {
+        case JuegoDeslizantes:
+            return 24;
+        case JuegoTangram:
+            return 7;
+        default:
+            return 25;
+    }
+}
+
+void AjustesPorDefecto() {
+    Gbl.NombreJugador = "MiNombre";
+    Gbl.ColorFondo = 0x800000;
+    Gbl.ColorPiezas = 0x008000;
+    Gbl.ColorContraste = 0xFFFFFF;
+    CalculaColores();
+    Gbl.MostrarMuestra = Gbl.JuegoActual == JuegoMoviles;
+    Gbl.ModeloActual = 1;
+    Gbl.ZoomImagen = 100;
+    Gbl.PiezasPorLado = 5;
+    Gbl.FormaPiezas = 0;
+    Gbl.NumPiezas = PiezasPorDefecto();
+    Llama([] { ReiniciaPartida(); });
+    Gbl.PuzzleArchivable = false;  // a puzzle dealt by default never enters the history
+    Gbl.ModoJuego = MODO_CREAR;
+    Gbl.TipoFondo = FONDO_NUMEROS;
+    Gbl.FactorAtraccion = 20;
+    Gbl.PermitirGiro = Gbl.DibujarBorde = Gbl.AtraccionPiezas = true;
+    Gbl.PiezasPorCelda = 1;
+}
+
+void MesaPorDefecto() {
+    if (Gbl.JuegoActual == JuegoMoviles) {
+        Gbl.UnidadImagen = Left(Gbl.CarpetaPrograma, 2);
+        Gbl.CarpetaImagen = Gbl.CarpetaImagenes;
+        VaciaImagen();
+        Llama([] { EligeImagenProvisional(); });
+        return;
+    }
+    Llama([] { PreparaJuego(true); });
+    Llama([] { ColocaPiezas(1); });
+}
+
+// ---------------------------------------------------------------- colours
+
+constexpr i32 PASO_RELIEVE = 40;
+constexpr i16 LUZ_CLARA = 129;  // from here on a table is light
+
+struct Canales {
+    i32 azul, verde, rojo;
+};
+
+Canales Separa(Color c) {
+    const i32 valor = static_cast<i32>(c);
+    const i32 resto = valor % 65536;
+    return {valor / 65536, resto / 256, resto % 256};
+}
+
+Color Sombra(Color c, i32 paso) {
+    const Canales k = Separa(c);
+    const auto canal = [paso](i32 v) { return static_cast<Color>(std::clamp(v + paso, 0, 255)); };
+    return canal(k.azul) * 65536 + canal(k.verde) * 256 + canal(k.rojo);
+}
+
+Color Contraste() {
+    constexpr Color negro = 0, blanco = 0xFFFFFF, gris = 0xC0C0C0;
+    // Black or white would vanish against the table or against the pieces.
+    if ((Gbl.ColorFondo == negro && Gbl.ColorPiezas == blanco) ||
+        (Gbl.ColorFondo == blanco && Gbl.ColorPiezas == negro))
+        return gris;
+    // Deliberate: these weights are the game's own and not those of a published luma rule.
+    const Canales k = Separa(Gbl.ColorFondo);
+    const i16 luz = Entero((0.8 * k.rojo + 2.0 * k.verde + 0.2 * k.azul) / 3.0);
+    return luz >= LUZ_CLARA ? negro : blanco;
+}
+
+}  // namespace
+
+std::string FicheroDelJuego() {
+    return Gbl.CarpetaPrograma + "TsR" + Ceros(Gbl.JuegoActual, 2) + "33.ini";
+}
+
+void LeeConfiguracion() {
+    Gbl.ErrorApertura = 0;
+    std::string bytes;
+    if (const i16 error = LeeFichero(FicheroGlobal(), bytes))
+        AvisaApertura(error, aviso::SIN_CONFIGURACION, aviso::ERROR_CONFIGURACION, {});
+    else
+        LeeLineaGlobal(bytes);
+    if (Gbl.JuegoActual < JuegoMoviles || Gbl.JuegoActual > JuegoTangram)
+        Gbl.JuegoActual = JuegoMoviles;
+    // Deliberate: a VelocidadJuego outside 0 to 100 stays in force for this run.
+    BorraError();
+    if (Gbl.ErrorApertura != 0) EscribeConfiguracion();
+}
+
+void EscribeConfiguracion() {
+    std::string linea(ANCHO_GLOBAL, ' ');
+    Pon(linea, COL_JUEGO, Ceros(Gbl.JuegoActual, COL_JUEGO.ancho));
+    Pon(linea, COL_SONIDO, TextoLogico(Gbl.Sonido));
+    Pon(linea, COL_VELOCIDAD, Ceros(Gbl.VelocidadJuego, COL_VELOCIDAD.ancho));
+    Pon(linea, COL_VENTANA, TextoLogico(Gbl.VentanaInformacion));
+    EscribeFichero(FicheroGlobal(), Entrecomilla(linea) + "\r\n");
+}
+
+void LeeAjustesJuego(const std::string& Fichero) {
+    const i16 juego = Gbl.JuegoActual;
+    const bool propio = Fichero == FicheroDelJuego();
+    Gbl.ErrorApertura = 0;
+    BorraError();
+    std::string bytes;
+    if (const i16 error = LeeFichero(Fichero, bytes))
+        AvisaApertura(error, aviso::SIN_AJUSTES, aviso::ERROR_AJUSTES, Fichero);
+    else
+        Sigue([&] { LeePuzzle(bytes); });
+    if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) return;
+
+    // A damaged file of a game is replaced by that game's defaults, whatever game it names.
+    if (propio) Gbl.JuegoActual = juego;
+    BorraError();
+    AjustesPorDefecto();
+    MesaPorDefecto();
+    Gbl.PuzzleArchivable = false;  // once more: dealing begins a puzzle that could be kept
+    GuardaAjustesJuego();
+    BorraError();
+}
+
+void GuardaAjustesJuego() {
+    GuardaPuzzle(FicheroDelJuego());
+}
+
+void CalculaColores() {
+    Gbl.ColorContraste = Contraste();
+    Gbl.ColorFondoClaro = Sombra(Gbl.ColorFondo, PASO_RELIEVE);
+    Gbl.ColorFondoOscuro = Sombra(Gbl.ColorFondo, -PASO_RELIEVE);
+    Gbl.ColorPiezasClaro = Sombra(Gbl.ColorPiezas, PASO_RELIEVE);
+    Gbl.ColorPiezasOscuro = Sombra(Gbl.ColorPiezas, -PASO_RELIEVE);
+}
+
+}  // namespace tessario

@@ -1,0 +1,253 @@
+#include "session/Montaje.h"
+
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "core/Avisos.h"
+#include "core/Cadenas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "pieces/Formas.h"
+#include "pieces/Raster.h"
+#include "platform/Plataforma.h"
+#include "records/Registro.h"
+#include "records/Texto.h"
+#include "rules/Despacho.h"
+#include "rules/Medidas.h"
+#include "rules/PuzzBas.h"
+#include "session/Configuracion.h"
+#include "sliding/Tablero.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i16 SONIDO_RECHAZO = 11;
+constexpr const char* FIN = "\r\n";
+
+// Lines of the file, from 0.
+enum Linea { LIN_UNIDAD, LIN_CARPETA, LIN_FICHERO, LIN_RUTA, LIN_REGISTRO, LIN_PIEZAS, LIN_MOVIM };
+
+// No picture of a puzzle is larger than this, however large the numbers of a damaged record.
+constexpr double PIXELES_MAXIMOS = 24.0 * 1024 * 1024;
+
+// ---------------------------------------------------------------- the picture
+
+bool SinFichero() {
+    return Gbl.RutaImagen == " ";
+}
+
+// The image file of the record: at its path, or, when the path was written on another system, by
+// its name among the program's pictures.
+std::string RutaDeImagen() {
+    const std::string ruta = BuscaRuta(Gbl.RutaImagen);
+    const std::size_t barra = Gbl.RutaImagen.find_last_of('\\');
+    if (ruta != Gbl.RutaImagen || barra == std::string::npos) return ruta;
+    const std::string propia = Gbl.CarpetaImagenes + Gbl.RutaImagen.substr(barra + 1);
+    const std::string hallada = BuscaRuta(propia);
+    std::error_code e;
+    return std::filesystem::exists(hallada, e) ? hallada : ruta;
+}
+
+void CargaImagenReal() {
+    auto mapa = std::make_shared<Mapa>();
+    const i32 error = Sistema().CargaImagen(RutaDeImagen(), *mapa);
+    if (error != 0) throw ErrorEjecucion(Corto(error));
+    Pic_FonTamReal.Tamano(mapa->Ancho, mapa->Alto);
+    Pic_FonTamReal.PonPicture(mapa);
+}
+
+void VaciaReal() {
+    Pic_FonTamReal.PonPicture(nullptr);
+    Pic_FonTamReal.Tamano(0, 0);
+}
+
+// Sizes a picture, but never by numbers that no screen or image has.
+void TamanoRazonable(Superficie& s, double ancho, double alto) {
+    const double real =
+        static_cast<double>(Pic_FonTamReal.Width()) * static_cast<double>(Pic_FonTamReal.Height());
+    if (ancho > 0 && alto > 0 && ancho * alto > std::max(PIXELES_MAXIMOS, real))
+        throw ErrorEjecucion(ERROR_MEMORIA);
+    s.Tamano(EnteroLargo(ancho), EnteroLargo(alto));
+}
+
+bool DentroDeLimites(const Punto& t) {
+    return t.x >= IMAGEN_ANCHO_MIN && t.x <= IMAGEN_ANCHO_MAX && t.y >= IMAGEN_ALTO_MIN &&
+           t.y <= IMAGEN_ALTO_MAX;
+}
+
+void RechazaImagen(const Punto& t) {
+    SonidoJuego(1, SONIDO_RECHAZO);
+    Avisa(aviso::IMAGEN_NO_VALIDA, {std::to_string(t.x), std::to_string(t.y)});
+    VaciaImagen();
+    Gbl.ZoomImagen = 100;
+    Gbl.ImagenValida = false;
+    Llama([] { EligeImagenProvisional(); });
+}
+
+// ---------------------------------------------------------------- the table
+
+// Modo 0 shows the table being laid piece by piece, 1 all at once.
+void MontaMesa(i16 modo) {
+    Gbl.ImagenValida = true;
+    Llama([] { PreparaJuego(false); });
+    if (!Gbl.ColoresCambiados) Llama([modo] { ColocaPiezas(modo); });
+}
+
+// Games 21 and 23 have their own tables; this is the picture, then the table, of 21 and 22.
+void MontaConImagen() {
+    Pic_FonTamModi.PonPicture(nullptr);
+    VaciaReal();
+    bool cargada = true;
+    if (!SinFichero()) {
+        cargada = false;
+        Sigue([&] {
+            CargaImagenReal();
+            cargada = true;
+        });
+    }
+    const Punto tamano = TamanoConZoom();
+    const bool cabe = Gbl.JuegoActual == JuegoDeslizantes || DentroDeLimites(tamano);
+    bool hecha = true;
+    if (cabe) {
+        hecha = false;
+        Sigue([&] {
+            AmpliaImagen();
+            hecha = true;
+        });
+    }
+    VaciaReal();
+    if (!cargada || !hecha) return;
+    if (cabe)
+        MontaMesa(0);
+    else
+        RechazaImagen(tamano);
+}
+
+void MontaTangram() {
+    Gbl.MostrarMuestra = false;
+    Gbl.ZoomImagen = 100;
+    bool hecha = false;
+    Sigue([&] {
+        TamanoRazonable(Pic_FonTamModi, Gbl.AnchoPuzzle + 2.0 * Gbl.MargenX,
+                        Gbl.AltoPuzzle + 2.0 * Gbl.MargenY);
+        Pic_FonTamModi.PonPicture(nullptr);
+        hecha = true;
+    });
+    if (!hecha) return;
+    if (Gbl.ModoJuego == MODO_RESOLVER) Llama([] { TPintaFigura(Pic_FonTamModi); });
+    MontaMesa(1);
+}
+
+void AseguraSolucion() {
+    bool soluble = true;
+    Sigue([&] { soluble = TieneSolucion(); });
+    if (soluble) return;
+    Avisa(aviso::SIN_SOLUCION);
+    Llama([] { BarajaDeslizantes(); });
+    if (!Gbl.ColoresCambiados) Llama([] { ColocaPiezas(0); });
+}
+
+// ---------------------------------------------------------------- reading
+
+void LeeRutas(const std::vector<std::string>& lineas) {
+    std::string* const destinos[] = {&Gbl.UnidadImagen, &Gbl.CarpetaImagen, &Gbl.FicheroImagen,
+                                     &Gbl.RutaImagen};
+    for (std::size_t i = LIN_UNIDAD; i <= LIN_RUTA; ++i)
+        if (i < lineas.size())
+            *destinos[i] = DeComillas(lineas[i]);
+        else
+            PonErrorPendiente(ERROR_FIN_FICHERO);
+}
+
+// The content of a line; a missing one is an error of its own and reads as empty.
+std::string Contenido(const std::vector<std::string>& lineas, std::size_t i) {
+    if (i < lineas.size()) return DeComillas(lineas[i]);
+    PonErrorPendiente(ERROR_FIN_FICHERO);
+    return {};
+}
+
+void Repara() {
+    if (Gbl.FactorAtraccion < 0 || Gbl.FactorAtraccion > 100) Gbl.FactorAtraccion = 20;
+    if (Gbl.ModoJuego < MODO_CREAR || Gbl.ModoJuego > MODO_RESOLVER) Gbl.ModoJuego = MODO_CREAR;
+    if (Gbl.TipoFondo < FONDO_IMAGEN || Gbl.TipoFondo > FONDO_LETRAS) Gbl.TipoFondo = FONDO_NUMEROS;
+}
+
+bool LeeEstado(const std::vector<std::string>& lineas) {
+    LeeRutas(lineas);
+    LeeRegistro(Contenido(lineas, LIN_REGISTRO));
+    LeePiezas(Contenido(lineas, LIN_PIEZAS));
+    LeeMovimientos(Contenido(lineas, LIN_MOVIM));
+    const i16 leidas = Gbl.NumPiezas;
+    Sigue([] {
+        if (Gbl.FormaPiezas < 0 || Gbl.FormaPiezas > 7) throw ErrorEjecucion(ERROR_INDICE);
+        Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas);
+    });
+    CalculaColores();
+    Repara();
+    CalculaTamanos();
+    AdaptaTablero();
+    return Gbl.NumPiezas == leidas && RegistroCoherente();
+}
+
+}  // namespace
+
+Punto TamanoConZoom() {
+    const double zoom = Gbl.ZoomImagen;
+    return {EnteroLargo(Int(Gbl.AnchoImagen * zoom / 100.0) + Gbl.MargenX),
+            EnteroLargo(Int(Gbl.AltoImagen * zoom / 100.0) + Gbl.MargenY)};
+}
+
+void AmpliaImagen() {
+    const Punto t = TamanoConZoom();
+    Pic_FonTamModi.PonPicture(nullptr);
+    TamanoRazonable(Pic_FonTamModi, t.x, t.y);
+    Pic_FonTamModi.Cls();
+    StretchBlt(Pic_FonTamModi, Gbl.MargenX, Gbl.MargenY, t.x - Gbl.MargenX, t.y - Gbl.MargenY,
+               Pic_FonTamReal, 0, 0, Pic_FonTamReal.Width(), Pic_FonTamReal.Height(), SRCCOPY);
+    Pic_FonTamModi.PonPicture(Pic_FonTamModi.Image());
+}
+
+void VaciaImagen() {
+    Pic_FonTamModi.Tamano(IMAGEN_ANCHO_MIN, IMAGEN_ALTO_MIN);
+    Pic_FonTamModi.PonPicture(nullptr);
+}
+
+std::string EscribePuzzle() {
+    std::string bytes;
+    for (const std::string& linea :
+         {Gbl.UnidadImagen, Gbl.CarpetaImagen, Gbl.FicheroImagen, Gbl.RutaImagen, EscribeRegistro(),
+          EscribePiezas(), EscribeMovimientos()})
+        bytes += Entrecomilla(linea) + FIN;
+    return bytes;
+}
+
+void LeePuzzle(const std::string& bytes) {
+    if (!LeeEstado(Lineas(bytes))) {
+        // Nothing is built on a record that contradicts itself.
+        PonErrorPendiente(ERROR_INDICE);
+        return;
+    }
+    if (Gbl.SoloLeerAjustes) return;
+    if (Gbl.JuegoActual == JuegoTangram)
+        MontaTangram();
+    else
+        MontaConImagen();
+    if (Gbl.JuegoActual == JuegoDeslizantes) AseguraSolucion();
+}
+
+i16 GuardaPuzzle(const std::string& Ruta) {
+    return EscribeFichero(Ruta, EscribePuzzle());
+}
+
+void CargaPuzzle(const std::string& Ruta) {
+    Gbl.CargaCorrecta = false;
+    std::string bytes;
+    if (LeeFichero(Ruta, bytes) != 0) return;
+    LeePuzzle(bytes);
+    Gbl.CargaCorrecta = true;
+}
+
+}  // namespace tessario

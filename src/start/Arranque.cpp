@@ -1,0 +1,239 @@
+#include "start/Arranque.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "core/Avisos.h"
+#include "core/Cadenas.h"
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "core/Ventanas.h"
+#include "panel/Botonera.h"
+#include "panel/Cronometro.h"
+#include "panel/Desplazamiento.h"
+#include "panel/Sugerencias.h"
+#include "platform/Plataforma.h"
+#include "records/Texto.h"
+#include "rules/PuzzBas.h"
+#include "session/Configuracion.h"
+#include "table/Mesa.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i32 ANCHO_MINIMO = 800, ALTO_MINIMO = 600;  // display mode offered below that width
+constexpr u32 ESPERA_SUGERENCIA = 15000;              // ms between two hints
+constexpr i32 BORDE_MESA = 2;                         // Mesa reaches out of the screen by that
+
+constexpr const char* FICHERO_SONDA = "CSCD.WRK";
+constexpr const char* CARPETA_TRABAJO = "Temp/Tsb/";
+
+// What moves to the working folder. Models lie in the folder of saved puzzles.
+struct FicheroTrasladado {
+    const char* subcarpeta;
+    const char* nombre;
+};
+constexpr FicheroTrasladado TRASLADO[] = {{"", "TSR33.INI"},   {"", "TSR2133.INI"},
+                                          {"", "TSR2233.INI"}, {"", "TSR2333.INI"},
+                                          {"", "TESSA33.HIS"}, {"Archivo/", "MODELOS.TPU"}};
+
+constexpr const char* NOMBRES_FORMAS[] = {"Rectángulos",
+                                          "Curvados",
+                                          "Irregulares",
+                                          "Triángulos",
+                                          "Círculos en Rectángulos",
+                                          "Rectángulos en Rectángulos",
+                                          "Elipses en Rectángulos",
+                                          "Estrellas en Rectángulos"};
+constexpr const char* TEXTOS_OPCIONES[] = {"Guardar este puzzle", "Cargar un puzzle",
+                                           "Borrar un puzzle", "Guardar como modelo"};
+constexpr const char* NOMBRES_TANGRAM[] = {
+    "Triángulo grande",  "Triángulo grande", "Triángulo mediano", "Triángulo pequeño",
+    "Triángulo pequeño", "Cuadrado",         "Paralelogramo"};
+constexpr i16 GEMELAS[] = {2, 1, 0, 5, 4, 0, 0};
+
+// ---------------------------------------------------------------- folders
+
+std::string ConBarra(std::string carpeta) {
+    if (carpeta.empty() || carpeta.back() != '/') carpeta += '/';
+    return carpeta;
+}
+
+void VeACarpeta(const std::string& carpeta) {
+    std::error_code e;
+    std::filesystem::current_path(carpeta, e);
+}
+
+// Can a file be made there? It is gone again afterwards.
+bool SePuedeEscribir(const std::string& carpeta) {
+    const std::string sonda = carpeta + FICHERO_SONDA;
+    if (!std::ofstream(sonda)) return false;
+    std::error_code e;
+    std::filesystem::remove(sonda, e);
+    return true;
+}
+
+void CreaCarpeta(const std::string& carpeta) {
+    std::error_code e;
+    std::filesystem::create_directories(carpeta, e);
+}
+
+void CopiaFichero(const std::string& origen, const std::string& destino) {
+    std::string bytes;
+    if (LeeFichero(BuscaRuta(origen), bytes) == 0) EscribeFichero(destino, bytes);
+}
+
+void TrasladaAjustes(const std::string& medio) {
+    for (const FicheroTrasladado& f : TRASLADO) {
+        const std::string nombre = std::string(f.subcarpeta) + f.nombre;
+        CopiaFichero(medio + nombre, Gbl.CarpetaPrograma + nombre);
+    }
+}
+
+// ---------------------------------------------------------------- display
+
+// Offers to change the mode of a narrow display. False when the player would rather leave.
+bool CompruebaPantalla() {
+    Plataforma& s = Sistema();
+    // Deliberate: the message speaks of height and colours too, but only the width is asked for.
+    if (s.AnchoPantalla() >= ANCHO_MINIMO) return true;
+    Avisa(aviso::RESOLUCION, {Derecha(s.AnchoPantalla(), 3), Derecha(s.AltoPantalla(), 3)});
+    if (!Gbl.RespuestaMensaje) return false;
+    if (s.PruebaModoPantalla(ANCHO_MINIMO, ALTO_MINIMO) != 0) {
+        Avisa(aviso::MODO_NO_CAMBIA);
+        return true;
+    }
+    const i32 resultado = s.CambiaModoPantalla(ANCHO_MINIMO, ALTO_MINIMO);
+    if (resultado == 0) {
+        Avisa(aviso::MODO_CAMBIADO);
+        Gbl.AnchoPantalla = ANCHO_MINIMO;
+        Gbl.AltoPantalla = ALTO_MINIMO;
+    } else {
+        Avisa(resultado == 1 ? aviso::MODO_REINICIO : aviso::MODO_FALLIDO);
+    }
+    return true;
+}
+
+// ---------------------------------------------------------------- constants
+
+template <class T, class Destino>
+void Copia(const T& origen, Destino& destino) {
+    i32 i = Destino::Primero();
+    for (const auto& v : origen) destino[i++] = v;
+}
+
+void LlenaTextos() {
+    Copia(TEXTOS_OPCIONES, Gbl.TextosOpciones);
+    Copia(NOMBRES_FORMAS, Gbl.NombresFormas);
+    Copia(NOMBRES_TANGRAM, Gbl.NombresTangram);
+    Copia(GEMELAS, Gbl.TGemela);
+    Gbl.LetrasPiezas = "ABCDEFGHIJKLMNÑOPQRSTUVW";
+}
+
+void CreaRegiones() {
+    for (Region* r : {&Gbl.RegionAux1, &Gbl.RegionAux2, &Gbl.RegionAux3, &Gbl.RegionAux4,
+                      &Gbl.RegionAux5, &Gbl.RegionAux6})
+        *r = CreateRectRgn(0, 0, 0, 0);
+}
+
+// ---------------------------------------------------------------- parts of Main
+
+void PreparaVentanas() {
+    ReiniciaVentanas();
+    ReiniciaSuperficies();
+    ConectaMensajes();
+    ConectaCareta();
+}
+
+void PreparaRutas() {
+    Gbl.FinLinea = "\r\n";
+    Gbl.CarpetaPrograma = ConBarra(Sistema().CarpetaDelPrograma());
+    Gbl.CarpetaArchivo = BuscaRuta(Gbl.CarpetaPrograma + "Archivo/");
+    Gbl.CarpetaImagenes = BuscaRuta(Gbl.CarpetaPrograma + "Imagenes/");
+    VeACarpeta(Gbl.CarpetaPrograma);
+}
+
+void CargaMesa() {
+    ConectaMesa();
+    if (Mesa.Load) Mesa.Load();
+    Gbl.ResolviendoPuzzle = false;
+}
+
+void SituaMesa() {
+    Mesa.Left = Mesa.Top = 0;
+    Mesa.PantallaCompleta = true;
+    Mesa.Tamano(Gbl.AnchoPantalla + BORDE_MESA, Gbl.AltoPantalla + BORDE_MESA);
+    QuitaBarras();  // the strip and the sizes go by the visible table
+}
+
+void AbreMesa() {
+    PonPuntero(Mesa, PUNTERO_NORMAL);
+    Sistema().Muestra(Mesa);
+    Avisa(aviso::BIENVENIDA);
+}
+
+}  // namespace
+
+std::string CarpetaSistema() {
+    return ConBarra(Sistema().CarpetaDelSistema());
+}
+
+void PreparaCarpetas() {
+    VeACarpeta(Gbl.CarpetaPrograma);
+    Gbl.EnMedioSoloLectura = false;
+    BorraError();
+    if (SePuedeEscribir(Gbl.CarpetaPrograma)) return;
+
+    Gbl.EnMedioSoloLectura = true;
+    const std::string medio = Gbl.CarpetaPrograma;
+    Gbl.CarpetaPrograma = CarpetaSistema() + CARPETA_TRABAJO;
+    Gbl.CarpetaArchivo = Gbl.CarpetaPrograma + "Archivo/";
+    CreaCarpeta(Gbl.CarpetaPrograma);
+    CreaCarpeta(Gbl.CarpetaArchivo);
+    VeACarpeta(Gbl.CarpetaPrograma);
+    // A second start finds the settings of the first and copies nothing over them.
+    std::string bytes;
+    if (LeeFichero(Gbl.CarpetaPrograma + TRASLADO[0].nombre, bytes) != 0) TrasladaAjustes(medio);
+}
+
+void Inicializa() {
+    Sigue([] { Gbl.AnchoPantalla = Corto(Sistema().AnchoPantalla()); });
+    Sigue([] { Gbl.AltoPantalla = Corto(Sistema().AltoPantalla()); });
+    CreaRegiones();
+    LlenaTextos();
+    CargaTeselas();
+    CargaSugerencias();
+    Gbl.HoraUltimaSugerencia = Sistema().timeGetTime() - ESPERA_SUGERENCIA;
+}
+
+bool Main() {
+    PreparaVentanas();
+    Sistema().Muestra(Careta);
+    PreparaRutas();
+    Sigue([] { PreparaCarpetas(); });
+    bool sigue = true;
+    Sigue([&] { sigue = CompruebaPantalla(); });
+    if (!sigue) return false;
+    Sigue([] { Randomize(Sistema().Timer()); });
+    Sigue([] { CargaMesa(); });
+    Sigue([] { Inicializa(); });
+    Sigue([] { SituaMesa(); });
+    Sigue([] { CambiaCrono(CRONO_MARCHA); });
+    Sistema().Cierra(Careta);
+    Sigue([] { LeeConfiguracion(); });
+    Sigue([] { CargaBotonera(); });
+    Sigue([] { LeeAjustesJuego(FicheroDelJuego()); });
+    Sigue([] { AbreMesa(); });
+    return true;
+}
+
+void TerminaPrograma() {
+    Sigue([] { EscribeConfiguracion(); });
+    Sigue([] { GuardaAjustesJuego(); });
+    Sistema().Cierra(Mesa);
+    Sistema().Termina();
+}
+
+}  // namespace tessario
