@@ -1,5 +1,6 @@
 #include "apoyo/MesaMontada.h"
 
+#include "apoyo/MesaMoviles.h"
 #include "panel/Botonera.h"
 #include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
@@ -18,8 +19,6 @@ void MesaMontada::SetUp() {
     Gbl.VelocidadJuego = 100;
     Gbl.Sonido = true;
     Gbl.FinLinea = "\r\n";
-    Gbl.CarpetaPrograma = P().carpeta;
-    Gbl.CarpetaArchivo = P().carpeta + "Archivo/";
     ConectaMesa();
     Inicializa();
     Mesa.Tamano(P().ancho + 2, P().alto + 2);
@@ -36,15 +35,11 @@ void MesaMontada::Moviles(i16 lado, i32 ancho, i32 alto, i16 forma) {
     Gbl.JuegoActual = JuegoMoviles;
     Gbl.PiezasPorLado = lado;
     Gbl.FormaPiezas = forma;
-    constexpr i16 porCelda[] = {1, 1, 1, 4, 2, 2, 2, 2};
-    Gbl.PiezasPorCelda = porCelda[forma];
+    Gbl.PiezasPorCelda = PiezasDeCelda(forma);
     Gbl.ZoomImagen = 100;
     Gbl.AnchoImagen = ancho;
     Gbl.AltoImagen = alto;
-    auto mapa = std::make_shared<Mapa>(ancho, alto);
-    for (i32 y = 0; y < alto; ++y)
-        for (i32 x = 0; x < ancho; ++x)
-            mapa->Fila(y)[x] = 0x400000U | (static_cast<Pixel>(x) << 10) | static_cast<Pixel>(y);
+    const Imagen mapa = ImagenDeMuestra(ancho, alto);
     for (Superficie* s : {&Pic_FonTamReal, &Pic_FonTamModi}) {
         s->Tamano(ancho, alto);
         s->PonPicture(mapa);

@@ -4,20 +4,23 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
 
 namespace tessario {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 std::string CarpetaNueva() {
     static int n = 0;
-    const std::string ruta = (std::filesystem::temp_directory_path() /
+    const std::string ruta = (fs::temp_directory_path() /
                               ("tessario-" + std::to_string(getpid()) + "-" + std::to_string(++n)))
                                  .string();
-    std::filesystem::create_directories(ruta);
+    fs::create_directories(ruta);
     return ruta + "/";
 }
 
@@ -37,9 +40,8 @@ PlataformaPrueba::PlataformaPrueba() : carpeta(CarpetaNueva()) {}
 
 PlataformaPrueba::~PlataformaPrueba() {
     std::error_code e;
-    std::filesystem::permissions(carpeta, std::filesystem::perms::owner_all,
-                                 std::filesystem::perm_options::add, e);
-    std::filesystem::remove_all(carpeta, e);
+    fs::permissions(carpeta, fs::perms::owner_all, fs::perm_options::add, e);
+    fs::remove_all(carpeta, e);
 }
 
 i32 PlataformaPrueba::CambiaModoPantalla(i32 a, i32 b) {
@@ -238,14 +240,54 @@ void PruebaBase::SetUp() {
     plataforma_ = new PlataformaPrueba;
     PonSistema(plataforma_);
     Gbl = Bloque{};
+    Gbl.CarpetaPrograma = P().carpeta;
+    Gbl.CarpetaArchivo = P().carpeta + "Archivo/";
+    Gbl.CarpetaImagenes = P().carpeta + "Imagenes/";
     ReiniciaSuperficies();
     ReiniciaVentanas();
+    carpetaDeAntes_ = fs::current_path();
+    trabajo_ = CarpetaNueva();
+    fs::current_path(trabajo_);
 }
 
 void PruebaBase::TearDown() {
+    for (const auto& resto : fs::directory_iterator(trabajo_))
+        ADD_FAILURE() << "written where the test was started: " << resto.path().filename();
+    fs::current_path(carpetaDeAntes_);
+    fs::remove_all(trabajo_);
     PonSistema(nullptr);
     delete plataforma_;
     plataforma_ = nullptr;
+}
+
+std::string PruebaBase::RutaDe(const std::string& nombre) {
+    return nombre.starts_with('/') ? nombre : P().carpeta + nombre;
+}
+
+std::string PruebaBase::Crea(const std::string& nombre, const std::string& bytes) {
+    const std::string ruta = RutaDe(nombre);
+    fs::create_directories(fs::path(ruta).parent_path());
+    std::ofstream(ruta, std::ios::binary) << bytes;
+    return ruta;
+}
+
+std::string PruebaBase::Contenido(const std::string& nombre) {
+    std::ifstream f(RutaDe(nombre), std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+std::string PruebaBase::PonImagen(const std::string& nombre, i32 ancho, i32 alto, Pixel color) {
+    const std::string ruta = Crea("Imagenes/" + nombre, "x");
+    P().imagenes[ruta] = Mapa(ancho, alto, color);
+    return ruta;
+}
+
+void PruebaBase::Pantalla800() {
+    Gbl.AnchoPantalla = 800;
+    Gbl.AltoPantalla = 600;
+    Pic_Botonera.Left = 659;
+    BarraVer.Left = 800;
+    BarraHor.Top = 600;
 }
 
 }  // namespace tessario

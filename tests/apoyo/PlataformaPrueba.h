@@ -115,15 +115,27 @@ private:
     i32 x_ = 0, y_ = 0;
 };
 
-// A test with a fresh state block, fresh surfaces and a fresh platform.
+// A test with a fresh state block, fresh surfaces, a fresh platform and folders of its own: the
+// game's folders lie in P().carpeta, and the folder in which the test runs must still be empty at
+// its end.
 class PruebaBase : public testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
     PlataformaPrueba& P() { return *plataforma_; }
 
+    // A name without a leading "/" stands for a file in P().carpeta; folders are made as needed.
+    std::string RutaDe(const std::string& nombre);
+    std::string Crea(const std::string& nombre, const std::string& bytes);  // its full path
+    std::string Contenido(const std::string& nombre);  // all bytes; nothing when there is no file
+    // A picture of one colour that the game finds in its folder of pictures and can load.
+    std::string PonImagen(const std::string& nombre, i32 ancho, i32 alto, Pixel color = 0x0000FF);
+    // The sizes that a screen of 800 x 600 without scroll bars gives the table and the strip.
+    static void Pantalla800();
+
 private:
     PlataformaPrueba* plataforma_ = nullptr;
+    std::string trabajo_, carpetaDeAntes_;  // where the test runs, and where it was started
 };
 
 }  // namespace tessario

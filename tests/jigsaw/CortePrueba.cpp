@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "jigsaw/Corte.h"
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {

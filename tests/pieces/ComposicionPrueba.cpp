@@ -1,4 +1,4 @@
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 #include "pieces/Composicion.h"
 
 namespace tessario {

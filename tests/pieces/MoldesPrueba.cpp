@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <random>
 
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 
 namespace tessario {
 

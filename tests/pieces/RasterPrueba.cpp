@@ -1,4 +1,4 @@
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 #include "pieces/Raster.h"
 
 namespace tessario {
@@ -27,15 +27,8 @@ i32 AreaNegra() {
 class RasterPiezas : public MesaMoviles {
 protected:
     void Tangram(bool borde) {
-        Gbl.JuegoActual = JuegoTangram;
-        Gbl.AnchoPantalla = 800;
-        Gbl.AltoPantalla = 600;
+        MontaTangram(800, 600);
         Gbl.DibujarBorde = borde;
-        CalculaTamanos();
-        Gbl.Piezas.Redimensiona(7);
-        Gbl.OrdenPiezas.Redimensiona(7);
-        for (i16 p = 1; p <= 7; ++p) Gbl.OrdenPiezas[p] = p;
-        Pic_Bitmap.Tamano(800, 600);
         Pic_Bitmap.PonBackColor(0x123456);
     }
     void Deslizantes(bool borde, i16 celda) {

@@ -4,7 +4,7 @@
 #include <limits>
 #include <set>
 
-#include "platform/Apoyo.h"
+#include "apoyo/Azar.h"
 
 namespace tessario {
 

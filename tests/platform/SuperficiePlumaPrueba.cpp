@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "platform/Apoyo.h"
+#include "apoyo/Azar.h"
 
 namespace tessario {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/Apoyo.h"
+#include "apoyo/Azar.h"
 
 namespace tessario {
 

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "platform/Apoyo.h"
+#include "apoyo/Azar.h"
 
 namespace tessario {
 

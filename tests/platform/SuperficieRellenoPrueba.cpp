@@ -3,7 +3,7 @@
 #include <limits>
 #include <vector>
 
-#include "platform/Apoyo.h"
+#include "apoyo/Azar.h"
 
 namespace tessario {
 

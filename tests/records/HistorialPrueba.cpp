@@ -1,6 +1,3 @@
-#include <fstream>
-#include <sstream>
-
 #include "apoyo/PlataformaPrueba.h"
 #include "records/Historial.h"
 
@@ -10,7 +7,6 @@ class Historial : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        Gbl.CarpetaPrograma = P().carpeta;
         Gbl.FinLinea = "\r\n";
         Gbl.FicheroImagen = "lago.jpg";
         Gbl.CarpetaImagen = "/fotos/";
@@ -28,15 +24,6 @@ protected:
         Gbl.SegundosJuego = 3723;
         Gbl.NombreJugador = "Jo\"se";
     }
-    std::string Fichero(const std::string& nombre = "TESSA33.his") {
-        std::ifstream f(P().carpeta + nombre, std::ios::binary);
-        std::ostringstream s;
-        s << f.rdbuf();
-        return s.str();
-    }
-    void Escribe(const std::string& nombre, const std::string& bytes) {
-        std::ofstream(P().carpeta + nombre, std::ios::binary) << bytes;
-    }
     const std::string esperada =
         "\"20/11/2026\",\"13:54:00\",21,\"lago.jpg\",\"/fotos/\",\"Pe\xF1"
         "a\",640,480,80,510,380,"
@@ -49,30 +36,30 @@ TEST_F(Historial, LineHoldsTheTwentyThreeItemsInOrder) {
 
 TEST_F(Historial, MissingFileIsCreatedWithOneLine) {
     EXPECT_EQ(EntraEnHistorico(), 0);
-    EXPECT_EQ(Fichero(), esperada + "\r\n");
+    EXPECT_EQ(Contenido("TESSA33.his"), esperada + "\r\n");
 }
 
 TEST_F(Historial, LaterResultsGoToTheEnd) {
     EXPECT_EQ(EntraEnHistorico(), 0);
     Gbl.SegundosJuego = 9;
     EXPECT_EQ(EntraEnHistorico(), 0);
-    const std::string todo = Fichero();
+    const std::string todo = Contenido("TESSA33.his");
     EXPECT_EQ(todo.find(esperada + "\r\n"), 0U);
     EXPECT_EQ(todo.find("12.5,9,20", esperada.size()), todo.rfind("12.5,9,20"));
     EXPECT_NE(todo.rfind("12.5,9,20"), std::string::npos);
 }
 
 TEST_F(Historial, LineWithoutAnEndIsEndedFirst) {
-    Escribe("TESSA33.his", "vieja");
+    Crea("TESSA33.his", "vieja");
     EXPECT_EQ(EntraEnHistorico(), 0);
-    EXPECT_EQ(Fichero(), "vieja\r\n" + esperada + "\r\n");
+    EXPECT_EQ(Contenido("TESSA33.his"), "vieja\r\n" + esperada + "\r\n");
 }
 
 TEST_F(Historial, FileIsFoundWhateverItsLetterCase) {
-    Escribe("TESSA33.HIS", "vieja\r\n");
+    Crea("TESSA33.HIS", "vieja\r\n");
     EXPECT_EQ(EntraEnHistorico(), 0);
-    EXPECT_EQ(Fichero("TESSA33.HIS"), "vieja\r\n" + esperada + "\r\n");
-    EXPECT_EQ(Fichero("TESSA33.his"), "");
+    EXPECT_EQ(Contenido("TESSA33.HIS"), "vieja\r\n" + esperada + "\r\n");
+    EXPECT_EQ(Contenido("TESSA33.his"), "");
 }
 
 TEST_F(Historial, LongNameIsCutAtNineCharacters) {

@@ -1,6 +1,4 @@
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "apoyo/MesaTangram.h"
 #include "records/Modelos.h"
@@ -12,19 +10,12 @@ protected:
     void SetUp() override {
         PruebaBase::SetUp();
         AbreTangram(MODO_CREAR);
-        Gbl.CarpetaArchivo = P().carpeta + "Archivo/";
         std::filesystem::create_directories(Gbl.CarpetaArchivo);
     }
 
     std::string Ruta() const { return Gbl.CarpetaArchivo + "Modelos.tpu"; }
-    std::string Bytes(const std::string& ruta) const {
-        std::ifstream f(ruta, std::ios::binary);
-        return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
-    }
-    std::string Bytes() const { return Bytes(Ruta()); }
-    void Escribe(const std::string& bytes) const {
-        std::ofstream(Ruta(), std::ios::binary) << bytes;
-    }
+    std::string Bytes() { return Contenido(Ruta()); }
+    void Escribe(const std::string& bytes) { Crea(Ruta(), bytes); }
     // The names in the list, without the padding, as "number:name".
     std::vector<std::string> Nombres() const {
         Lista lista;
@@ -206,11 +197,11 @@ TEST_F(Modelos, MissingFileIsAnEmptyListAndTheFirstSaveMakesIt) {
 }
 
 TEST_F(Modelos, FileIsFoundWhateverTheCaseOfItsName) {
-    std::ofstream(Gbl.CarpetaArchivo + "MODELOS.TPU", std::ios::binary) << Hecho("Pez", "");
+    Crea(Gbl.CarpetaArchivo + "MODELOS.TPU", Hecho("Pez", ""));
     EXPECT_EQ(Nombres(), Textos{"1:Pez"});
     GuardaModelo("Pato");
     EXPECT_FALSE(std::filesystem::exists(Ruta()));
-    EXPECT_EQ(Bytes(Gbl.CarpetaArchivo + "MODELOS.TPU").size(), 252U);
+    EXPECT_EQ(Contenido(Gbl.CarpetaArchivo + "MODELOS.TPU").size(), 252U);
 }
 
 TEST_F(Modelos, LastRecordCutShortIsAFreeOneAndIsMadeWhole) {

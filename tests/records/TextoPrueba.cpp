@@ -18,16 +18,6 @@ namespace fs = std::filesystem;
 
 class Textos : public PruebaBase {
 protected:
-    std::string Crea(const std::string& nombre, const std::string& bytes) {
-        const std::string ruta = P().carpeta + nombre;
-        fs::create_directories(fs::path(ruta).parent_path());
-        std::ofstream(ruta, std::ios::binary) << bytes;
-        return ruta;
-    }
-    static std::string Contenido(const std::string& ruta) {
-        std::ifstream f(ruta, std::ios::binary);
-        return {std::istreambuf_iterator<char>(f), {}};
-    }
     std::size_t Entradas() {
         std::size_t n = 0;
         for ([[maybe_unused]] const auto& e : fs::directory_iterator(P().carpeta)) ++n;

@@ -15,14 +15,10 @@ class Despacho : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        Gbl.AnchoPantalla = 800;
-        Gbl.AltoPantalla = 600;
+        Pantalla800();
         Gbl.AnchoImagen = 320;
         Gbl.AltoImagen = 240;
         Gbl.PiezasPorLado = 3;
-        Pic_Botonera.Left = 659;
-        BarraVer.Left = 800;
-        BarraHor.Top = 600;
         Pic_FonTamModi.Tamano(320, 240);
         CalculaColores();
     }

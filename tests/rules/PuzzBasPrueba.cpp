@@ -180,11 +180,7 @@ class Tendido : public PruebaBase {
 protected:
     void Monta(i16 juego) {
         Gbl.JuegoActual = juego;
-        Gbl.AnchoPantalla = 800;
-        Gbl.AltoPantalla = 600;
-        Pic_Botonera.Left = 659;
-        BarraVer.Left = 800;
-        BarraHor.Top = 600;
+        Pantalla800();
         CalculaColores();
         Gbl.AnchoImagen = 320;
         Gbl.AltoImagen = 240;

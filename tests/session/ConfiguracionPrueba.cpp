@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
@@ -19,26 +18,7 @@ class Ajustes : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        Gbl.CarpetaPrograma = P().carpeta;
-        Gbl.CarpetaImagenes = P().carpeta + "Imagenes/";
-        Gbl.AnchoPantalla = 800;
-        Gbl.AltoPantalla = 600;
-        Pic_Botonera.Left = 659;
-        BarraVer.Left = 800;
-        BarraHor.Top = 600;
-    }
-    void Crea(const std::string& nombre, const std::string& bytes) {
-        std::ofstream(P().carpeta + nombre, std::ios::binary) << bytes;
-    }
-    std::string Contenido(const std::string& nombre) {
-        std::ifstream f(P().carpeta + nombre, std::ios::binary);
-        return {std::istreambuf_iterator<char>(f), {}};
-    }
-    void PonImagen(const std::string& nombre, i32 ancho, i32 alto) {
-        const std::string ruta = Gbl.CarpetaImagenes + nombre;
-        fs::create_directories(Gbl.CarpetaImagenes);
-        std::ofstream(ruta) << "x";
-        P().imagenes[ruta] = Mapa(ancho, alto, 0x0000FF);
+        Pantalla800();
     }
     static std::string Linea(const std::string& campos) {
         return "\"" + campos + std::string(125 - campos.size(), ' ') + "\"\r\n";

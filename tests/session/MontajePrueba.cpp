@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 
 #include "apoyo/PlataformaPrueba.h"
@@ -21,13 +20,7 @@ class Registros : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        Gbl.CarpetaPrograma = P().carpeta;
-        Gbl.CarpetaImagenes = P().carpeta + "Imagenes/";
-        Gbl.AnchoPantalla = 800;
-        Gbl.AltoPantalla = 600;
-        Pic_Botonera.Left = 659;
-        BarraVer.Left = 800;
-        BarraHor.Top = 600;
+        Pantalla800();
         CalculaColores();
     }
 
@@ -113,13 +106,6 @@ protected:
     // Columns of line 5 of what would be written now.
     static std::string Columnas(std::size_t desde, std::size_t hasta) {
         return DeComillas(Lineas(EscribePuzzle())[4]).substr(desde - 1, hasta - desde + 1);
-    }
-
-    void PonImagen(const std::string& nombre, i32 ancho, i32 alto, Pixel color = 0x00AA11) {
-        const std::string ruta = Gbl.CarpetaImagenes + nombre;
-        std::filesystem::create_directories(Gbl.CarpetaImagenes);
-        std::ofstream(ruta) << "x";
-        P().imagenes[ruta] = Mapa(ancho, alto, color);
     }
 };
 

@@ -54,7 +54,7 @@ void Monta(i16 lado, i16 tipo) {
 }
 
 // A picture of 640 x 480 behind the margins, each pixel telling its own place.
-void PonImagen(i16 lado) {
+void PonRetrato(i16 lado) {
     PreparaTablero(lado);
     Pic_FonTamModi.Tamano(Gbl.MargenX + 640, Gbl.MargenY + 480);
     for (i32 y = 0; y < Pic_FonTamModi.Height(); ++y)
@@ -212,7 +212,7 @@ TEST_F(Construccion, LabelsStandAtTheHomesWhereverThePiecesAre) {
 
 TEST_F(Construccion, PictureIsStretchedFromTheMarginsNotFromTheOrigin) {
     Gbl.TipoFondo = FONDO_IMAGEN;
-    PonImagen(4);
+    PonRetrato(4);
     Monta(4, FONDO_IMAGEN);
     // 640 x 480 onto 356 x 356: column 100 takes (2 * 100 + 1) * 640 / 712 = 180, line 50 takes
     // 101 * 480 / 712 = 68.
@@ -226,7 +226,7 @@ TEST_F(Construccion, PictureIsStretchedFromTheMarginsNotFromTheOrigin) {
 TEST_F(Construccion, SampleIsHalfTheBoardNearTheLowerRightCorner) {
     Gbl.TipoFondo = FONDO_IMAGEN;
     Gbl.MostrarMuestra = true;
-    PonImagen(4);
+    PonRetrato(4);
     Monta(4, FONDO_IMAGEN);
     EXPECT_TRUE(Pic_Muestra.Visible);
     EXPECT_EQ(Pic_Muestra.Width(), 178);
@@ -355,7 +355,7 @@ TEST_F(Construccion, PieceWithBorderHasCutCornersAndARelief) {
 TEST_F(Construccion, PieceWithoutBorderIsThePlainSquareOfItsFace) {
     Gbl.DibujarBorde = false;
     Gbl.TipoFondo = FONDO_IMAGEN;
-    PonImagen(4);
+    PonRetrato(4);
     Monta(4, FONDO_IMAGEN);
     PreparaPieza(6);
     for (const auto& [x, y] : {std::pair{0, 0}, {88, 0}, {0, 88}, {88, 88}, {44, 44}}) {
@@ -366,7 +366,7 @@ TEST_F(Construccion, PieceWithoutBorderIsThePlainSquareOfItsFace) {
 
 TEST_F(Construccion, FaceComesFromWhereThePieceBelongs) {
     Gbl.DibujarBorde = false;
-    PonImagen(3);
+    PonRetrato(3);
     Monta(3, FONDO_IMAGEN);
     PonTablero({8, 7, 6, 5, 4, 3, 2, 1, 0});
     PreparaPieza(1);

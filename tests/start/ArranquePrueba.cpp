@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <vector>
 
@@ -20,20 +19,7 @@ class Arranque : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        carpetaDeAntes_ = fs::current_path();
         sistema_ = P().carpeta + "sistema/Temp/Tsb/";
-    }
-    void TearDown() override {
-        fs::current_path(carpetaDeAntes_);
-        PruebaBase::TearDown();
-    }
-    void Crea(const std::string& ruta, const std::string& bytes) {
-        fs::create_directories(fs::path(ruta).parent_path());
-        std::ofstream(ruta, std::ios::binary) << bytes;
-    }
-    static std::string Contenido(const std::string& ruta) {
-        std::ifstream f(ruta, std::ios::binary);
-        return {std::istreambuf_iterator<char>(f), {}};
     }
     // The probe's name is taken by a folder: no file of that name can be made, as on a medium that
     // cannot be written, for whatever user.
@@ -53,15 +39,11 @@ protected:
         EXPECT_EQ(i, miradas.size());
     }
     std::string sistema_;
-
-private:
-    fs::path carpetaDeAntes_;
 };
 
 }  // namespace
 
 TEST_F(Arranque, WritableFolderKeepsItsSettingsAndHasNoProbeLeft) {
-    Gbl.CarpetaPrograma = P().carpeta;
     PreparaCarpetas();
     EXPECT_FALSE(Gbl.EnMedioSoloLectura);
     EXPECT_EQ(Gbl.CarpetaPrograma, P().carpeta);
@@ -69,12 +51,12 @@ TEST_F(Arranque, WritableFolderKeepsItsSettingsAndHasNoProbeLeft) {
 }
 
 TEST_F(Arranque, FirstStartOnAReadOnlyMediumCopiesTheSixFiles) {
-    Crea(P().carpeta + "TsR33.ini", "global");
-    Crea(P().carpeta + "TSR2133.INI", "21");
-    Crea(P().carpeta + "tsr2233.ini", "22");
-    Crea(P().carpeta + "TESSA33.HIS", "historia");
-    Crea(P().carpeta + "Archivo/Modelos.tpu", "modelos");
-    Crea(P().carpeta + "Archivo/mio.puz", "no");
+    Crea("TsR33.ini", "global");
+    Crea("TSR2133.INI", "21");
+    Crea("tsr2233.ini", "22");
+    Crea("TESSA33.HIS", "historia");
+    Crea("Archivo/Modelos.tpu", "modelos");
+    Crea("Archivo/mio.puz", "no");
     MedioSoloLectura();
     Gbl.CarpetaPrograma = P().carpeta;
     Gbl.CarpetaImagenes = P().carpeta + "Imagenes/";
@@ -93,11 +75,10 @@ TEST_F(Arranque, FirstStartOnAReadOnlyMediumCopiesTheSixFiles) {
 }
 
 TEST_F(Arranque, SecondStartOnAReadOnlyMediumCopiesNothing) {
-    Crea(P().carpeta + "TSR33.INI", "del medio");
-    Crea(P().carpeta + "TESSA33.HIS", "del medio");
+    Crea("TSR33.INI", "del medio");
+    Crea("TESSA33.HIS", "del medio");
     Crea(sistema_ + "TsR33.ini", "del jugador");
     MedioSoloLectura();
-    Gbl.CarpetaPrograma = P().carpeta;
     PreparaCarpetas();
     EXPECT_EQ(Contenido(sistema_ + "TsR33.ini"), "del jugador");
     EXPECT_FALSE(fs::exists(sistema_ + "TSR33.INI"));
@@ -106,8 +87,7 @@ TEST_F(Arranque, SecondStartOnAReadOnlyMediumCopiesNothing) {
 
 TEST_F(Arranque, WorkingFolderThatCannotBeMadeIsNoCrash) {
     MedioSoloLectura();
-    Crea(P().carpeta + "sistema", "un fichero donde iría la carpeta");
-    Gbl.CarpetaPrograma = P().carpeta;
+    Crea("sistema", "un fichero donde iría la carpeta");
     PreparaCarpetas();
     EXPECT_TRUE(Gbl.EnMedioSoloLectura);
     EXPECT_EQ(Gbl.CarpetaPrograma, sistema_);
@@ -135,7 +115,7 @@ TEST_F(Arranque, ConstantsAreFilledOnce) {
 }
 
 TEST_F(Arranque, FirstStartOfAllShowsTheTableAndTheWelcome) {
-    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    Crea("TsR33.ini", Global("220 0500 "));
     EXPECT_TRUE(Main());
     ASSERT_GE(P().mostradas.size(), 3U);
     EXPECT_EQ(P().mostradas.front(), "Careta");
@@ -164,9 +144,7 @@ TEST_F(Arranque, FirstStartOfAllShowsTheTableAndTheWelcome) {
 }
 
 TEST_F(Arranque, WithoutAnySettingsBothFilesAreToldInTurnBeforeTheTableIsShown) {
-    fs::create_directories(P().carpeta + "Imagenes");
-    std::ofstream(P().carpeta + "Imagenes/a.bmp") << "x";
-    P().imagenes[P().carpeta + "Imagenes/a.bmp"] = Mapa(640, 480, 0x0000FF);
+    PonImagen("a.bmp", 640, 480);
     const std::string global = "TsR33.ini", juego = "TsR2133.ini";
     const auto comun = [&] {
         EXPECT_EQ(Gbl.TituloMensaje, "Error en la carga de datos iniciales");
@@ -185,7 +163,7 @@ TEST_F(Arranque, WithoutAnySettingsBothFilesAreToldInTurnBeforeTheTableIsShown) 
                      [&] {
                          comun();
                          EXPECT_NE(Gbl.TextoMensaje.find(P().carpeta + juego), std::string::npos);
-                         EXPECT_EQ(Contenido(P().carpeta + global), Global("210 0500 "));
+                         EXPECT_EQ(Contenido(global), Global("210 0500 "));
                          EXPECT_FALSE(fs::exists(P().carpeta + juego));
                          EXPECT_EQ(Pic_Botonera.Width(), 141);
                          EXPECT_EQ(Gbl.Piezas.Superior(), -1);
@@ -200,8 +178,8 @@ TEST_F(Arranque, WithoutAnySettingsBothFilesAreToldInTurnBeforeTheTableIsShown) 
 }
 
 TEST_F(Arranque, DamagedFileOfTheGlobalFilesGameGivesThatGamesDefaultsInSilence) {
-    Crea(P().carpeta + "TsR33.ini", Global("22-1050-1"));
-    Crea(P().carpeta + "TsR2233.ini", "\"C:\"\r\n\"nada\"\r\n");
+    Crea("TsR33.ini", Global("22-1050-1"));
+    Crea("TsR2233.ini", "\"C:\"\r\n\"nada\"\r\n");
     EXPECT_TRUE(Main());
     ASSERT_EQ(P().avisos.size(), 1U);
     EXPECT_EQ(P().avisos[0].titulo, "TESSARIO  3.3");
@@ -212,12 +190,12 @@ TEST_F(Arranque, DamagedFileOfTheGlobalFilesGameGivesThatGamesDefaultsInSilence)
     EXPECT_FALSE(Gbl.PuzzleArchivable);
     EXPECT_TRUE(Gbl.Sonido);
     EXPECT_TRUE(Gbl.VentanaInformacion);
-    EXPECT_EQ(Contenido(P().carpeta + "TsR33.ini"), Global("22-1050-1"));
+    EXPECT_EQ(Contenido("TsR33.ini"), Global("22-1050-1"));
     EXPECT_FALSE(fs::exists(P().carpeta + "TsR2133.ini"));
 }
 
 TEST_F(Arranque, SplashHoldsASecondAndAHalf) {
-    Crea(P().carpeta + "TsR33.ini", Global("220 1000 "));
+    Crea("TsR33.ini", Global("220 1000 "));
     const double antes = P().reloj;
     Main();
     EXPECT_NEAR(P().reloj - antes, 1500, 2);  // at the file's speed nothing else waits
@@ -227,7 +205,7 @@ TEST_F(Arranque, SplashHoldsASecondAndAHalf) {
 TEST_F(Arranque, WideLowScreenPassesSilently) {
     P().ancho = 1024;
     P().alto = 480;
-    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    Crea("TsR33.ini", Global("220 0500 "));
     EXPECT_TRUE(Main());
     for (const auto& a : P().avisos) EXPECT_NE(a.titulo, "Resolución de pantalla");
 }
@@ -252,7 +230,7 @@ TEST_F(Arranque, NarrowScreenIsAskedAndARefusalEndsTheProgram) {
 }
 
 TEST_F(Arranque, EightHundredColumnsAreEnoughOneLessIsNot) {
-    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    Crea("TsR33.ini", Global("220 0500 "));
     P().ancho = 800;
     P().alto = 480;
     Main();
@@ -270,7 +248,7 @@ TEST_F(Arranque, ScreenIsAskedAboutOnceTheFoldersAreSettledAndBeforeItIsMeasured
     P().ancho = 640;
     P().alto = 480;
     P().pruebaModo = -2;
-    Crea(P().carpeta + "TSR33.INI", Global("220 0500 "));
+    Crea("TSR33.INI", Global("220 0500 "));
     MedioSoloLectura();
     MiraEnCadaAviso({[&] {
                          EXPECT_EQ(Gbl.TituloMensaje, "Resolución de pantalla");
@@ -311,7 +289,7 @@ TEST_F(Arranque, OutcomesOfTheChangeOfMode) {
          "No se ha podido realizar el cambio de resolución de la pantalla. Inténtelo de forma "
          "manual.",
          640}};
-    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    Crea("TsR33.ini", Global("220 0500 "));
     for (const auto& c : casos) {
         P().ancho = 640;
         P().alto = 480;
@@ -331,7 +309,7 @@ TEST_F(Arranque, OutcomesOfTheChangeOfMode) {
 }
 
 TEST_F(Arranque, EndSavesTheGlobalSettingsAndTheGame) {
-    Crea(P().carpeta + "TsR33.ini", Global("220 0500 "));
+    Crea("TsR33.ini", Global("220 0500 "));
     Main();
     Gbl.SegundosJuego = 321;
     Gbl.VelocidadJuego = 60;
@@ -350,14 +328,14 @@ TEST_F(Arranque, EndSavesTheGlobalSettingsAndTheGame) {
 }
 
 TEST_F(Arranque, ReadOnlyMediumPlaysFromItsWorkingFolder) {
-    Crea(P().carpeta + "TSR33.INI", Global("220 0500 "));
+    Crea("TSR33.INI", Global("220 0500 "));
     MedioSoloLectura();
     Main();
     Gbl.SegundosJuego = 55;
     Gbl.VelocidadJuego = 61;
     Gbl.VentanaInformacion = true;
     TerminaPrograma();
-    EXPECT_EQ(Contenido(P().carpeta + "TSR33.INI"), Global("220 0500 "));
+    EXPECT_EQ(Contenido("TSR33.INI"), Global("220 0500 "));
     EXPECT_TRUE(fs::exists(sistema_ + "TsR2233.ini"));
     EXPECT_FALSE(fs::exists(P().carpeta + "TsR2233.ini"));
     Gbl = Bloque{};

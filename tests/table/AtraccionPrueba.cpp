@@ -1,4 +1,4 @@
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 #include "rules/PuzzBas.h"
 #include "table/Atraccion.h"
 
@@ -7,24 +7,15 @@ namespace tessario {
 class Atraccion : public MesaMoviles {
 protected:
     void Tangram(i16 modo) {
-        Gbl.JuegoActual = JuegoTangram;
         Gbl.ModoJuego = MODO_CREAR;
-        Gbl.AnchoPantalla = 1024;
-        Gbl.AltoPantalla = 768;
         Gbl.FactorAtraccion = 20;
-        CalculaTamanos();
+        MontaTangram(1024, 768);
         Gbl.ModoJuego = modo;
         const i16 gemelas[] = {2, 1, 0, 5, 4, 0, 0};
-        Gbl.Piezas.Redimensiona(7);
-        Gbl.OrdenPiezas.Redimensiona(7);
         for (i16 p = 1; p <= 7; ++p) {
             Gbl.TGemela[p] = gemelas[p - 1];
-            Gbl.OrdenPiezas[p] = p;
             Coloca(p, static_cast<i16>(10 + (p - 1) * 140), 600);
         }
-        for (Superficie* s :
-             {&Pic_Fondo, &Pic_Imagen, &Pic_Bitmap, static_cast<Superficie*>(&Pic_Trabajo)})
-            s->Tamano(1024, 768);
     }
     void Destino(i16 piece, i16 x, i16 y, i16 giro = 0, i16 volteo = 0) {
         Pieza& z = Gbl.Piezas[piece];

@@ -1,4 +1,4 @@
-#include "jigsaw/MesaMoviles.h"
+#include "apoyo/MesaMoviles.h"
 #include "table/Giro.h"
 
 namespace tessario {
@@ -10,20 +10,10 @@ protected:
         GiraPieza();
     }
     void Tangram() {
-        Gbl.JuegoActual = JuegoTangram;
-        Gbl.AnchoPantalla = 1024;
-        Gbl.AltoPantalla = 768;
-        CalculaTamanos();
-        Gbl.Piezas.Redimensiona(7);
-        Gbl.OrdenPiezas.Redimensiona(7);
-        for (i16 p = 1; p <= 7; ++p) {
-            Gbl.OrdenPiezas[p] = p;
+        MontaTangram(1024, 768);
+        for (i16 p = 1; p <= 7; ++p)
             Coloca(p, static_cast<i16>(100 + (p - 1) % 4 * 220),
                    static_cast<i16>(p > 4 ? 450 : 100));
-        }
-        for (Superficie* s :
-             {&Pic_Fondo, &Pic_Imagen, &Pic_Bitmap, static_cast<Superficie*>(&Pic_Trabajo)})
-            s->Tamano(1024, 768);
     }
 };
 

@@ -1,6 +1,5 @@
 // Whole games, played with the pointer from the deal to the last message.
 #include <algorithm>
-#include <fstream>
 
 #include "apoyo/MesaMontada.h"
 #include "panel/Grabadora.h"

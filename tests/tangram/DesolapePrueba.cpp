@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <fstream>
 #include <random>
 #include <sstream>
 

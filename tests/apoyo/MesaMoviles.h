@@ -52,6 +52,19 @@ protected:
         }
         CreaMoviles(false);
     }
+    // The seven pieces of the Tangram by the sizes of a screen, upright at (0, 0), nothing painted.
+    void MontaTangram(i32 ancho, i32 alto) {
+        Gbl.JuegoActual = JuegoTangram;
+        Gbl.AnchoPantalla = static_cast<i16>(ancho);
+        Gbl.AltoPantalla = static_cast<i16>(alto);
+        CalculaTamanos();
+        Gbl.Piezas.Redimensiona(7);
+        Gbl.OrdenPiezas.Redimensiona(7);
+        for (i16 p = 1; p <= 7; ++p) Gbl.OrdenPiezas[p] = p;
+        for (Superficie* s :
+             {&Pic_Fondo, &Pic_Imagen, &Pic_Bitmap, static_cast<Superficie*>(&Pic_Trabajo)})
+            s->Tamano(ancho, alto);
+    }
     void Coloca(i16 piece, i16 x, i16 y, i16 giro = 0) {
         Gbl.Piezas[piece].X = x;
         Gbl.Piezas[piece].Y = y;
