@@ -305,7 +305,7 @@ TEST_F(Registros, ImageIsStretchedToItsZoom) {
     EXPECT_EQ(ErrorPendiente(), 0);
     EXPECT_EQ(Pic_FonTamModi.Width(), 352);
     EXPECT_EQ(Pic_FonTamModi.Height(), 264);
-    EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(351, 263)), 0x00AA11U);
+    EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(351, 263)), 0x0000FFU);
     EXPECT_EQ(Pic_FonTamReal.Width(), 0);
 }
 
@@ -315,7 +315,7 @@ TEST_F(Registros, ImageOfAnotherSystemIsFoundByItsName) {
     Gbl.RutaImagen = "D:\\JUEGOS\\TESSA\\IMAGENES\\LAGO.BMP";
     Relee();
     EXPECT_EQ(ErrorPendiente(), 0);
-    EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(5, 5)), 0x00AA11U);
+    EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(5, 5)), 0x0000FFU);
 }
 
 TEST_F(Registros, MissingImageLeavesItsErrorAndBuildsNothing) {
