@@ -178,6 +178,13 @@ struct Temporizador {
     std::function<void()> Timer;
 };
 
+// What the player drags from another program and drops: files of this machine by their paths, or a
+// picture of its own. Both are empty when it was something else.
+struct Traido {
+    std::vector<std::string> Ficheros;
+    Mapa Dibujo;
+};
+
 // A window. Its own surface is the ground on which it draws and on which its controls lie.
 struct Ventana : Superficie {
     std::string Nombre;  // name of the record, for tests
@@ -197,6 +204,9 @@ struct Ventana : Superficie {
     std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
     std::function<void(i16 KeyAscii)> KeyPress;
     std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
+    // Something was dropped on the window or on one of its controls; a window without this event
+    // takes nothing. It comes when the drag is over, so a handler may open another window.
+    std::function<void(const Traido& traido)> DragDrop;
 };
 
 // Presses a control on the player's behalf at (0, 0): a move to the point, then its MouseDown.

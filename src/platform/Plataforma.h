@@ -53,8 +53,17 @@ public:
     virtual void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
                             Color color) = 0;
 
-    // --- Pictures. CargaImagen: 0, 53 no such file, 7 too large, 481 not a picture.
+    // --- Pictures. Files are told by their content. All that read give 0, 53 no such file, 7 too
+    // large, 481 not a picture; unless 0, what they were to fill is left as it was.
+    // The kinds that the game's file lists show, and PNG and GIF.
     virtual i32 CargaImagen(const std::string& ruta, Mapa& destino) = 0;
+    // Their size in pixels as CargaImagen would give it, from the header alone.
+    virtual i32 MideImagen(const std::string& ruta, i32& ancho, i32& alto) = 0;
+    // The same picture at exactly ancho x alto, as stretch mode 3 would make it; a large photograph
+    // is decoded no finer than that needs, which takes a fraction of the time.
+    virtual i32 CargaMuestra(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) = 0;
+    // A picture of any kind that can be read at all, the first one of several.
+    virtual i32 CargaAjena(const std::string& ruta, Mapa& destino) = 0;
     virtual i32 GuardaImagen(const std::string& ruta,
                              const Mapa& imagen) = 0;                        // BMP; 0, 61, 75, 76
     virtual bool RecursoImagen(std::string_view nombre, Mapa& destino) = 0;  // in the program
@@ -66,6 +75,8 @@ public:
     // --- Clipboard.
     virtual bool PortapapelesTieneImagen() = 0;
     virtual bool PortapapelesImagen(Mapa& destino) = 0;
+    // Files that were copied in a file manager, by their paths.
+    virtual std::vector<std::string> PortapapelesFicheros() = 0;
 
     // --- Help by topic; 0 is the start page.
     virtual void Ayuda(i32 tema) = 0;

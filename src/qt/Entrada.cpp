@@ -1,6 +1,12 @@
 #include "qt/Entrada.h"
 
+#include <QFile>
+#include <QImage>
+#include <QMimeData>
+#include <QUrl>
 #include <array>
+
+#include "qt/Imagenes.h"
 
 namespace tessario {
 
@@ -81,6 +87,22 @@ i16 KeyAsciiDe(const QKeyEvent& e) {
     for (std::size_t i = 0; i < ALTOS.size(); ++i)
         if (ALTOS[i] == u) return static_cast<i16>(0x80 + i);
     return '?';
+}
+
+std::vector<std::string> FicherosDe(const QMimeData& datos) {
+    std::vector<std::string> rutas;
+    const QList<QUrl> urls = datos.urls();
+    for (const QUrl& url : urls)
+        if (url.isLocalFile()) rutas.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+    return rutas;
+}
+
+Traido TraidoDe(const QMimeData& datos) {
+    Traido t;
+    t.Ficheros = FicherosDe(datos);
+    if (t.Ficheros.empty() && datos.hasImage())
+        t.Dibujo = imagenes::Convierte(qvariant_cast<QImage>(datos.imageData()));
+    return t;
 }
 
 }  // namespace tessario

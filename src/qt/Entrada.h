@@ -1,9 +1,14 @@
-// Window-system input in the game's codes: button and shift masks, key codes, characters.
+// Window-system input in the game's codes: button and shift masks, key codes, characters; and what
+// comes from other programs, dropped or copied there.
 #pragma once
 
 #include <QKeyEvent>
+#include <string>
+#include <vector>
 
-#include "platform/Tipos.h"
+#include "platform/Controles.h"
+
+class QMimeData;
 
 namespace tessario {
 
@@ -12,5 +17,9 @@ i16 BotonesDe(Qt::MouseButtons botones);  // their sum
 i16 ShiftDe(Qt::KeyboardModifiers m);     // 1 shift, 2 control, 4 alt
 i16 KeyCodeDe(const QKeyEvent& e);        // 0: a key that the game does not know
 i16 KeyAsciiDe(const QKeyEvent& e);       // 0: the key writes nothing
+
+// The files of this machine that are named there, by their paths.
+std::vector<std::string> FicherosDe(const QMimeData& datos);
+Traido TraidoDe(const QMimeData& datos);
 
 }  // namespace tessario

@@ -43,19 +43,28 @@ bool BmpDesmedido(QIODevice& origen) {
            PIXELES_MAXIMOS;
 }
 
-i32 Lee(QIODevice& origen, Mapa& destino) {
-    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
-    QImageReader lector(&origen);
+enum class Clases { DeListas, Todas };
+
+// What a reader says before it decodes: its kind and size are ones that we read.
+i32 Examina(QImageReader& lector, Clases clases, QSize& medida) {
     lector.setDecideFormatFromContent(true);
     lector.setAutoTransform(true);
     QImageReader::setAllocationLimit(MEMORIA_MAXIMA_MB);
-    if (!lector.canRead() || !Conocido(lector.format())) return ERROR_IMAGEN;
-    const QSize medida = lector.size();
-    if (medida.isValid()) {
-        if (medida.isEmpty()) return ERROR_IMAGEN;
-        if (static_cast<long long>(medida.width()) * medida.height() > PIXELES_MAXIMOS)
-            return ERROR_MEMORIA;
-    }
+    if (!lector.canRead()) return ERROR_IMAGEN;
+    if (clases == Clases::DeListas && !Conocido(lector.format())) return ERROR_IMAGEN;
+    medida = lector.size();
+    if (!medida.isValid()) return 0;
+    if (medida.isEmpty()) return ERROR_IMAGEN;
+    if (static_cast<long long>(medida.width()) * medida.height() > PIXELES_MAXIMOS)
+        return ERROR_MEMORIA;
+    return 0;
+}
+
+bool Girada(const QImageReader& lector) {
+    return (lector.transformation() & QImageIOHandler::TransformationRotate90) != 0;
+}
+
+i32 Decodifica(QImageReader& lector, QSize medida, Mapa& destino) {
     // Pixels that the file skips stay as they are, so the image is made and filled first.
     QImage imagen;
     if (medida.isValid() && lector.imageFormat() != QImage::Format_Invalid) {
@@ -64,8 +73,84 @@ i32 Lee(QIODevice& origen, Mapa& destino) {
         imagen.fill(0);
     }
     if (!lector.read(&imagen) || imagen.isNull()) return ERROR_IMAGEN;
-    destino = Convierte(std::move(imagen));
-    return destino.Ancho > 0 ? 0 : ERROR_IMAGEN;
+    Mapa leida = Convierte(std::move(imagen));
+    if (leida.Ancho <= 0) return ERROR_IMAGEN;
+    destino = std::move(leida);
+    return 0;
+}
+
+i32 Lee(QIODevice& origen, Clases clases, Mapa& destino) {
+    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    QImageReader lector(&origen);
+    QSize medida;
+    if (const i32 error = Examina(lector, clases, medida)) return error;
+    return Decodifica(lector, medida, destino);
+}
+
+i32 LeeMedida(QIODevice& origen, i32& ancho, i32& alto) {
+    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    QImageReader lector(&origen);
+    QSize medida;
+    if (const i32 error = Examina(lector, Clases::DeListas, medida)) return error;
+    if (!medida.isValid()) {
+        Mapa entera;
+        if (const i32 error = Decodifica(lector, medida, entera)) return error;
+        medida = {entera.Ancho, entera.Alto};
+    } else if (Girada(lector)) {
+        medida.transpose();
+    }
+    ancho = medida.width();
+    alto = medida.height();
+    return 0;
+}
+
+// The picture at exactly this size: each pixel is the one under its centre.
+Mapa Estira(const Mapa& m, i32 ancho, i32 alto) {
+    if (m.Ancho == ancho && m.Alto == alto) return m;
+    Mapa r(ancho, alto);
+    const auto bajo = [](i32 i, i32 de, i32 a) {
+        return static_cast<i32>((2LL * i + 1) * de / (2LL * a));
+    };
+    std::vector<i32> columnas(static_cast<std::size_t>(ancho));
+    for (i32 x = 0; x < ancho; ++x) columnas[static_cast<std::size_t>(x)] = bajo(x, m.Ancho, ancho);
+    for (i32 y = 0; y < alto; ++y) {
+        const Pixel* const de = m.Fila(bajo(y, m.Alto, alto));
+        std::transform(columnas.begin(), columnas.end(), r.Fila(y), [de](i32 x) { return de[x]; });
+    }
+    return r;
+}
+
+// Decoders that can leave out what a smaller picture does not need, and do so in large steps.
+i32 LeeReducida(QIODevice& origen, i32 ancho, i32 alto, Mapa& destino) {
+    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    QImageReader lector(&origen);
+    QSize medida;
+    if (const i32 error = Examina(lector, Clases::DeListas, medida)) return error;
+    if (medida.isValid() && lector.format() == "jpeg") {
+        const QSize pedida = Girada(lector) ? QSize(alto, ancho) : QSize(ancho, alto);
+        if (medida.width() >= 2 * pedida.width() && medida.height() >= 2 * pedida.height()) {
+            lector.setScaledSize(pedida);
+            medida = {};
+        }
+    }
+    Mapa m;
+    if (const i32 error = Decodifica(lector, medida, m)) return error;
+    destino = Estira(m, ancho, alto);
+    return 0;
+}
+
+// Opens the file and hands it to a reader.
+template <class F>
+i32 ConFichero(const std::string& ruta, F&& lee) {
+    const QString nombre = QFile::decodeName(ruta.c_str());
+    if (!QFileInfo(nombre).isFile()) return ERROR_FICHERO;
+    QFile f(nombre);
+    if (!f.open(QIODevice::ReadOnly)) return ERROR_ACCESO;
+    try {
+        return lee(f);
+    } catch (const std::bad_alloc&) {
+        return ERROR_MEMORIA;
+    }
 }
 
 }  // namespace
@@ -91,16 +176,20 @@ Mapa Convierte(QImage imagen) {
 }
 
 i32 Carga(const std::string& ruta, Mapa& destino) {
-    const QString nombre = QFile::decodeName(ruta.c_str());
-    const QFileInfo info(nombre);
-    if (!info.isFile()) return ERROR_FICHERO;
-    QFile f(nombre);
-    if (!f.open(QIODevice::ReadOnly)) return ERROR_ACCESO;
-    try {
-        return Lee(f, destino);
-    } catch (const std::bad_alloc&) {
-        return ERROR_MEMORIA;
-    }
+    return ConFichero(ruta, [&](QFile& f) { return Lee(f, Clases::DeListas, destino); });
+}
+
+i32 CargaAjena(const std::string& ruta, Mapa& destino) {
+    return ConFichero(ruta, [&](QFile& f) { return Lee(f, Clases::Todas, destino); });
+}
+
+i32 Mide(const std::string& ruta, i32& ancho, i32& alto) {
+    return ConFichero(ruta, [&](QFile& f) { return LeeMedida(f, ancho, alto); });
+}
+
+i32 CargaReducida(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) {
+    if (ancho <= 0 || alto <= 0) return ERROR_IMAGEN;
+    return ConFichero(ruta, [&](QFile& f) { return LeeReducida(f, ancho, alto, destino); });
 }
 
 i32 Guarda(const std::string& ruta, const Mapa& imagen) {

@@ -9,8 +9,13 @@
 
 namespace tessario::imagenes {
 
-// 0, 53 no such file, 7 too large, 481 not a picture. Files are told by their content.
-i32 Carga(const std::string& ruta, Mapa& destino);
+// 0, 53 no such file, 75 no access, 7 too large, 481 not a picture; unless 0, what was to be filled
+// is left as it was. Files are told by their content.
+i32 Carga(const std::string& ruta, Mapa& destino);  // the kinds of the game's file lists, PNG, GIF
+i32 Mide(const std::string& ruta, i32& ancho, i32& alto);  // their size, from the header alone
+// At exactly this size, by stretch mode 3; photographs are decoded no finer than that needs.
+i32 CargaReducida(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino);
+i32 CargaAjena(const std::string& ruta, Mapa& destino);  // any kind, the first picture of several
 // A 24-bit BMP, replaced whole or not at all: 0, 61 disk full, 75 no access, 76 no such folder.
 i32 Guarda(const std::string& ruta, const Mapa& imagen);
 bool Recurso(std::string_view nombre, Mapa& destino);

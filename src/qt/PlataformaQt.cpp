@@ -12,6 +12,7 @@
 #include <new>
 
 #include "core/Errores.h"
+#include "qt/Entrada.h"
 #include "qt/Estilo.h"
 #include "qt/Imagenes.h"
 #include "qt/VistaVentana.h"
@@ -257,6 +258,18 @@ i32 PlataformaQt::CargaImagen(const std::string& ruta, Mapa& destino) {
     return imagenes::Carga(ruta, destino);
 }
 
+i32 PlataformaQt::MideImagen(const std::string& ruta, i32& ancho, i32& alto) {
+    return imagenes::Mide(ruta, ancho, alto);
+}
+
+i32 PlataformaQt::CargaMuestra(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) {
+    return imagenes::CargaReducida(ruta, ancho, alto, destino);
+}
+
+i32 PlataformaQt::CargaAjena(const std::string& ruta, Mapa& destino) {
+    return imagenes::CargaAjena(ruta, destino);
+}
+
 i32 PlataformaQt::GuardaImagen(const std::string& ruta, const Mapa& imagen) {
     return imagenes::Guarda(ruta, imagen);
 }
@@ -281,6 +294,11 @@ bool PlataformaQt::PortapapelesImagen(Mapa& destino) {
     if (imagen.isNull()) return false;
     destino = imagenes::Convierte(imagen);
     return destino.Ancho > 0;
+}
+
+std::vector<std::string> PlataformaQt::PortapapelesFicheros() {
+    const QMimeData* const datos = QGuiApplication::clipboard()->mimeData();
+    return datos ? FicherosDe(*datos) : std::vector<std::string>{};
 }
 
 // --- Help and folders.

@@ -57,11 +57,15 @@ public:
     void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
                     Color color) override;
     i32 CargaImagen(const std::string& ruta, Mapa& destino) override;
+    i32 MideImagen(const std::string& ruta, i32& ancho, i32& alto) override;
+    i32 CargaMuestra(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) override;
+    i32 CargaAjena(const std::string& ruta, Mapa& destino) override;
     i32 GuardaImagen(const std::string& ruta, const Mapa& imagen) override;
     bool RecursoImagen(std::string_view nombre, Mapa& destino) override;
     void Suena(i16 id, bool asincrono) override;
     bool PortapapelesTieneImagen() override;
     bool PortapapelesImagen(Mapa& destino) override;
+    std::vector<std::string> PortapapelesFicheros() override;
     void Ayuda(i32 tema) override;
     std::string CarpetaDelPrograma() override;
     std::string CarpetaDelSistema() override;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScreen>
@@ -78,6 +79,8 @@ void VistaVentana::Sincroniza() {
         icono_ = ventana_.MouseIcon;
         setCursor(anfitrion_.cursores().De(puntero_, icono_));
     }
+    if (acceptDrops() != static_cast<bool>(ventana_.DragDrop))
+        setAcceptDrops(static_cast<bool>(ventana_.DragDrop));
     const Rect r = Interseccion(ventana_.TomaSucio(), ventana_.Limites());
     if (!r.Vacio()) {
         update(r.Izq, r.Arr, r.Ancho(), r.Alto());
@@ -302,6 +305,33 @@ void VistaVentana::wheelEvent(QWheelEvent* e) {
         e->accept();
         return;
     }
+}
+
+// --- What is dropped.
+
+bool VistaVentana::AdmiteTraidos() const {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return viva_ && ventana_.DragDrop && (!modal || modal == this);
+}
+
+void VistaVentana::dragEnterEvent(QDragEnterEvent* e) {
+    if (AdmiteTraidos()) e->acceptProposedAction();
+}
+
+void VistaVentana::dragMoveEvent(QDragMoveEvent* e) {
+    if (AdmiteTraidos()) e->acceptProposedAction();
+}
+
+// The handler runs when the other program has been told that the drag is over: it may open windows
+// that stay.
+void VistaVentana::dropEvent(QDropEvent* e) {
+    if (!AdmiteTraidos()) return;
+    e->setDropAction(Qt::CopyAction);
+    e->accept();
+    const auto traido = std::make_shared<Traido>(TraidoDe(*e->mimeData()));
+    QTimer::singleShot(0, this, [this, traido] {
+        if (AdmiteTraidos()) anfitrion_.Entrega([&] { ventana_.DragDrop(*traido); });
+    });
 }
 
 }  // namespace tessario

@@ -48,6 +48,9 @@ protected:
     void paintEvent(QPaintEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
+    void dragEnterEvent(QDragEnterEvent* e) override;
+    void dragMoveEvent(QDragMoveEvent* e) override;
+    void dropEvent(QDropEvent* e) override;
 
 private:
     void SincronizaControles();
@@ -55,6 +58,7 @@ private:
     void SincronizaReloj();
     QRect Sitio() const;
     void Raton(QMouseEvent& m);
+    bool AdmiteTraidos() const;  // a drop may come now: no modal window stands above this one
 
     struct Reloj {
         Temporizador* registro = nullptr;

@@ -136,6 +136,34 @@ i32 PlataformaPrueba::CargaImagen(const std::string& ruta, Mapa& destino) {
     if (const auto e = erroresImagen.find(ruta); e != erroresImagen.end()) return e->second;
     const auto i = imagenes.find(ruta);
     if (i == imagenes.end()) return 53;
+    cargadas.push_back(ruta);
+    destino = i->second;
+    return 0;
+}
+
+i32 PlataformaPrueba::MideImagen(const std::string& ruta, i32& ancho_, i32& alto_) {
+    if (const auto e = erroresImagen.find(ruta); e != erroresImagen.end()) return e->second;
+    const auto i = imagenes.find(ruta);
+    if (i == imagenes.end()) return 53;
+    ancho_ = i->second.Ancho;
+    alto_ = i->second.Alto;
+    return 0;
+}
+
+i32 PlataformaPrueba::CargaMuestra(const std::string& ruta, i32 ancho_, i32 alto_, Mapa& destino) {
+    i32 w = 0, h = 0;
+    if (const i32 error = MideImagen(ruta, w, h)) return error;
+    Superficie entera(w, h), muestra(ancho_, alto_);
+    entera.PonPicture(std::make_shared<const Mapa>(imagenes[ruta]));
+    StretchBlt(muestra, 0, 0, ancho_, alto_, entera, 0, 0, w, h, SRCCOPY);
+    destino = muestra.Dibujo();
+    return 0;
+}
+
+i32 PlataformaPrueba::CargaAjena(const std::string& ruta, Mapa& destino) {
+    if (const auto e = erroresImagen.find(ruta); e != erroresImagen.end()) return e->second;
+    const auto i = ajenas.find(ruta);
+    if (i == ajenas.end()) return CargaImagen(ruta, destino);
     destino = i->second;
     return 0;
 }

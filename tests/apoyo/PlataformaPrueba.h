@@ -32,10 +32,12 @@ public:
     std::deque<bool> respuestas;                // answers of the next messages; then no
     std::map<std::string, std::function<void(Ventana&)>> ventanas;  // by name: what the player does
     std::map<std::string, Mapa> imagenes;                           // pictures by path
+    std::map<std::string, Mapa> ajenas;  // pictures of foreign kinds by path, beside `imagenes`
     std::map<std::string, i32> erroresImagen;  // paths that fail, by error number
     std::map<std::string, Mapa> recursos;      // by name; others are made up (see below)
     bool hayPortapapeles = false;
     Mapa portapapeles;
+    std::vector<std::string> portapapelesFicheros;
     bool botones = false;
 
     // --- What a test looks at.
@@ -49,6 +51,7 @@ public:
     std::vector<i32> ayudas;
     std::vector<std::string> mostradas;     // windows shown, by name
     std::map<std::string, Mapa> guardadas;  // pictures saved
+    std::vector<std::string> cargadas;      // pictures read whole, by path, oldest first
     int presentaciones = 0;
     int pasosDeEventos = 0;
     double dormido = 0;  // ms slept in all
@@ -80,6 +83,9 @@ public:
     void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
                     Color color) override;
     i32 CargaImagen(const std::string& ruta, Mapa& destino) override;
+    i32 MideImagen(const std::string& ruta, i32& ancho, i32& alto) override;
+    i32 CargaMuestra(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) override;
+    i32 CargaAjena(const std::string& ruta, Mapa& destino) override;
     i32 GuardaImagen(const std::string& ruta, const Mapa& imagen) override;
     // A name that the test has not given yields a picture whose pixel (x, y) tells its own place:
     // 0x00XXYY with the name's kind in the upper byte, so that source positions can be checked.
@@ -87,6 +93,7 @@ public:
     void Suena(i16 id, bool asincrono) override;
     bool PortapapelesTieneImagen() override { return hayPortapapeles; }
     bool PortapapelesImagen(Mapa& destino) override;
+    std::vector<std::string> PortapapelesFicheros() override { return portapapelesFicheros; }
     void Ayuda(i32 tema) override { ayudas.push_back(tema); }
     std::string CarpetaDelPrograma() override { return carpeta; }
     std::string CarpetaDelSistema() override { return carpeta + "sistema/"; }
