@@ -1,10 +1,11 @@
 # Shared by play and check, which read it in: what the machine must have, by Debian package names.
 # instala_paquetes GROUP... installs what is missing of the groups juego (to build and play),
-# pruebas (to test) and bench (to measure). A complete machine is only asked, and nothing is done.
+# pruebas (to test), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
 
 PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev fonts-liberation2"
 PAQUETES_pruebas="python3 libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
 PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"
+PAQUETES_paquete="debhelper lintian fakeroot dpkg-dev"
 PAQUETES_pantalla="xvfb openbox imagemagick"
 
 # The packages among the arguments that are not installed; one question for all.

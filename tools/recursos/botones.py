@@ -11,6 +11,9 @@ import svg
 
 PASO = 49
 TERRACOTA = (178, 81, 60)   # colour of the strip
+# The desktop's icon: sizes in pixels; the small ones from a drawing with fewer lines.
+ICONOS = [16, 22, 24, 32, 48, 64, 128, 256, 512]
+ICONO_CHICO_HASTA = 24
 LECHO = '<rect width="48" height="48" fill="#b2513c"/>'
 # Outside the strip a tile lies on the cream of the windows, with round corners.
 LECHO_CREMA = ('<rect width="48" height="48" fill="#f4e9d2"/>'
@@ -43,7 +46,16 @@ def Botones():
     return hoja
 
 
+def Iconos():
+    grande = (svg.RECURSOS / "icono.svg").read_text(encoding="utf-8")
+    chico = svg.Lee("icono-chico.svg")
+    for lado in ICONOS:
+        texto = chico if lado <= ICONO_CHICO_HASTA else grande
+        svg.Guarda(svg.Rinde(texto, lado, lado), "iconos/%d.png" % lado)
+
+
 def main():
+    Iconos()
     svg.Guarda(Botones(), "imagenes/BmpBoton.png")
     svg.Guarda(svg.Rinde(svg.Lee("vario.svg"), 342, 78).convert("RGB"), "imagenes/BmpVario.png")
     svg.Guarda(svg.Rinde(svg.Lee("careta.svg"), 480, 300, 4).convert("RGB"), "imagenes/Careta.png")
