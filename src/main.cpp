@@ -1,5 +1,6 @@
 // The program: makes the platform on the real window system and hands over to the game.
 #include <QApplication>
+#include <QMessageBox>
 #include <cstdio>
 
 #include "core/Servicios.h"
@@ -8,6 +9,7 @@
 #include "qt/Pantalla.h"
 #include "qt/PlataformaQt.h"
 #include "qt/Senales.h"
+#include "qt/Unica.h"
 #include "start/Arranque.h"
 
 namespace {
@@ -17,6 +19,11 @@ constexpr tessario::i16 SONIDO_MANDO = 6;
 constexpr char SIN_PANTALLA[] =
     "tessario: no hay ninguna pantalla en la que abrir la ventana del juego.\n"
     "Inicie el programa desde una sesión gráfica (variable DISPLAY o WAYLAND_DISPLAY).\n";
+
+void DiYaEnMarcha() {
+    QMessageBox::information(nullptr, QStringLiteral("Tessario"),
+                             QStringLiteral("Tessario ya está en marcha."));
+}
 
 }  // namespace
 
@@ -40,6 +47,12 @@ int main(int argc, char** argv) {
     InstalaAccesibilidad();
 
     PlataformaQt plataforma;
+    Unica unica(plataforma.CarpetaDelPrograma() + '\n' + plataforma.CarpetaDelSistema());
+    if (unica.Resultado() != Unica::Papel::Primera) {
+        if (unica.Resultado() == Unica::Papel::Sorda) DiYaEnMarcha();
+        return 0;
+    }
+    unica.AlLlamar([&] { plataforma.TraeAlFrente(); });
     PonSistema(&plataforma);
     plataforma.SonidoDeMando = [] { SonidoJuego(1, SONIDO_MANDO); };
     const Senales senales([&] { plataforma.Termina(); });

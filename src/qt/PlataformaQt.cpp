@@ -197,6 +197,15 @@ void PlataformaQt::Minimiza(Ventana& v) {
     if (VistaVentana* const vista = VistaDe(v)) vista->showMinimized();
 }
 
+void PlataformaQt::TraeAlFrente() {
+    for (VistaVentana* const v : abiertas_) {
+        if (!v->Ensenada()) continue;
+        if (v->isMinimized()) v->setWindowState(v->windowState() & ~Qt::WindowMinimized);
+        v->raise();
+        v->activateWindow();
+    }
+}
+
 void PlataformaQt::PonFoco(Control& c) {
     for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); ++i) {
         (*i)->Sincroniza();

@@ -23,6 +23,8 @@ public:
     std::function<void()> SonidoDeMando;
     // The event loop, until Termina. Returns the exit status.
     int Ejecuta();
+    // A later start has called: the windows come up, put away or not, the one on top last.
+    void TraeAlFrente();
     VistaVentana* VistaDe(const Ventana& v) const;
     VentanaAyuda* AyudaAbierta() const { return ayuda_.get(); }
     Sonidos& sonidos() { return sonidos_; }

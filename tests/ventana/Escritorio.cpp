@@ -511,6 +511,16 @@ void Programa::Lanzalo(const Entorno& entorno) {
     estado_ = -1;
 }
 
+int Programa::ArrancaOtra(int milisegundos) {
+    const pid_t otra =
+        Lanza({{carpeta_ + "tessario"}, e_.Nombre(), -1, {{"XDG_DATA_HOME", carpeta_ + "datos"}}});
+    int estado = -1;
+    e_.Espera([&] { return waitpid(otra, &estado, WNOHANG) == otra; }, milisegundos);
+    if (estado != -1) return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128;
+    Termina(otra);
+    return -1;
+}
+
 void Programa::CierraCarpeta(const std::string& datos) {
     namespace fs = std::filesystem;
     fs::create_directories(datos);

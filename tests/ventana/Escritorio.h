@@ -129,6 +129,8 @@ public:
     // The same in two steps, for what comes in between.
     void Lanzalo(const Entorno& entorno = {});
     bool LlegaALaMesa(bool cierraBienvenida = true);
+    // A second start of the same program while the first runs: its exit status, -1 if it stays.
+    int ArrancaOtra(int milisegundos = 10000);
     // From now on the program may not write into its folder; `datos` is made for what it keeps.
     void CierraCarpeta(const std::string& datos);
     std::string Errores() const;  // what it wrote on its error output
