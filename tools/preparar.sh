@@ -20,6 +20,27 @@ paquetes_ausentes() {
   done
 }
 
+# How far a long step is: con_avance TITLE LOG COMMAND... runs the command with all its output in
+# the log and shows a percentage, on a terminal in one line that renews itself, elsewhere a line
+# every quarter. It knows ninja's [12/80], ctest's 12/80 and the status lines of apt. The exit
+# status is the command's.
+con_avance() {
+  local titulo=$1 registro=$2 terminal=0; shift 2
+  [ -t 1 ] && terminal=1
+  "$@" 2>&1 | tee -a "$registro" | awk -v titulo="$titulo" -v terminal="$terminal" '
+    function dice(p) {
+      if (terminal) { if (p != ultimo) { printf "\r%s %3d %%", titulo, p; fflush() } }
+      else if (p >= meta) { printf "%s %d %%\n", titulo, p; fflush(); meta = (int(p / 25) + 1) * 25 }
+      ultimo = p
+    }
+    BEGIN { ultimo = -1 }
+    match($0, /^\[[0-9]+\/[0-9]+\]/) { split(substr($0, 2, RLENGTH - 2), n, "/"); dice(int(100 * n[1] / n[2])) }
+    match($0, /^ *[0-9]+\/[0-9]+ Test /) { split($0, n, /[\/ ]+/); i = n[1] == "" ? 2 : 1; dice(int(100 * n[i] / n[i + 1])) }
+    /^(pm|dl)status:/ { split($0, n, ":"); dice(int((/^dl/ ? 0 : 50) + n[3] / 2)) }
+    END { if (terminal && ultimo >= 0) print "" }'
+  return "${PIPESTATUS[0]}"
+}
+
 instala_paquetes() {
   local grupo nombre faltan sudo=""
   local -a lista=()
@@ -42,8 +63,13 @@ instala_paquetes() {
     fi
     sudo=sudo
   fi
-  $sudo env DEBIAN_FRONTEND=noninteractive apt-get update -q || true
-  $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${faltan[@]}"
+  local registro
+  registro=$(mktemp)
+  $sudo env DEBIAN_FRONTEND=noninteractive apt-get update -q >"$registro" 2>&1 || true
+  con_avance "Paquetes (packages)" "$registro" \
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -q -o APT::Status-Fd=1 \
+    --no-install-recommends "${faltan[@]}" || { tail -n 40 "$registro" >&2; rm -f "$registro"; return 1; }
+  rm -f "$registro"
 }
 
 # Is there an X or Wayland display that programs of this session can use?
