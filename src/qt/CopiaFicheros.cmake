@@ -1,22 +1,18 @@
-# Copies the sample pictures and the models beside the program: ORIGEN is the resources' folder,
-# DESTINO the program's. A file that is there and newer is the player's own and is left alone.
+# Puts the sample pictures and the models beside the program: ORIGEN is the resources' folder, DESTINO
+# the program's. A picture that is there and newer is the player's own and is left alone. The models
+# come as a supply of their own, which the program brings into the player's file.
 file(MAKE_DIRECTORY ${DESTINO}/Imagenes ${DESTINO}/Archivo)
-
-function(copia_si_falta origen destino)
-  get_filename_component(nombre ${origen} NAME)
-  if(EXISTS ${destino}/${nombre} AND NOT ${origen} IS_NEWER_THAN ${destino}/${nombre})
-    return()
-  endif()
-  file(COPY ${origen} DESTINATION ${destino})
-  file(TOUCH ${destino}/${nombre})
-endfunction()
 
 file(GLOB muestras ${ORIGEN}/muestras/*)
 foreach(muestra IN LISTS muestras)
-  if(NOT IS_DIRECTORY ${muestra})
-    copia_si_falta(${muestra} ${DESTINO}/Imagenes)
+  get_filename_component(nombre ${muestra} NAME)
+  set(copia ${DESTINO}/Imagenes/${nombre})
+  if(NOT IS_DIRECTORY ${muestra} AND NOT (EXISTS ${copia} AND NOT ${muestra} IS_NEWER_THAN ${copia}))
+    file(COPY ${muestra} DESTINATION ${DESTINO}/Imagenes)
+    file(TOUCH ${copia})
   endif()
 endforeach()
-if(EXISTS ${ORIGEN}/modelos/Modelos.tpu)
-  copia_si_falta(${ORIGEN}/modelos/Modelos.tpu ${DESTINO}/Archivo)
+configure_file(${ORIGEN}/modelos/Modelos.tpu ${DESTINO}/Archivo/SURTIDO.TPU COPYONLY)
+if(NOT EXISTS ${DESTINO}/Archivo/Modelos.tpu)
+  file(COPY ${ORIGEN}/modelos/Modelos.tpu DESTINATION ${DESTINO}/Archivo)
 endif()

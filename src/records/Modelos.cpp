@@ -14,7 +14,6 @@ namespace tessario {
 namespace {
 
 // Columns of a record, counted from 0. One byte is one character.
-constexpr std::size_t LARGO_REGISTRO = 126;
 constexpr std::size_t LARGO_NOMBRE = 25;
 constexpr std::size_t COLUMNA_PIEZAS = LARGO_NOMBRE;
 constexpr std::size_t LARGO_BLOQUE = 10;  // one piece: X 4, Y 4, Giro 1, Volteo 1
@@ -25,29 +24,21 @@ constexpr i32 MAX_MODELOS = 32767;        // ModeloActual holds no larger number
 constexpr i16 ULTIMO_GIRO = 7;
 constexpr const char* NOMBRE_FICHERO = "Modelos.tpu";
 
-std::string RegistroLibre() {
-    return std::string(LARGO_NOMBRE, ' ') + std::string(COLUMNA_FIN - LARGO_NOMBRE, '0') + "\r\n";
-}
-
 // Number of records in the file, a last one that is cut short included.
 i32 CuentaRegistros(std::string_view fichero) {
-    const std::size_t n = (fichero.size() + LARGO_REGISTRO - 1) / LARGO_REGISTRO;
+    const std::size_t n = (fichero.size() + LARGO_MODELO - 1) / LARGO_MODELO;
     return static_cast<i32>(std::min<std::size_t>(n, MAX_MODELOS));
 }
 
 // A record by its number, from 1. One that is missing, or cut short before the end of its pieces,
 // is a free one.
 std::string Registro(std::string_view fichero, i32 numero) {
-    if (numero < 1 || numero > CuentaRegistros(fichero)) return RegistroLibre();
-    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
-    std::string registro(fichero.substr(desde, LARGO_REGISTRO));
-    if (registro.size() < FIN_PIEZAS) return RegistroLibre();
-    registro += RegistroLibre().substr(registro.size());
+    if (numero < 1 || numero > CuentaRegistros(fichero)) return RegistroModeloLibre();
+    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_MODELO;
+    std::string registro(fichero.substr(desde, LARGO_MODELO));
+    if (registro.size() < FIN_PIEZAS) return RegistroModeloLibre();
+    registro += RegistroModeloLibre().substr(registro.size());
     return registro;
-}
-
-std::string_view Nombre(std::string_view registro) {
-    return registro.substr(0, LARGO_NOMBRE);
 }
 
 // A name in one byte for a character, with blanks for what cannot be seen.
@@ -56,11 +47,6 @@ std::string Visible(std::string_view nombre) {
     for (char& c : s)
         if (static_cast<unsigned char>(c) < ' ') c = ' ';
     return s;
-}
-
-// Blanks, and the zero bytes of a file that was extended without being written.
-bool EsLibre(std::string_view registro) {
-    return Nombre(registro).find_first_not_of(std::string_view(" \0", 2)) == std::string_view::npos;
 }
 
 // A field's number; a field that holds none, or one below 0, counts as 0.
@@ -103,13 +89,13 @@ bool LeeModelos(std::string& bytes) {
 // made whole first.
 void EscribeModelo(std::string bytes, i16 numero) {
     const i32 registros = CuentaRegistros(bytes);
-    if (bytes.size() % LARGO_REGISTRO != 0) {
+    if (bytes.size() % LARGO_MODELO != 0) {
         const std::string ultimo = Registro(bytes, registros);
-        bytes.replace(bytes.size() / LARGO_REGISTRO * LARGO_REGISTRO, LARGO_REGISTRO, ultimo);
+        bytes.replace(bytes.size() / LARGO_MODELO * LARGO_MODELO, LARGO_MODELO, ultimo);
     }
-    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_REGISTRO;
-    if (bytes.size() < desde + LARGO_REGISTRO) bytes.resize(desde + LARGO_REGISTRO, '0');
-    bytes.replace(desde, LARGO_REGISTRO, Gbl.RegistroModelo);
+    const auto desde = static_cast<std::size_t>(numero - 1) * LARGO_MODELO;
+    if (bytes.size() < desde + LARGO_MODELO) bytes.resize(desde + LARGO_MODELO, '0');
+    bytes.replace(desde, LARGO_MODELO, Gbl.RegistroModelo);
     const i16 error = EscribeFichero(FicheroModelos(), bytes);
     if (error != 0) PonErrorPendiente(error);
 }
@@ -118,7 +104,7 @@ void EscribeModelo(std::string bytes, i16 numero) {
 i16 BuscaHueco(std::string_view fichero) {
     const i32 registros = CuentaRegistros(fichero);
     i32 numero = 1;
-    while (numero <= registros && !EsLibre(Registro(fichero, numero))) ++numero;
+    while (numero <= registros && !ModeloLibre(Registro(fichero, numero))) ++numero;
     return Corto(numero);
 }
 
@@ -132,7 +118,7 @@ void MuevePiezas(i32 dx, i32 dy) {
 // Name and placements of the pieces as they stand.
 std::string RegistroDeLaMesa(const std::string& nombre) {
     const std::string columnas = Visible(A1252(Trim(nombre)).substr(0, LARGO_NOMBRE));
-    std::string registro = RegistroLibre();
+    std::string registro = RegistroModeloLibre();
     registro.replace(0, columnas.size(), columnas);
     for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
         const auto desde = COLUMNA_PIEZAS + LARGO_BLOQUE * static_cast<std::size_t>(i - 1);
@@ -142,6 +128,19 @@ std::string RegistroDeLaMesa(const std::string& nombre) {
 }
 
 }  // namespace
+
+std::string RegistroModeloLibre() {
+    return std::string(LARGO_NOMBRE, ' ') + std::string(COLUMNA_FIN - LARGO_NOMBRE, '0') + "\r\n";
+}
+
+std::string_view NombreModelo(std::string_view registro) {
+    return registro.substr(0, LARGO_NOMBRE);
+}
+
+bool ModeloLibre(std::string_view registro) {
+    return NombreModelo(registro).find_first_not_of(std::string_view(" \0", 2)) ==
+           std::string_view::npos;
+}
 
 std::string FicheroModelos() {
     return BuscaRuta(Gbl.CarpetaArchivo + NOMBRE_FICHERO);
@@ -153,7 +152,7 @@ void CargaListaModelos(Lista& lista) {
     if (!LeeModelos(bytes)) return;
     for (i32 numero = 1; numero <= CuentaRegistros(bytes); ++numero) {
         const std::string registro = Registro(bytes, numero);
-        if (!EsLibre(registro)) lista.AddItem(De1252(Visible(Nombre(registro))), numero);
+        if (!ModeloLibre(registro)) lista.AddItem(De1252(Visible(NombreModelo(registro))), numero);
     }
 }
 
@@ -161,7 +160,7 @@ void LeeModelo() {
     std::string bytes;
     LeeModelos(bytes);
     Gbl.RegistroModelo = Registro(bytes, Gbl.ModeloActual);
-    if (EsLibre(Gbl.RegistroModelo)) Gbl.RegistroModelo = RegistroLibre();
+    if (ModeloLibre(Gbl.RegistroModelo)) Gbl.RegistroModelo = RegistroModeloLibre();
     if (Gbl.Piezas.Superior() < PIEZAS_TANGRAM) Gbl.Piezas.Amplia(PIEZAS_TANGRAM);
     const std::string_view registro = Gbl.RegistroModelo;
     for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
@@ -193,7 +192,7 @@ void BorraModelo() {
     std::string bytes;
     if (!LeeModelos(bytes)) return;
     if (Gbl.ModeloActual < 1 || Gbl.ModeloActual > CuentaRegistros(bytes)) return;
-    Gbl.RegistroModelo = RegistroLibre();
+    Gbl.RegistroModelo = RegistroModeloLibre();
     EscribeModelo(bytes, Gbl.ModeloActual);
 }
 

@@ -2,10 +2,19 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/Controles.h"
 
 namespace tessario {
+
+// One record: columns 1 to 25 the name, 26 to 95 the pieces, 125 and 126 the end of the record. One
+// byte is one character.
+inline constexpr std::size_t LARGO_MODELO = 126;
+std::string RegistroModeloLibre();
+std::string_view NombreModelo(std::string_view registro);
+// Free: a name of blanks, or of the zero bytes of a file that was extended without being written.
+bool ModeloLibre(std::string_view registro);
 
 // Fills a list with the names, the record number as each item's data.
 void CargaListaModelos(Lista& lista);

@@ -14,6 +14,7 @@
 #include "panel/Desplazamiento.h"
 #include "panel/Sugerencias.h"
 #include "platform/Plataforma.h"
+#include "records/Surtido.h"
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
@@ -28,6 +29,9 @@ constexpr u32 ESPERA_SUGERENCIA = 15000;              // ms between two hints
 constexpr i32 BORDE_MESA = 2;                         // Mesa reaches out of the screen by that
 
 constexpr const char* FICHERO_SONDA = "CSCD.WRK";
+// The models as they came with the program, beside the player's own file.
+constexpr const char* FICHERO_SURTIDO = "SURTIDO.TPU";
+constexpr const char* TRASLADO_MODELOS = "Archivo/MODELOS.TPU";
 constexpr const char* CARPETA_TRABAJO = "Temp/Tsb/";
 
 // What moves to the working folder. Models lie in the folder of saved puzzles.
@@ -184,7 +188,10 @@ void PreparaCarpetas() {
     VeACarpeta(Gbl.CarpetaPrograma);
     Gbl.EnMedioSoloLectura = false;
     BorraError();
-    if (SePuedeEscribir(Gbl.CarpetaPrograma)) return;
+    if (SePuedeEscribir(Gbl.CarpetaPrograma)) {
+        ActualizaSurtido(Gbl.CarpetaArchivo + FICHERO_SURTIDO, Gbl.CarpetaArchivo);
+        return;
+    }
 
     Gbl.EnMedioSoloLectura = true;
     const std::string medio = Gbl.CarpetaPrograma;
@@ -196,6 +203,7 @@ void PreparaCarpetas() {
     // A second start finds the settings of the first and copies nothing over them.
     std::string bytes;
     if (LeeFichero(Gbl.CarpetaPrograma + TRASLADO[0].nombre, bytes) != 0) TrasladaAjustes(medio);
+    ActualizaSurtido(medio + TRASLADO_MODELOS, Gbl.CarpetaArchivo);
 }
 
 void Inicializa() {
