@@ -72,6 +72,15 @@ const Aviso SIN_IMAGENES{
     "puzzle.  Se va a mostrar una imagen vacía.",
     3, 1, 2115};
 
+const Aviso IMAGEN_PERDIDA{
+    "Imagen del puzzle",
+    "No se encuentra o no se puede leer la imagen  %1 .  Se va a crear un puzzle nuevo con los "
+    "valores establecidos por defecto.",
+    3,
+    1,
+    2115,
+    {"Constelaciones.bmp"}};
+
 const Aviso SIN_SOLUCION{
     "Configuración sin solución",
     "Este puzzle no tiene solución con la configuración de piezas actual.  Se va  a  barajar "
@@ -122,14 +131,18 @@ const Aviso ARCHIVO_GRABADORA{
 
 std::span<const Aviso* const> Avisos() {
     static constexpr const Aviso* TODOS[] = {
-        &aviso::RESOLUCION,        &aviso::MODO_NO_CAMBIA,   &aviso::MODO_CAMBIADO,
-        &aviso::MODO_REINICIO,     &aviso::MODO_FALLIDO,     &aviso::BIENVENIDA,
-        &aviso::SIN_CONFIGURACION, &aviso::SIN_AJUSTES,      &aviso::ERROR_CONFIGURACION,
-        &aviso::ERROR_AJUSTES,     &aviso::IMAGEN_NO_VALIDA, &aviso::SIN_IMAGENES,
-        &aviso::SIN_SOLUCION,      &aviso::YA_RESUELTO,      &aviso::RESUELTO,
-        &aviso::AL_HISTORICO,      &aviso::ERROR_HISTORICO,  &aviso::MEZCLA_TANGRAM,
-        &aviso::ORDEN_A_MANO,      &aviso::ORDEN_INSOLUBLE,  &aviso::SALIR,
-        &aviso::SALIR_GRABADORA,   &aviso::ARCHIVO_GRABADORA};
+        &aviso::RESOLUCION,          &aviso::MODO_NO_CAMBIA,
+        &aviso::MODO_CAMBIADO,       &aviso::MODO_REINICIO,
+        &aviso::MODO_FALLIDO,        &aviso::BIENVENIDA,
+        &aviso::SIN_CONFIGURACION,   &aviso::SIN_AJUSTES,
+        &aviso::ERROR_CONFIGURACION, &aviso::ERROR_AJUSTES,
+        &aviso::IMAGEN_NO_VALIDA,    &aviso::SIN_IMAGENES,
+        &aviso::IMAGEN_PERDIDA,      &aviso::SIN_SOLUCION,
+        &aviso::YA_RESUELTO,         &aviso::RESUELTO,
+        &aviso::AL_HISTORICO,        &aviso::ERROR_HISTORICO,
+        &aviso::MEZCLA_TANGRAM,      &aviso::ORDEN_A_MANO,
+        &aviso::ORDEN_INSOLUBLE,     &aviso::SALIR,
+        &aviso::SALIR_GRABADORA,     &aviso::ARCHIVO_GRABADORA};
     return TODOS;
 }
 

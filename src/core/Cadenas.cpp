@@ -116,4 +116,8 @@ bool LeeReal(std::string_view texto, double& valor) {
     return true;
 }
 
+std::string NombreDeRuta(std::string_view ruta) {
+    return std::string(ruta.substr(ruta.find_last_of("/\\") + 1));
+}
+
 }  // namespace tessario

@@ -26,4 +26,7 @@ std::string Minusculas(std::string_view texto);  // ASCII letters only
 bool LeeEntero(std::string_view texto, i32& valor);
 bool LeeReal(std::string_view texto, double& valor);  // point or comma as separator
 
+// The last part of a path, with slashes of either kind; the path itself when it has none.
+std::string NombreDeRuta(std::string_view ruta);
+
 }  // namespace tessario

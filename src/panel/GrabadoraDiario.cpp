@@ -28,8 +28,7 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
     const i16 piece = Gbl.OrdenPiezas[1];
     Gbl.NumMovimientos = Corto(Gbl.NumMovimientos + 1);
     if (Gbl.NumMovimientos >= Gbl.Movimientos.Superior())
-        Gbl.Movimientos.Amplia(std::max<i32>(Gbl.NumMovimientos, Gbl.Movimientos.Superior()) +
-                               AMPLIACION_REGISTRO);
+        Gbl.Movimientos.Amplia(Gbl.Movimientos.Superior() + AMPLIACION_REGISTRO);
     Movimiento m{piece,    XAntes,   YAntes,      GiroAntes,    VolteoAntes,
                  XDespues, YDespues, GiroDespues, VolteoDespues};
     if (Gbl.JuegoActual == JuegoDeslizantes)

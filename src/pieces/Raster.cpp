@@ -10,7 +10,6 @@ namespace tessario {
 
 namespace {
 
-constexpr Pixel BLANCO = 0xFFFFFF;
 constexpr i32 LADO = 4;  // of the squares by which a surface is turned, pixels
 
 // Four pixels side by side, wherever they stand in memory.
@@ -49,11 +48,12 @@ inline __attribute__((always_inline)) void EstampaFila(Pixel* mascara, Pixel* im
     estampa(n - a_la_vez);
 }
 
-// The same where the source has no pixels: the white ground shows through the mask.
-void EstampaFondo(Pixel* mascara, Pixel* imagen, const Pixel* molde, i32 n) {
+// The same where the source has no pixels: its ground goes on for ever, so that a piece of one
+// colour, such as those of the Tangram, has it wherever its place lies.
+void EstampaFondo(Pixel* mascara, Pixel* imagen, const Pixel* molde, Pixel fondo, i32 n) {
     for (i32 x = 0; x < n; ++x) {
         mascara[x] = molde[x];
-        imagen[x] = BLANCO & ~molde[x];
+        imagen[x] = fondo & ~molde[x];
     }
 }
 
@@ -69,17 +69,18 @@ inline __attribute__((always_inline)) void EstampaFilas(const VistaMascara& v,
               der = fuente.Vacio() ? w : fuente.Der - xo;
     const i32 arr = fuente.Vacio() ? h : fuente.Arr - yo,
               aba = fuente.Vacio() ? h : fuente.Aba - yo;
+    const Pixel fondo = PixelDe(origen.BackColor());
     Pixel* mascara = Pic_PiezaMascara.Fila(0);
     Pixel* imagen = Pic_PiezaImagen.Fila(0);
     const Pixel* molde = v.Origen->Fila(v.Y) + v.X;
     for (i32 y = 0; y < h; ++y, mascara += w, imagen += w, molde += paso) {
         const bool hay = y >= arr && y < aba;
         const i32 i = hay ? izq : w, d = hay ? der : w;
-        if (i > 0) EstampaFondo(mascara, imagen, molde, i);
+        if (i > 0) EstampaFondo(mascara, imagen, molde, fondo, i);
         if (hay)
             EstampaFila<Grupo>(mascara + i, imagen + i, molde + i, origen.Fila(yo + y) + fuente.Izq,
                                d - i);
-        if (d < w) EstampaFondo(mascara + d, imagen + d, molde + d, w - d);
+        if (d < w) EstampaFondo(mascara + d, imagen + d, molde + d, fondo, w - d);
     }
 }
 

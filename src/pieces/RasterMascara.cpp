@@ -9,7 +9,7 @@ namespace tessario {
 
 namespace {
 
-constexpr Color NEGRO = 0;
+constexpr Color NEGRO = 0, BLANCO = 0xFFFFFF;
 constexpr i16 PRIMERA_DOBLE = 4;   // shapes from here on have an inner figure and a frame
 constexpr i16 CORTE_ESQUINA = 30;  // share of a sliding piece's side that its corners lose
 
@@ -53,6 +53,15 @@ void EnderezaHorizontal(Superficie& s, bool lejos) {
                                            : (lejos ? n + h - w * p.hondo : n + w * p.hondo);
         Rellena(s, m + w * p.alLargo, dentro);
     }
+}
+
+// The lines that straighten two sides reach a pixel beyond the cell: at the right and the bottom
+// edge of the picture that pixel would show what lies outside it.
+void BorraFuera(Superficie& s, const BordesPieza& b) {
+    const i32 x = Gbl.SalienteX + Gbl.AnchoCelda, y = Gbl.SalienteY + Gbl.AltoCelda;
+    constexpr int recta = pluma::Desde | pluma::ConColor;
+    if (b.Der) s.Line(recta, x, 0, x, Gbl.AltoPieza - 1, BLANCO);
+    if (b.Aba) s.Line(recta, 0, y, Gbl.AnchoPieza - 1, y, BLANCO);
 }
 
 // Shape 3. Deliberate: the top and the side triangles are a little smaller than the bottom one;
@@ -131,6 +140,7 @@ void DibujaDePlantilla(Superficie& s, i32 x, const BordesPieza& b) {
     if (b.Der) EnderezaVertical(s, true);
     if (b.Arr) EnderezaHorizontal(s, false);
     if (b.Aba) EnderezaHorizontal(s, true);
+    BorraFuera(s, b);
 }
 
 void DibujaFigura(Superficie& s, i32 clase) {

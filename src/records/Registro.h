@@ -24,9 +24,7 @@ void LeeMovimientos(const std::string& linea);
 void AdaptaTablero();
 
 // Does the state that was read hold together: the counts agree with the settings, the stacking
-// order is a permutation, the moves name pieces, the sliding pieces stand and belong on cells of
-// their own?
-// Needs the sizes.
+// order is a permutation? Needs the sizes.
 bool RegistroCoherente();
 
 }  // namespace tessario

@@ -150,7 +150,7 @@ std::string Entrecomilla(std::string_view texto) {
     std::string linea = "\"";
     for (const char c : texto) {
         if (c == '"') linea += c;
-        linea += c;
+        linea += c == '\n' ? '\0' : c;
     }
     return linea + "\"";
 }
@@ -164,7 +164,7 @@ std::string DeComillas(std::string_view linea) {
             if (i + 1 == linea.size() || linea[i + 1] != '"') break;
             ++i;
         }
-        texto += linea[i];
+        texto += linea[i] == '\0' ? '\n' : linea[i];
     }
     return texto;
 }

@@ -14,7 +14,8 @@ std::string A1252(std::string_view utf8);  // a character that has no code becom
 std::string De1252(std::string_view bytes);
 
 // A quoted line: the text in double quotes, quotes inside doubled. `De` gives back the text of
-// the first quoted item, or the line itself when it has no quotes.
+// the first quoted item, or the line itself when it has no quotes. A line feed, which the name of a
+// file or folder may hold, would split the line: it is written as a byte 0, which no name holds.
 std::string Entrecomilla(std::string_view texto);
 std::string DeComillas(std::string_view linea);
 

@@ -56,6 +56,13 @@ void MideMoviles() {
     Gbl.MargenX = Gbl.MargenY = 0;
 }
 
+// Left edge of the strip on a table without scroll bars. Those of the game that is being left may
+// still stand, with the strip beside them; the sliding board, which never scrolls, is centred in
+// the room that it will have.
+i32 TiraSinBarras() {
+    return Pic_Botonera.Left + (BarraVer.Visible ? BarraVer.Width() : 0);
+}
+
 void MideDeslizantes() {
     const double lado = Gbl.PiezasPorLado;
     const i32 libre = Gbl.AltoPantalla - FRANJA_DESLIZANTES;
@@ -68,7 +75,7 @@ void MideDeslizantes() {
     Sigue([] { Gbl.AltoPuzzle = Corto(Gbl.AltoCelda * Gbl.PiezasPorLado); });
     Gbl.AnchoPuzzle = Gbl.AltoPuzzle;
     Sigue([&] { Gbl.MargenY = Corto((libre - Gbl.AltoPuzzle) / 2); });
-    Sigue([] { Gbl.MargenX = Corto((Pic_Botonera.Left - Gbl.AnchoPuzzle) / 2); });
+    Sigue([] { Gbl.MargenX = Corto((TiraSinBarras() - Gbl.AnchoPuzzle) / 2); });
 }
 
 void LlenaTablasTangram() {

@@ -85,6 +85,13 @@ i16 PiezasPorDefecto() {
     }
 }
 
+// A record that names a picture that is gone or cannot be read. Laying a record, only the picture
+// gives these numbers.
+void AvisaImagenPerdida(i16 numero) {
+    for (const i16 deImagen : {ERROR_FICHERO, ERROR_ACCESO, ERROR_IMAGEN})
+        if (numero == deImagen) Avisa(aviso::IMAGEN_PERDIDA, {NombreDeRuta(Gbl.RutaImagen)});
+}
+
 void AjustesPorDefecto() {
     Gbl.NombreJugador = "MiNombre";
     Gbl.ColorFondo = 0x800000;
@@ -114,6 +121,9 @@ void MesaPorDefecto() {
         Llama([] { EligeImagenProvisional(); });
         return;
     }
+    // A path that leads nowhere, kept, would bring the defaults again at every start.
+    Gbl.RutaImagen = " ";
+    Gbl.FicheroImagen.clear();
     Llama([] { PreparaJuego(true); });
     Llama([] { ColocaPiezas(1); });
 }
@@ -192,6 +202,7 @@ void LeeAjustesJuego(const std::string& Fichero) {
         Sigue([&] { LeePuzzle(bytes); });
     if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) return;
 
+    if (Gbl.ErrorApertura == 0) AvisaImagenPerdida(ErrorPendiente());
     // A damaged file of a game is replaced by that game's defaults, whatever game it names.
     if (propio) Gbl.JuegoActual = juego;
     BorraError();

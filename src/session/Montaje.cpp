@@ -9,6 +9,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Grabadora.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
@@ -18,6 +19,7 @@
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "session/Reparacion.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {
@@ -39,16 +41,19 @@ bool SinFichero() {
     return Gbl.RutaImagen == " ";
 }
 
-// The image file of the record: at its path, or, when the path was written on another system, by
-// its name among the program's pictures.
+bool Existe(const std::string& ruta) {
+    std::error_code e;
+    return std::filesystem::exists(ruta, e);
+}
+
+// The image file of the record: at its path, or, when it is gone from there, by its name among the
+// program's pictures. The record keeps its own path: the file may come back.
 std::string RutaDeImagen() {
     const std::string ruta = BuscaRuta(Gbl.RutaImagen);
-    const std::size_t barra = Gbl.RutaImagen.find_last_of('\\');
-    if (ruta != Gbl.RutaImagen || barra == std::string::npos) return ruta;
-    const std::string propia = Gbl.CarpetaImagenes + Gbl.RutaImagen.substr(barra + 1);
-    const std::string hallada = BuscaRuta(propia);
-    std::error_code e;
-    return std::filesystem::exists(hallada, e) ? hallada : ruta;
+    if (Existe(ruta)) return ruta;
+    const std::string nombre = NombreDeRuta(Gbl.RutaImagen);
+    const std::string hallada = BuscaRuta(Gbl.CarpetaImagenes + nombre);
+    return !nombre.empty() && Existe(hallada) ? hallada : ruta;
 }
 
 void CargaImagenReal() {
@@ -93,7 +98,10 @@ void RechazaImagen(const Punto& t) {
 void MontaMesa(i16 modo) {
     Gbl.ImagenValida = true;
     Llama([] { PreparaJuego(false); });
-    if (!Gbl.ColoresCambiados) Llama([modo] { ColocaPiezas(modo); });
+    ReparaTerminado();
+    if (Gbl.ColoresCambiados) return;
+    Llama([modo] { ColocaPiezas(modo); });
+    if (Gbl.PuzzleTerminado) Llama([] { EntraEnCompleto(); });
 }
 
 // Games 21 and 23 have their own tables; this is the picture, then the table, of 21 and 22.
@@ -169,12 +177,6 @@ std::string Contenido(const std::vector<std::string>& lineas, std::size_t i) {
     return {};
 }
 
-void Repara() {
-    if (Gbl.FactorAtraccion < 0 || Gbl.FactorAtraccion > 100) Gbl.FactorAtraccion = 20;
-    if (Gbl.ModoJuego < MODO_CREAR || Gbl.ModoJuego > MODO_RESOLVER) Gbl.ModoJuego = MODO_CREAR;
-    if (Gbl.TipoFondo < FONDO_IMAGEN || Gbl.TipoFondo > FONDO_LETRAS) Gbl.TipoFondo = FONDO_NUMEROS;
-}
-
 bool LeeEstado(const std::vector<std::string>& lineas) {
     LeeRutas(lineas);
     LeeRegistro(Contenido(lineas, LIN_REGISTRO));
@@ -186,9 +188,10 @@ bool LeeEstado(const std::vector<std::string>& lineas) {
         Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas);
     });
     CalculaColores();
-    Repara();
+    ReparaAjustes();
     CalculaTamanos();
     AdaptaTablero();
+    Sigue([] { ReparaPiezas(); });
     return Gbl.NumPiezas == leidas && RegistroCoherente();
 }
 

@@ -50,6 +50,12 @@ bool MedidasPosibles() {
            Gbl.Piezas.Superior() >= Gbl.NumPiezas;
 }
 
+// The corner of a cell of the board, by its number.
+void PonEnCelda(i32 celda, i16& x, i16& y) {
+    x = Corto(Gbl.MargenX + (celda - 1) % Gbl.PiezasPorLado * Gbl.AnchoCelda);
+    y = Corto(Gbl.MargenY + (celda - 1) / Gbl.PiezasPorLado * Gbl.AltoCelda);
+}
+
 // What stands in each cell, from 1: the piece number or MARCA_HUECO. False when two share a cell
 // or one stands off the board.
 bool LlenaCeldas(Arreglo<i16>& T) {
@@ -143,6 +149,20 @@ bool TableroEntero() {
     for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
         if (!SobreUnSitio(Gbl.Piezas[i].X, Gbl.Piezas[i].Y)) return false;
     return SobreUnSitio(Gbl.HuecoX, Gbl.HuecoY);
+}
+
+void AsientaTablero() {
+    if (!MedidasPosibles()) return;
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
+        Pieza& p = Gbl.Piezas[i];
+        PonEnCelda(i, p.XBien, p.YBien);
+    }
+    if (!CeldasEnRegla()) return;
+    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
+        Pieza& p = Gbl.Piezas[i];
+        PonEnCelda(NumeroDe(CasillaDe(p)), p.X, p.Y);
+    }
+    PonEnCelda(NumeroDe(CasillaDe(Gbl.HuecoX, Gbl.HuecoY)), Gbl.HuecoX, Gbl.HuecoY);
 }
 
 void DisponeTablero() {

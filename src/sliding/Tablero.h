@@ -29,6 +29,9 @@ bool CeldasEnRegla();
 // Do the pieces and the hole stand on the homes, one each, and each home in its own cell? Only a
 // damaged record gives a board of which this is not true.
 bool TableroEntero();
+// Gives every piece its own cell as its home, and, when pieces and hole stand on one cell each,
+// moves them exactly onto those. For boards from a record; a whole board is left as it is.
+void AsientaTablero();
 // A new board: the pieces at home, the hole in the last cell, the stacking order by number.
 void DisponeTablero();
 // Swaps pieces at random until the position is solvable; the hole stays. A damaged board is laid

@@ -21,8 +21,9 @@ namespace {
 constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11;
 constexpr i16 SONIDO_SUELTA = 52;
 constexpr i16 FORMA_TRIANGULOS = 3;
-constexpr i32 PASADAS_ORDEN = 4;        // shuffles of the stacking order
-constexpr i32 SEPARACION_TANGRAM = 20;  // pixels between the Tangram's column and the strip
+constexpr i32 PASADAS_ORDEN = 4;         // shuffles of the stacking order
+constexpr i32 RECHAZOS_MAXIMOS = 10000;  // places refused to one piece of the jigsaw
+constexpr i32 SEPARACION_TANGRAM = 20;   // pixels between the Tangram's column and the strip
 
 // ---------------------------------------------------------------- deal
 void BarajaTangram() {
@@ -53,14 +54,17 @@ bool QuedaTapada(i32 x, i32 y) {
            Pic_Sugerencia.Top + BarraVer.Value - mediaY < y;
 }
 
+// Draws a free place. A record can describe a table that has none: then the place drawn last is
+// taken.
 void ReparteMoviles(Pieza& p) {
-    for (;;) {
+    for (i32 rechazos = 0;; ++rechazos) {
         const i32 x = static_cast<i32>(Int(Rnd() * (Pic_Trabajo.Width() - Gbl.AnchoCelda) + 1));
         const i32 y = static_cast<i32>(Int(Rnd() * (Pic_Trabajo.Height() - Gbl.AltoCelda) + 1));
         const i16 giro = Gbl.PermitirGiro ? static_cast<i16>(Int(Rnd() * 4)) : i16{0};
-        if (!NoCruza(x, Gbl.AnchoCelda, Gbl.SalienteX, Gbl.AnchoPuzzle) ||
-            !NoCruza(y, Gbl.AltoCelda, Gbl.SalienteY, Gbl.AltoPuzzle) || QuedaTapada(x, y))
-            continue;
+        const bool libre = NoCruza(x, Gbl.AnchoCelda, Gbl.SalienteX, Gbl.AnchoPuzzle) &&
+                           NoCruza(y, Gbl.AltoCelda, Gbl.SalienteY, Gbl.AltoPuzzle) &&
+                           !QuedaTapada(x, y);
+        if (!libre && rechazos < RECHAZOS_MAXIMOS) continue;
         p.X = Corto(x);
         p.Y = Corto(y);
         p.Giro = giro;

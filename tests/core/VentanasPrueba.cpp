@@ -222,7 +222,7 @@ TEST_F(VentanasNucleo, ValuesStandInTheirPlaces) {
 }
 
 TEST_F(VentanasNucleo, EveryFixedMessageHasItsWords) {
-    EXPECT_EQ(Avisos().size(), 23U);
+    EXPECT_EQ(Avisos().size(), 24U);
     for (const Aviso* a : Avisos()) {
         EXPECT_FALSE(a->titulo.empty());
         EXPECT_FALSE(a->texto.empty());

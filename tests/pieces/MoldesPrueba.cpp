@@ -78,6 +78,12 @@ void Entrelazada(Superficie& s, const Pieza& z) {
     if (columna == ultima) Lado(s, true, true);
     if (fila == 0) Lado(s, false, false);
     if (fila == ultima) Lado(s, false, true);
+    // Nothing of a piece lies outside the picture.
+    for (i32 y = 0; y < Gbl.AltoPieza; ++y)
+        for (i32 x = 0; x < Gbl.AnchoPieza; ++x)
+            if (z.XBien - Gbl.SalienteX + x >= Gbl.AnchoPuzzle ||
+                z.YBien - Gbl.SalienteY + y >= Gbl.AltoPuzzle)
+                s.PSet(x, y, 0xFFFFFF);
 }
 
 // The mask of an unturned jigsaw piece.

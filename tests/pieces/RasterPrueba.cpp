@@ -205,6 +205,23 @@ TEST_F(RasterPiezas, ShowingThePlacedPiecesReplacesThePictureByAFlatColour) {
             ASSERT_EQ(Pic_PiezaImagen.Fila(y)[x], Negro(x, y) ? 0xFF0000U : 0U);
 }
 
+TEST_F(RasterPiezas, TangramPieceHasItsColourWhereverItsPlaceLies) {
+    Tangram(false);
+    // Places of a tall or spread figure: a turned piece's box passes the table's edges.
+    for (const Punto sitio : {Punto{700, 100}, {100, 560}, {790, 590}, {900, 100}, {-40, -30}}) {
+        Gbl.Piezas[1].XBien = static_cast<i16>(sitio.x);
+        Gbl.Piezas[1].YBien = static_cast<i16>(sitio.y);
+        for (i16 giro = 0; giro < 8; ++giro) {
+            Gbl.Piezas[1].Giro = giro;
+            PreparaPieza(1);
+            for (i32 y = 0; y < Pic_PiezaImagen.Height(); ++y)
+                for (i32 x = 0; x < Pic_PiezaImagen.Width(); ++x)
+                    ASSERT_EQ(Pic_PiezaImagen.Fila(y)[x], Negro(x, y) ? PixelDe(0x123456) : 0U)
+                        << sitio.x << ' ' << sitio.y << ' ' << giro;
+        }
+    }
+}
+
 TEST_F(RasterPiezas, TangramFaceHasAnOutlineOnlyWithBorders) {
     Tangram(true);
     Pic_PiezaImagen.ForeColor = 0xFFFFFF;

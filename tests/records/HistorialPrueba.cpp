@@ -34,6 +34,15 @@ TEST_F(Historial, LineHoldsTheTwentyThreeItemsInOrder) {
     EXPECT_EQ(LineaHistorico(), esperada);
 }
 
+TEST_F(Historial, NameWithALineFeedKeepsItsLineWhole) {
+    Gbl.FicheroImagen = "la\ngo.jpg";
+    Gbl.CarpetaImagen = "/fo\r\ntos/";
+    EXPECT_EQ(EntraEnHistorico(), 0);
+    const std::string linea = Contenido("TESSA33.his");
+    EXPECT_EQ(linea.find('\n'), linea.size() - 1);
+    EXPECT_NE(linea.find(std::string("\"la\0go.jpg\"", 11)), std::string::npos);
+}
+
 TEST_F(Historial, MissingFileIsCreatedWithOneLine) {
     EXPECT_EQ(EntraEnHistorico(), 0);
     EXPECT_EQ(Contenido("TESSA33.his"), esperada + "\r\n");

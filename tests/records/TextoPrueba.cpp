@@ -93,6 +93,17 @@ TEST_F(Textos, QuotesInsideAreDoubledAndComeBack) {
         EXPECT_EQ(DeComillas(Entrecomilla(t)), t);
 }
 
+TEST_F(Textos, LineFeedInANameDoesNotSplitItsLine) {
+    for (const char* t : {"\n", "mar\nsol.bmp", "mar\r\nsol\r", "\n\"\n"}) {
+        const std::string linea = Entrecomilla(t);
+        EXPECT_EQ(linea.find('\n'), std::string::npos);
+        EXPECT_EQ(DeComillas(linea), t);
+        const std::vector<std::string> lineas = Lineas(linea + "\r\n\"otra\"\r\n");
+        ASSERT_EQ(lineas.size(), 2U);
+        EXPECT_EQ(DeComillas(lineas[0]), t);
+    }
+}
+
 TEST_F(Textos, FirstQuotedItemOfALine) {
     EXPECT_EQ(DeComillas("\"uno\",\"dos\""), "uno");
     EXPECT_EQ(DeComillas("  \"uno\" "), "uno");

@@ -142,6 +142,17 @@ TEST_F(Barajado, RefusedCandidatesAreDrawnAnewInPlaceOfTheirPiece) {
         EXPECT_EQ(Gbl.OrdenPiezas[i], orden[static_cast<std::size_t>(i - 1)]);
 }
 
+TEST_F(Barajado, DealEndsOnATableWithoutAFreePlace) {
+    // One piece as large as the picture: wherever it is put on the table, it crosses both edges.
+    Moviles(1, 1024, 768);
+    EXPECT_EQ(Gbl.NumPiezas, 1);
+    const Pieza& p = Gbl.Piezas[1];
+    EXPECT_GE(p.X, 1);
+    EXPECT_LE(p.X, Pic_Trabajo.Width() - Gbl.AnchoCelda);
+    EXPECT_GE(p.Y, 1);
+    EXPECT_LE(p.Y, Pic_Trabajo.Height() - Gbl.AltoCelda);
+}
+
 TEST_F(Barajado, HintPanelKeepsPiecesAway) {
     Gbl.VentanaInformacion = true;
     Moviles(8, 480, 360);
