@@ -176,4 +176,18 @@ TEST_F(Composicion, PaintShowsTheWholeTableAlsoWhenItCopiesAPart) {
     EXPECT_TRUE(Pic_Trabajo.Sucio().Vacio()) << "nothing changed, nothing is copied";
 }
 
+TEST_F(Composicion, APieceTakenFromAPileMovesWithItsOwnPixels) {
+    Nueve();
+    // 1 lies on 5 and 9, whose pixels are made anew when it is lifted.
+    Coloca(9, 340, 260);
+    Coloca(5, 360, 250);
+    Coloca(1, 350, 240);
+    PintaTodo();
+    TomaPieza(400, 300, 1);
+    MuevePieza(500, 400, 1);
+    EXPECT_EQ(Pic_Trabajo.Fila(340 + 40)[450 + 50], PixelDeMuestra(50, 40));
+    EXPECT_EQ(Pic_Trabajo.Fila(340)[450], PixelDeMuestra(0, 0));
+    EXPECT_EQ(Pic_Trabajo.Fila(270)[370], PixelDeMuestra(110, 100)) << "what lay below";
+}
+
 }  // namespace tessario
