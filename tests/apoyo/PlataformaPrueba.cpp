@@ -113,6 +113,7 @@ i32 PlataformaPrueba::AltoTexto(const Fuente& f) {
 
 void PlataformaPrueba::PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto,
                                   const Fuente& f, Color color) {
+    if (anotaTextos) textos.push_back({&s, x, y, std::string(texto), color});
     // One box for each character that is not a blank, a pixel free all around.
     const i32 w = AnchoCaracter(f);
     const i32 h = AltoTexto(f);

@@ -48,6 +48,14 @@ public:
     };
     std::vector<Aviso> avisos;                  // messages shown, oldest first
     std::vector<std::pair<i16, bool>> sonidos;  // number, asynchronous
+    struct TextoPintado {
+        const Superficie* donde;
+        i32 x, y;
+        std::string texto;
+        Color color;
+    };
+    std::vector<TextoPintado> textos;  // all text painted, noted while anotaTextos
+    bool anotaTextos = false;
     std::vector<i32> ayudas;
     std::vector<std::string> mostradas;     // windows shown, by name
     std::map<std::string, Mapa> guardadas;  // pictures saved

@@ -139,7 +139,7 @@ TEST_F(Jugadas, MiddleButtonTakesNothingTurnsNothingAndOpensNoOptions) {
     EXPECT_EQ(Gbl.Piezas[4], antes);
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
-    Puntero.Pulsa(600, 560, 4);  // the empty table
+    Puntero.Pulsa(300, 420, 4);  // the empty table
     EXPECT_FALSE(Pic_SelOpciones.Visible);
 }
 

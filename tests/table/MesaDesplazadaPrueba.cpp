@@ -242,7 +242,7 @@ TEST_F(MesaDesplazada, DropsFollowTheRuleOfTheViewOnManyTables) {
 
 TEST_F(MesaDesplazada, DealKeepsClearOfStripAndHintPanelWhereTheyStandOnTheScrolledTable) {
     PorCasos(6, [&](Azar& azar) {
-        Monta(static_cast<i16>(azar.Entre(4, 6)), azar.Entre(600, 800), azar.Entre(450, 600),
+        Monta(static_cast<i16>(azar.Entre(6, 9)), azar.Entre(600, 800), azar.Entre(450, 600),
               static_cast<i16>(azar.Entre(0, 3)), azar.Entre(0, 300), azar.Entre(40, 250),
               azar.Moneda());
         Gbl.PermitirGiro = azar.Moneda();
