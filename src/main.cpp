@@ -1,5 +1,6 @@
 // The program: makes the platform on the real window system and hands over to the game.
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <cstdio>
 
@@ -36,6 +37,8 @@ int main(int argc, char** argv) {
     // Whole factors only: a picture box's pixel is a square of the screen's pixels.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+    // A damaged picture is told in the game, not on the terminal.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
     int sinArgumentos = 1;
     Q_UNUSED(argc)
     QApplication aplicacion(sinArgumentos, argv);

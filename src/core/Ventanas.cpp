@@ -40,7 +40,7 @@ constexpr i32 MargenBoton = 15, LadoBoton = 48, EntreBotones = 15;
 struct BotonMensaje {
     Cuadro* cuadro;
     const char* nombre;
-    const char* accesible;
+    const char* palabra;  // its tooltip, which is also its accessible name
     i32 tesela;
     i32 izquierda;
 };
@@ -50,7 +50,7 @@ const BotonMensaje BOTONES[] = {
     {&Pic_Si, "Pic_Si", "Aceptar", 0, DERECHA - lugar::LadoBoton - lugar::EntreBotones},
     {&Pic_No, "Pic_No", "Cancelar", 1, DERECHA},
     {&Pic_BotAyudaMensaje, "Pic_BotAyuda", "Ayuda", 6, lugar::MargenBoton},
-    {&Pic_BotSalirMensaje, "Pic_BotSalir", "Cerrar", 7, DERECHA},
+    {&Pic_BotSalirMensaje, "Pic_BotSalir", "Aceptar", 0, DERECHA},
 };
 
 // Screen size in use; a message may come before it was measured.
@@ -191,7 +191,7 @@ void ReiniciaVentanas() {
     for (const BotonMensaje& b : BOTONES) {
         *b.cuadro = Cuadro{};
         b.cuadro->Nombre = b.nombre;
-        b.cuadro->NombreAccesible = b.accesible;
+        b.cuadro->ToolTipText = b.palabra;
         b.cuadro->Visible = false;
         Mensajes.Controles.push_back(b.cuadro);
     }

@@ -134,7 +134,7 @@ constexpr i32 LADO_CERRAR = 19, MARGEN_CERRAR = 6, ARRIBA_CERRAR = 2;
 constexpr Punto ORIGEN_CERRAR = {234, 30};  // in Pic_BmpVario
 constexpr i32 LINEA_X = 3, LINEA_Y = 13, LINEA_PASO = 11;
 constexpr Color FONDO_PANEL = 0xD8EEF8, BORDE_PANEL = 0x406890, TEXTO_PANEL = 0xFF0000;
-const Fuente LETRA_PANEL{Familia::Mono, 12, false, false};
+const Fuente LETRA_PANEL{Familia::Sans, 11, false, false};  // its tails end above the next line
 const Fuente LETRA_ENLACE{Familia::Sans, 11, false, true};
 
 // The two small pictures inside the panel: the link and the close button.

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::size_t ANCHOS_GUARDADOS = 4096;  // widths kept for one font before a fresh start
 constexpr i16 LETRA_MINIMA = 9;                 // pixels; nothing is set smaller to fit
+constexpr i32 CASI_LLENO = 85;                  // percent of the width from which a line is full
+constexpr i32 ENSANCHE_MAXIMO = 3;              // a blank grows by at most so many of its own width
 constexpr i32 REBORDE = 3;                      // glyphs may reach out of their box by so much
 
 QString Qs(std::string_view t) {
@@ -22,31 +24,44 @@ QRegion RegionQt(const Region& r) {
     return q;
 }
 
-// Cuts one paragraph; a word wider than the line is cut within.
+// The paragraph with its runs of blanks folded, those at its beginning kept.
+QString Pliega(const QString& p) {
+    qsizetype sangria = 0;
+    while (sangria < p.size() && p[sangria] == u' ') ++sangria;
+    return p.left(sangria) + p.mid(sangria).simplified();
+}
+
+// Where the line that begins at `inicio` ends: after the last word that fits, its blank not
+// counted; a word wider than the line is cut within.
+qsizetype FinDeRenglon(const QString& p, qsizetype inicio, const QFontMetrics& m, i32 ancho) {
+    const auto cabe = [&](qsizetype fin) {
+        return m.horizontalAdvance(p.mid(inicio, fin - inicio)) <= ancho;
+    };
+    qsizetype corte = inicio;
+    for (qsizetype i = inicio; i < p.size();) {
+        while (i < p.size() && p[i] == u' ') ++i;
+        while (i < p.size() && p[i] != u' ')
+            if (p[i++] == u'/') break;
+        if (!cabe(i)) break;
+        corte = i;
+    }
+    if (corte > inicio) return corte;
+    corte = inicio + 1;
+    while (corte < p.size() && cabe(corte + 1)) ++corte;
+    return corte;
+}
+
+// Cuts one paragraph; its last line is left as it is.
 void CortaParrafo(const QString& p, const QFontMetrics& m, i32 ancho,
-                  std::vector<QString>& salida) {
+                  std::vector<Renglon>& salida) {
     qsizetype inicio = 0;
     do {
-        qsizetype corte = inicio;  // end of the last word that fits
-        qsizetype i = inicio;
-        while (i < p.size()) {
-            qsizetype fin = i;
-            while (fin < p.size() && p[fin] == u' ') ++fin;
-            while (fin < p.size() && p[fin] != u' ')
-                if (p[fin++] == u'/') break;
-            if (m.horizontalAdvance(p.mid(inicio, fin - inicio)) > ancho) break;
-            corte = i = fin;
-        }
-        if (corte == inicio && i < p.size()) {
-            corte = inicio + 1;
-            while (corte < p.size() &&
-                   m.horizontalAdvance(p.mid(inicio, corte + 1 - inicio)) <= ancho)
-                ++corte;
-        }
-        salida.push_back(p.mid(inicio, corte - inicio));
-        inicio = corte;
+        const qsizetype fin = FinDeRenglon(p, inicio, m, ancho);
+        salida.push_back({p.mid(inicio, fin - inicio), true});
+        inicio = fin;
         while (inicio < p.size() && p[inicio] == u' ') ++inicio;
     } while (inicio < p.size());
+    salida.back().lleno = false;
 }
 
 }  // namespace
@@ -121,14 +136,41 @@ void Textos::Pinta(Superficie& s, i32 x, i32 y, std::string_view texto, const Fu
     s.Marca(caja);
 }
 
-std::vector<QString> Textos::Renglones(const Fuente& f, std::string_view texto, i32 ancho) {
+std::vector<Renglon> Textos::Renglones(const Fuente& f, std::string_view texto, i32 ancho) {
     QString t = Qs(texto);
     t.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     t.replace(u'\r', u'\n');
-    std::vector<QString> salida;
-    for (const QString& parrafo : t.split(u'\n'))
-        CortaParrafo(parrafo, Entrada(f).medida, ancho, salida);
+    const QFontMetrics& m = Entrada(f).medida;
+    std::vector<Renglon> salida;
+    const QStringList parrafos = t.split(u'\n');
+    for (const QString& parrafo : parrafos) {
+        CortaParrafo(Pliega(parrafo), m, ancho, salida);
+        Renglon& ultimo = salida.back();
+        ultimo.lleno = &parrafo != &parrafos.back() &&
+                       m.horizontalAdvance(ultimo.texto) * 100 >= ancho * CASI_LLENO;
+    }
     return salida;
+}
+
+void Textos::PintaRenglon(QPainter& p, const Fuente& f, const Renglon& r, i32 y, i32 ancho,
+                          bool centrado) {
+    const QFontMetrics& m = Entrada(f).medida;
+    const i32 base = y + m.ascent(), sobra = ancho - m.horizontalAdvance(r.texto);
+    const QStringList palabras = r.texto.split(u' ', Qt::SkipEmptyParts);
+    const auto huecos = static_cast<i32>(palabras.size()) - 1;
+    const i32 blanco = m.horizontalAdvance(u' ');
+    if (!r.lleno || huecos < 1 || sobra <= 0 || sobra > huecos * blanco * ENSANCHE_MAXIMO) {
+        p.drawText(centrado ? sobra / 2 : 0, base, r.texto);
+        return;
+    }
+    i32 x = 0;
+    while (r.texto[x] == u' ') ++x;
+    x *= blanco;
+    for (i32 i = 0; i <= huecos; ++i) {
+        // Each word stands where the widths so far and its share of the rest bring it.
+        p.drawText(x + sobra * i / huecos, base, palabras[i]);
+        x += m.horizontalAdvance(palabras[i]) + blanco;
+    }
 }
 
 i32 Textos::AltoBloque(const Fuente& f, std::size_t renglones) {

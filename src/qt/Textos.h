@@ -13,9 +13,17 @@
 
 #include "platform/Superficie.h"
 
+class QPainter;
+
 namespace tessario {
 
 QFont FuenteQt(const Fuente& f);
+
+// One line of a block. A full one is set to the block's whole width, its blanks widened.
+struct Renglon {
+    QString texto;
+    bool lleno = false;
+};
 
 class Textos {
 public:
@@ -28,10 +36,14 @@ public:
     const QFontMetrics& Medida(const Fuente& f) { return Entrada(f).medida; }
     // Height from one line of a block to the next.
     static i32 Interlinea(const Fuente& f) { return f.Tamano + 3; }
-    // The text cut into lines no wider than `ancho`. Runs of blanks are kept within a line and at
-    // its beginning after a line end; those at which a line is broken stay on the line that ends.
-    // A path is broken after a slash.
-    std::vector<QString> Renglones(const Fuente& f, std::string_view texto, i32 ancho);
+    // The text cut into lines no wider than `ancho`. A run of blanks inside a line counts as one,
+    // those at the beginning of a paragraph are kept, those at a break go. Full are the lines at
+    // whose end the text was broken, and a paragraph's last line that nearly fills the width while
+    // another paragraph follows. A path is broken after a slash.
+    std::vector<Renglon> Renglones(const Fuente& f, std::string_view texto, i32 ancho);
+    // Paints one line with its top at y; a full one from edge to edge.
+    void PintaRenglon(QPainter& p, const Fuente& f, const Renglon& r, i32 y, i32 ancho,
+                      bool centrado);
     // The letter of a block: `f`, or smaller when the lines would run out of the block's height.
     Fuente QueCabe(const Fuente& f, std::string_view texto, i32 ancho, i32 alto);
     i32 AltoBloque(const Fuente& f, std::size_t renglones);

@@ -88,11 +88,9 @@ void VistaEtiqueta::paintEvent(QPaintEvent*) {
     Textos& textos = anfitrion().textos();
     p.setFont(textos.Letra(letra_));
     p.setPen(QColor::fromRgb(PixelDe(tinta_)));
-    const QFontMetrics& m = textos.Medida(letra_);
-    int y = m.ascent();
-    for (const QString& r : renglones_) {
-        const int x = centrada_ ? (width() - m.horizontalAdvance(r)) / 2 : 0;
-        p.drawText(x, y, r);
+    i32 y = 0;
+    for (const Renglon& r : renglones_) {
+        textos.PintaRenglon(p, letra_, r, y, width(), centrada_);
         y += Textos::Interlinea(letra_);
     }
     PintaAnillo(p, rect());

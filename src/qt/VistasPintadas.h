@@ -36,7 +36,7 @@ private:
     Fuente fuente_, letra_;  // asked for; used, which may be smaller
     Color tinta_ = 0, papel_ = 0;
     bool transparente_ = true, centrada_ = false;
-    std::vector<QString> renglones_;
+    std::vector<Renglon> renglones_;
     i32 anchoCortado_ = -1, altoCortado_ = -1;
 };
 

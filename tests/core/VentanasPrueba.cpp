@@ -127,8 +127,15 @@ TEST_F(VentanasNucleo, ButtonsShowTheirTilesOfTheSharedPicture) {
         EXPECT_EQ(origen(Pic_No), (49U << 8) | 49U);
         EXPECT_EQ(origen(Pic_BotAyudaMensaje), ((294U << 8) | 49U) & 0xFFFFU);
     });
+    // One button closes with the tick, not with the door by which one leaves.
     Abre(1, 1, 0, [&](PunteroPrueba&) {
-        EXPECT_EQ(origen(Pic_BotSalirMensaje), ((343U << 8) | 49U) & 0xFFFFU);
+        EXPECT_EQ(origen(Pic_BotSalirMensaje), (0U << 8) | 49U);
+        EXPECT_EQ(Pic_BotSalirMensaje.ToolTipText, "Aceptar");
+    });
+    Abre(1, 2, 5, [&](PunteroPrueba&) {
+        EXPECT_EQ(Pic_Si.ToolTipText, "Aceptar");
+        EXPECT_EQ(Pic_No.ToolTipText, "Cancelar");
+        EXPECT_EQ(Pic_BotAyudaMensaje.ToolTipText, "Ayuda");
     });
 }
 

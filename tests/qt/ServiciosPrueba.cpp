@@ -5,11 +5,13 @@
 #include <QFile>
 #include <QImage>
 #include <QMimeData>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <cstring>
 
 #include "PruebaQt.h"
 #include "core/Avisos.h"
+#include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Sugerencias.h"
@@ -72,8 +74,8 @@ TEST_F(VistaDeServicios, EveryMessageFitsTheLinesThatItIsGiven) {
         const std::string texto = TextoDe(*a, {a->muestra[0], a->muestra[1]});
         const auto renglones = t.Renglones(Fuente{}, texto, ANCHO);
         EXPECT_LE(renglones.size(), static_cast<std::size_t>(a->modo)) << texto;
-        for (const QString& r : renglones)
-            EXPECT_LE(P().AnchoTexto(Fuente{}, r.trimmed().toStdString()), ANCHO) << texto;
+        for (const Renglon& r : renglones)
+            EXPECT_LE(P().AnchoTexto(Fuente{}, r.texto.toStdString()), ANCHO) << texto;
         EXPECT_LE(P().AnchoTexto(titulo, a->titulo), ANCHO) << a->titulo;
     }
 }
@@ -91,7 +93,7 @@ TEST_F(VistaDeServicios, AMessageWithALongPathIsStillShownWhole) {
     EXPECT_LE(t.AltoBloque(letra, renglones.size()), ALTO);
     EXPECT_GE(letra.Tamano, 10);
     QString junto;
-    for (const QString& r : renglones) junto += r;
+    for (const Renglon& r : renglones) junto += r.texto;
     EXPECT_TRUE(junto.contains(QString::fromStdString(ruta))) << "a path is cut only at a slash";
     // What fits is left alone.
     const std::string corto = TextoDe(aviso::SIN_AJUSTES, {"/opt/tessario/TsR2133.ini"});
@@ -104,28 +106,80 @@ TEST_F(VistaDeServicios, TheLinkOfTheHintsFitsItsBox) {
     Sugerencia(21);
     EXPECT_LE(P().AnchoTexto(Pic_SugeMasAyuda.Font, "más ayuda"), Pic_SugeMasAyuda.Width());
     EXPECT_LE(P().AltoTexto(Pic_SugeMasAyuda.Font), Pic_SugeMasAyuda.Height());
-    // Three lines of 59 characters between the margin and the panel's edge.
-    EXPECT_LE(3 + P().AnchoTexto(Pic_Sugerencia.Font, std::string(59, 'm')), 423 - 1);
+    // Every line of every hint, 59 characters, between the margin and the panel's edge.
+    for (const auto& s : Gbl.Sugerencias)
+        for (i32 i = 0; i < 3; ++i)
+            EXPECT_LE(3 + P().AnchoTexto(Pic_Sugerencia.Font, Mid(s.Texto, i * 60 + 1, 59)),
+                      423 - 1)
+                << s.Texto;
     Gbl.VentanaInformacion = false;
 }
 
-TEST_F(VistaDeServicios, WrappingKeepsRunsOfBlanksAndLineEnds) {
+TEST_F(VistaDeServicios, WrappingFoldsRunsOfBlanksAndKeepsIndentsAndLineEnds) {
     Textos t;
     const Fuente mono{Familia::Mono, 12, false, false};  // 7 pixels a character
     ASSERT_EQ(P().AnchoTexto(mono, "0123456789"), 70);
     auto r = t.Renglones(mono, "uno   dos tres", 70);
     ASSERT_EQ(r.size(), 2U);
-    EXPECT_EQ(r[0], "uno   dos");
-    EXPECT_EQ(r[1], "tres");
-    r = t.Renglones(mono, "  a\r\n\r\n   b", 70);
+    EXPECT_EQ(r[0].texto, "uno dos");
+    EXPECT_EQ(r[1].texto, "tres");
+    r = t.Renglones(mono, "  a\r\n\r\n   b   c", 70);
     ASSERT_EQ(r.size(), 3U);
-    EXPECT_EQ(r[0], "  a");
-    EXPECT_EQ(r[1], "");
-    EXPECT_EQ(r[2], "   b");
+    EXPECT_EQ(r[0].texto, "  a");
+    EXPECT_EQ(r[1].texto, "");
+    EXPECT_EQ(r[2].texto, "   b c");
     r = t.Renglones(mono, "abcdefghijklmno p", 70);
     ASSERT_EQ(r.size(), 2U);
-    EXPECT_EQ(r[0], "abcdefghij");
-    EXPECT_EQ(r[1], "klmno p");
+    EXPECT_EQ(r[0].texto, "abcdefghij");
+    EXPECT_EQ(r[1].texto, "klmno p");
+}
+
+TEST_F(VistaDeServicios, FullAreTheLinesBrokenAndThoseThatNearlyFillTheWidth) {
+    Textos t;
+    const Fuente mono{Familia::Mono, 12, false, false};
+    const auto r = t.Renglones(mono, "uno dos tres\nabcd efghi\nabc\nabcd efghi", 70);
+    ASSERT_EQ(r.size(), 5U);
+    EXPECT_TRUE(r[0].lleno);   // broken
+    EXPECT_FALSE(r[1].lleno);  // the rest of that paragraph
+    EXPECT_TRUE(r[2].lleno);   // ten of ten columns, and a paragraph follows
+    EXPECT_FALSE(r[3].lleno);
+    EXPECT_FALSE(r[4].lleno);  // the last of all
+}
+
+// What a line of black text covers, in columns.
+std::pair<int, int> Extremos(Textos& t, const Renglon& r, i32 ancho, bool centrado) {
+    QImage im(ancho, 20, QImage::Format_RGB32);
+    im.fill(Qt::white);
+    const Fuente mono{Familia::Mono, 12, false, false};
+    QPainter p(&im);
+    p.setFont(t.Letra(mono));
+    t.PintaRenglon(p, mono, r, 2, ancho, centrado);
+    p.end();
+    int izq = ancho, der = -1;
+    for (int y = 0; y < im.height(); ++y)
+        for (int x = 0; x < ancho; ++x)
+            if (im.pixel(x, y) != qRgb(255, 255, 255)) {
+                izq = std::min(izq, x);
+                der = std::max(der, x);
+            }
+    return {izq, der};
+}
+
+TEST_F(VistaDeServicios, AFullLineGoesFromEdgeToEdge) {
+    Textos t;
+    const auto [izq, der] = Extremos(t, {"HH HH HH", true}, 80, false);
+    EXPECT_LE(izq, 1);
+    EXPECT_GE(der, 77);
+    const auto [izq2, der2] = Extremos(t, {"HH HH HH", false}, 80, false);
+    EXPECT_LE(izq2, 1);
+    EXPECT_LT(der2, 57);
+    const auto [izq3, der3] = Extremos(t, {"  HH HH", true}, 60, false);
+    EXPECT_GE(izq3, 14) << "an indent stays";
+    EXPECT_GE(der3, 57);
+    // A line of few words is not torn apart, one word not at all.
+    EXPECT_LT(Extremos(t, {"HH HH", true}, 200, false).second, 40);
+    EXPECT_LT(Extremos(t, {"HHHH", true}, 60, false).second, 30);
+    EXPECT_NEAR(Extremos(t, {"HHHH", false}, 60, true).first, 16, 2);
 }
 
 TEST_F(VistaDeServicios, TextIsPaintedWithinTheClipAndTheUpperByteStaysZero) {
