@@ -29,6 +29,8 @@ public:
     std::deque<std::function<void()>> eventos;  // run, one for each DejaPasarEventos
     std::function<void()> alDormir;             // called in each Duerme, after painting
     std::function<void()> alDejarPasar;         // called in each DejaPasarEventos
+    std::function<void()> alPresentar;          // called in each Presenta
+    double horaDelDia = 43200.25;               // seconds since midnight
     std::deque<bool> respuestas;                // answers of the next messages; then no
     std::map<std::string, std::function<void(Ventana&)>> ventanas;  // by name: what the player does
     std::map<std::string, Mapa> imagenes;                           // pictures by path
@@ -73,12 +75,15 @@ public:
     i32 PruebaModoPantalla(i32, i32) override { return pruebaModo; }
     i32 CambiaModoPantalla(i32 a, i32 b) override;
     u32 timeGetTime() override { return static_cast<u32>(static_cast<unsigned long long>(reloj)); }
-    double Timer() override { return 43200.25; }
+    double Timer() override { return horaDelDia; }
     std::string Fecha() override { return "20/11/2026"; }
     std::string Hora() override { return "13:54:00"; }
     void Duerme(double ms) override;
     void DejaPasarEventos() override;
-    void Presenta() override { ++presentaciones; }
+    void Presenta() override {
+        ++presentaciones;
+        if (alPresentar) alPresentar();
+    }
     bool BotonesApretados() override { return botones; }
     void Muestra(Ventana& v) override;
     void MuestraModal(Ventana& v) override;

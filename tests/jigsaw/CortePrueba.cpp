@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "jigsaw/Corte.h"
 #include "apoyo/MesaMoviles.h"
+#include "jigsaw/Corte.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {
@@ -169,6 +169,16 @@ TEST_F(Corte, TheSampleIsHalfThePictureAtTheLowerRight) {
     Gbl.MostrarMuestra = false;
     Monta(0, 4, 320, 240);
     EXPECT_FALSE(Pic_Muestra.Visible);
+}
+
+TEST_F(Corte, TheSampleShowsThePictureWithoutTheCut) {
+    for (const i16 forma : std::vector<i16>{0, 2, 3}) {
+        Monta(forma, 4, 400, 300, true);
+        Monta(forma, 4, 400, 300, true);  // a rebuild finds the lines of the first
+        for (i32 y = 0; y < Pic_Muestra.Height(); ++y)
+            for (i32 x = 0; x < Pic_Muestra.Width(); ++x)
+                ASSERT_EQ(Pic_Muestra.Fila(y)[x], PixelDeMuestra(2 * x + 1, 2 * y + 1));
+    }
 }
 
 TEST_F(Corte, ARebuildLeavesThePiecesWhereTheyAre) {

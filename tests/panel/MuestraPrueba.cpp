@@ -104,6 +104,54 @@ TEST_F(VistaMuestra, LimitsFollowTheScroll) {
     EXPECT_EQ(Gbl.MuestraY, 30);
 }
 
+TEST_F(VistaMuestra, OnAScrolledTableEachLimitIsReachedAndNotPassed) {
+    BarraHor.Top = 583;
+    BarraVer.Left = 783;
+    Pic_Botonera.Mueve(642, 0);
+    BarraHor.Value = 90;
+    BarraVer.Value = 70;
+    // The view reaches from (90, 70) to (873, 653): the sample, 160 by 120, to (713, 533).
+    const struct {
+        i32 x, y, quedaX, quedaY;
+    } casos[] = {{90, 70, 90, 70},     {89, 70, 400, 70},    {90, 69, 90, 480},
+                 {713, 533, 713, 533}, {714, 533, 400, 533}, {713, 534, 713, 480}};
+    for (const auto& c : casos) {
+        Pic_Muestra.Mueve(400, 480);
+        Pic_Muestra_MouseDown(1, 0, 10, 10);
+        Lleva(static_cast<float>(c.x - 400), static_cast<float>(c.y - 480));
+        EXPECT_EQ(Gbl.MuestraX, c.quedaX) << c.x;
+        EXPECT_EQ(Gbl.MuestraY, c.quedaY) << c.y;
+        Pic_Muestra_MouseUp(1, 0, 0, 0);
+    }
+}
+
+TEST_F(VistaMuestra, OnAScrolledTableTheStripHoldsItBackWhereItIsLevelWithIt) {
+    BarraHor.Top = 583;
+    BarraVer.Left = 783;
+    BarraHor.Value = 90;
+    BarraVer.Value = 70;
+    // The strip, 463 high, ends at 533 of the table; left of it the sample ends at 572.
+    const struct {
+        i32 x, y, izq;
+    } casos[] = {{713, 533, 572}, {573, 300, 572}, {572, 300, 572}, {500, 533, 500}};
+    for (const auto& c : casos) {
+        Pic_Muestra.Mueve(400, 480);
+        Pic_Muestra_MouseDown(1, 0, 10, 10);
+        Lleva(static_cast<float>(c.x - 400), static_cast<float>(c.y - 480));
+        Pic_Muestra_MouseUp(1, 0, 0, 0);
+        EXPECT_EQ(Pic_Muestra.Left, c.izq) << c.x;
+        EXPECT_EQ(Pic_Muestra.Top, c.y);
+    }
+    // A taller view: one pixel below the strip the whole width is free.
+    BarraHor.Top = 700;
+    Pic_Muestra.Mueve(400, 480);
+    Pic_Muestra_MouseDown(1, 0, 10, 10);
+    Lleva(313, 54);
+    Pic_Muestra_MouseUp(1, 0, 0, 0);
+    EXPECT_EQ(Pic_Muestra.Left, 713);
+    EXPECT_EQ(Pic_Muestra.Top, 534);
+}
+
 TEST_F(VistaMuestra, HoverShowsTheOpenHandOverTheDefaultPointer) {
     Pic_Muestra_MouseMove(0, 0, 20, 20);
     EXPECT_EQ(Pic_Muestra.MouseIcon, "ManoAbierta");

@@ -96,6 +96,57 @@ TEST_F(PanelOpciones, LightFollowsThePointerAndIsZeroAboveTheFirstRow) {
     EXPECT_EQ(Pic_SelOpciones.Point(15, 45), BLANCO) << "its text is white";
 }
 
+TEST_F(PanelOpciones, LitRowReachesFromTheFrameToTheFrame) {
+    Gbl.OpcionesActivas[4] = true;
+    MuestraOpcionesSelec();
+    for (i16 fila = 1; fila <= 4; ++fila) {
+        const i32 y = (fila - 1) * 18 + 4;
+        Pic_SelOpciones_MouseMove(0, 0, 20, static_cast<float>(y));
+        ASSERT_EQ(Gbl.OpcionResaltada, fila);
+        for (const i32 x : {0, 1, 148, 149}) EXPECT_NE(Pic_SelOpciones.Point(x, y + 13), AZUL);
+        for (const i32 x : {2, 3, 146, 147})
+            for (const i32 alto : {y - 1, y + 14})
+                EXPECT_EQ(Pic_SelOpciones.Point(x, alto), AZUL) << fila << ": " << x;
+        if (fila < 4) {
+            EXPECT_NE(Pic_SelOpciones.Point(140, y + 16), AZUL);
+        }
+    }
+}
+
+TEST_F(PanelOpciones, OnAScrolledTableItStaysWithinWhatIsSeen) {
+    BarraHor.Top = 583;
+    BarraVer.Left = 783;
+    Pic_Botonera.Mueve(642, 0);
+    Pic_Trabajo.Tamano(1200, 1000);
+    BarraHor.Value = 120;
+    BarraVer.Value = 90;
+    const struct {
+        i16 x, y;
+        i32 izq, arr;
+    } casos[] = {
+        {300, 250, 300, 250}, {612, 250, 612, 250},  // its right edge just at the strip: 642 + 120
+        {613, 250, 612, 250}, {300, 615, 300, 615},  // its lower edge just at the bar: 583 + 90
+        {300, 616, 300, 615}, {760, 670, 612, 615}};
+    for (const auto& c : casos) {
+        Gbl.XPulsado = c.x;
+        Gbl.YPulsado = c.y;
+        MuestraOpcionesSelec();
+        EXPECT_EQ(Pic_SelOpciones.Left, c.izq) << c.x;
+        EXPECT_EQ(Pic_SelOpciones.Top, c.arr) << c.y;
+    }
+}
+
+TEST_F(PanelOpciones, ChoiceStopsTheClockAndRemembersIt) {
+    for (const bool marcha : {true, false}) {
+        Gbl.CronoEnMarcha = marcha;
+        Gbl.CronoAntes = !marcha;  // left over from another pause
+        MuestraOpcionesSelec();
+        Elige(10);
+        EXPECT_EQ(static_cast<bool>(Gbl.CronoAntes), marcha);
+        EXPECT_EQ(static_cast<bool>(Gbl.CronoEnMarcha), marcha);
+    }
+}
+
 TEST_F(PanelOpciones, EachChoiceOpensForItsPurpose) {
     Gbl.OpcionesActivas[4] = true;
     const struct {

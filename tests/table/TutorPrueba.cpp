@@ -99,6 +99,30 @@ TEST_F(TutorDeJuego, SoundsThreeTimes) {
     for (const auto& s : P().sonidos) EXPECT_EQ(s.first, 55);
 }
 
+TEST_F(TutorDeJuego, PieceDeepInTheStackStaysThereAndThePausesFollowInTheirOrder) {
+    const i16 orden[] = {3, 4, 1, 2};
+    for (i16 i = 1; i <= 4; ++i) Gbl.OrdenPiezas[i] = orden[i - 1];
+    ColocaPiezas(1);
+    std::vector<double> momentos;
+    P().alDormir = [&] { momentos.push_back(P().reloj); };
+    TutorIndicando();
+    for (i16 i = 1; i <= 4; ++i) EXPECT_EQ(Gbl.OrdenPiezas[i], orden[i - 1]);
+    momentos.push_back(P().reloj);
+    std::vector<double> pausas;
+    for (std::size_t i = 1; i < momentos.size(); ++i)
+        pausas.push_back(momentos[i] - momentos[i - 1]);
+    EXPECT_EQ(pausas, (std::vector<double>{80, 130, 170, 130, 170, 130, 170}));
+}
+
+TEST_F(TutorDeJuego, LaterUseForfeitsAgainAndEndsTheModeAgain) {
+    TutorIndicando();
+    Gbl.PuzzleArchivable = true;  // as another puzzle would have it
+    Gbl.TutorEsperando = true;
+    TutorIndicando();
+    EXPECT_FALSE(Gbl.PuzzleArchivable);
+    EXPECT_FALSE(Gbl.TutorEsperando);
+}
+
 class TutorDelTangram : public MesaMontada {};
 
 TEST_F(TutorDelTangram, FlashesTheSilhouettesPartThreeTimesWhileThePieceIsAway) {

@@ -205,6 +205,38 @@ TEST_F(Desolape, LeftEdgeAndBottomAreNotPassed) {
     EXPECT_EQ(Solapada(5), 0);
 }
 
+TEST_F(Desolape, LeftEdgeIsReachedAndNotPassed) {
+    for (const i32 sobra : {0, 1}) {
+        ApartaPiezas();
+        PonPieza(1, 63 - sobra, 200, 7);
+        PonPieza(6, 6 - sobra, 220, 0);  // five columns inside: west costs 6
+        Suelta(6);
+        if (sobra == 0) {
+            EXPECT_EQ(Gbl.TCaminoPilas[1], 6);
+            EXPECT_EQ(Gbl.Piezas[6].X, 0);
+        } else {
+            EXPECT_NE(Gbl.TCaminoPilas[1], 6);
+            EXPECT_GE(Gbl.Piezas[6].X, 0);
+        }
+    }
+}
+
+TEST_F(Desolape, BottomIsReachedAndNotPassed) {
+    for (const i32 sobra : {0, 1}) {
+        ApartaPiezas();
+        PonPieza(1, 100, 412 + sobra, 3);  // lower side 124 further down
+        PonPieza(6, 150, 512 + sobra, 0);  // south costs 25
+        Suelta(6);
+        if (sobra == 0) {
+            EXPECT_EQ(Gbl.TCaminoPilas[1], 4);
+            EXPECT_EQ(Gbl.Piezas[6].Y, 600 - 63);
+        } else {
+            EXPECT_NE(Gbl.TCaminoPilas[1], 4);
+            EXPECT_LE(Gbl.Piezas[6].Y, 600 - 63);
+        }
+    }
+}
+
 TEST_F(Desolape, PanelIsNotGoneUnder) {
     // The panel's left edge is at 659: 596 is the last place for a box of 63.
     ASSERT_EQ(Pic_Botonera.Left, 659);
