@@ -9,6 +9,7 @@ namespace aviso {
 namespace {
 constexpr std::string_view TITULO_MODO = "Cambio de resolución de pantalla";
 constexpr std::string_view TITULO_HISTORICO = "Histórico de puzzles resueltos";
+constexpr std::string_view TITULO_LECTURA = "Error leyendo el fichero histórico";
 constexpr std::string_view TITULO_CARGA = "Error en la carga de datos iniciales";
 }  // namespace
 
@@ -96,6 +97,15 @@ const Aviso RESUELTO{"TESSARIO", "Ha conseguido resolver el puzzle", 1, 1, 0};
 const Aviso AL_HISTORICO{TITULO_HISTORICO, "¿Se actualiza el Histórico de puzzles?", 1, 2, 2161};
 const Aviso ERROR_HISTORICO{TITULO_HISTORICO, "HIS ERROR %1", 1, 1, 0, {"75"}};
 
+// Of the window that shows it.
+const Aviso HISTORICO_AUSENTE{TITULO_LECTURA,
+                              "No se encuentra el fichero Histórico. Se creará de nuevo la "
+                              "próxima vez que termine de resolver un puzzle.",
+                              2, 1, 0};
+const Aviso HISTORICO_SIN_RUTA{TITULO_LECTURA, "HIS ERROR 76: No existe el fichero Histórico", 1, 1,
+                               0};
+const Aviso HISTORICO_ILEGIBLE{TITULO_LECTURA, "HIS ERROR %1", 1, 1, 0, {"75"}};
+
 const Aviso MEZCLA_TANGRAM{
     "Barajar las piezas del Tangram",
     "Si pulsa este botón cuando está resolviendo un modelo, se despejará  la  mesa  de  "
@@ -130,19 +140,33 @@ const Aviso ARCHIVO_GRABADORA{
 }  // namespace aviso
 
 std::span<const Aviso* const> Avisos() {
-    static constexpr const Aviso* TODOS[] = {
-        &aviso::RESOLUCION,          &aviso::MODO_NO_CAMBIA,
-        &aviso::MODO_CAMBIADO,       &aviso::MODO_REINICIO,
-        &aviso::MODO_FALLIDO,        &aviso::BIENVENIDA,
-        &aviso::SIN_CONFIGURACION,   &aviso::SIN_AJUSTES,
-        &aviso::ERROR_CONFIGURACION, &aviso::ERROR_AJUSTES,
-        &aviso::IMAGEN_NO_VALIDA,    &aviso::SIN_IMAGENES,
-        &aviso::IMAGEN_PERDIDA,      &aviso::SIN_SOLUCION,
-        &aviso::YA_RESUELTO,         &aviso::RESUELTO,
-        &aviso::AL_HISTORICO,        &aviso::ERROR_HISTORICO,
-        &aviso::MEZCLA_TANGRAM,      &aviso::ORDEN_A_MANO,
-        &aviso::ORDEN_INSOLUBLE,     &aviso::SALIR,
-        &aviso::SALIR_GRABADORA,     &aviso::ARCHIVO_GRABADORA};
+    static constexpr const Aviso* TODOS[] = {&aviso::RESOLUCION,
+                                             &aviso::MODO_NO_CAMBIA,
+                                             &aviso::MODO_CAMBIADO,
+                                             &aviso::MODO_REINICIO,
+                                             &aviso::MODO_FALLIDO,
+                                             &aviso::BIENVENIDA,
+                                             &aviso::SIN_CONFIGURACION,
+                                             &aviso::SIN_AJUSTES,
+                                             &aviso::ERROR_CONFIGURACION,
+                                             &aviso::ERROR_AJUSTES,
+                                             &aviso::IMAGEN_NO_VALIDA,
+                                             &aviso::SIN_IMAGENES,
+                                             &aviso::IMAGEN_PERDIDA,
+                                             &aviso::SIN_SOLUCION,
+                                             &aviso::YA_RESUELTO,
+                                             &aviso::RESUELTO,
+                                             &aviso::AL_HISTORICO,
+                                             &aviso::ERROR_HISTORICO,
+                                             &aviso::HISTORICO_AUSENTE,
+                                             &aviso::HISTORICO_SIN_RUTA,
+                                             &aviso::HISTORICO_ILEGIBLE,
+                                             &aviso::MEZCLA_TANGRAM,
+                                             &aviso::ORDEN_A_MANO,
+                                             &aviso::ORDEN_INSOLUBLE,
+                                             &aviso::SALIR,
+                                             &aviso::SALIR_GRABADORA,
+                                             &aviso::ARCHIVO_GRABADORA};
     return TODOS;
 }
 

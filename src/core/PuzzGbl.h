@@ -42,6 +42,25 @@ struct Movimiento {
     friend bool operator==(const Movimiento&, const Movimiento&) = default;
 };
 
+// One entry of the history of solved puzzles, in the order of its items in the file.
+struct RegistroHistorico {
+    std::string Fecha, Hora;                        // of solving; 10 and 8 characters
+    i16 Juego = 0;                                  // 21, 22 or 23
+    std::string Fichero, Ubicacion;                 // of the picture: the file system's own bytes
+    std::string Modelo;                             // name of the Tangram's model
+    i16 AnchoOriginal = 0, AltoOriginal = 0;        // picture at 100 percent, pixels
+    i16 Zoom = 0;                                   // percent
+    i16 AnchoFinal = 0, AltoFinal = 0;              // puzzle on the table, pixels
+    i16 Lado = 0, Clase = 0, Forma = 0, Total = 0;  // pieces a side, a cell, their shape, in all
+    i16 AnchoPiezas = 0, AltoPiezas = 0;            // one cell, pixels
+    float Nivel = 0;                                // difficulty
+    i32 Segundos = 0;                               // time played
+    i16 Atraccion = 0;                              // percent
+    i16 Fondo = 0;        // of the sliding game: 1 image, 2 numbers, 3 letters
+    i16 Reservado = 0;    // read and shown nowhere
+    std::string Jugador;  // 9 characters
+};
+
 // ---------------------------------------------------------------- which game, how many pieces
 struct DatosJuego {
     i16 JuegoActual = JuegoMoviles;  // 21, 22 or 23
@@ -251,6 +270,20 @@ struct DatosOrdenar {
     i32 TriX = 0, TriY = 0, TriAncho = 0, TriAlto = 0;  // half box of a triangular piece
 };
 
+// ---------------------------------------------------------------- windows of the records
+struct DatosHistorico {
+    Arreglo<RegistroHistorico> Historico;  // records of the current game, from 0; room to spare
+    i32 UltimoHistorico = -1;              // index of the last record; -1 none
+    i16 OrdenHistoricoActual = 1;          // 1 date, 2 player, 3 background, 4 difficulty
+    i32 PosicionActual = 0;                // place in the sorted list, from 0
+    i16 BotonAdeAtr = 0;                   // travel button held down, 1 to 4; 0 none
+};
+
+struct DatosCargua {
+    std::string NombreActual;  // name in the box, trimmed, at most 64 characters
+    Booleano AvisoExiste;      // the player was told that this name is taken
+};
+
 // ---------------------------------------------------------------- random numbers
 struct DatosAzar {
     u32 Azar[4] = {0x9E3779B9U, 0x243F6A88U, 0xB7E15162U, 0x1U};  // generator state
@@ -273,6 +306,8 @@ struct Bloque : DatosJuego,
                 DatosPanel,
                 DatosOpciones,
                 DatosOrdenar,
+                DatosHistorico,
+                DatosCargua,
                 DatosAzar {};
 
 extern Bloque Gbl;

@@ -1,5 +1,11 @@
 #include "platform/Controles.h"
 
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "platform/OrdenTexto.h"
+
 namespace tessario {
 
 namespace {
@@ -31,13 +37,27 @@ void BarraDesplazamiento::Pon(i32 v) {
 void Lista::AddItem(const std::string& texto, i32 dato) {
     auto lugar = Elementos.end();
     if (Ordenada)
-        lugar =
-            std::upper_bound(Elementos.begin(), Elementos.end(), texto,
-                             [](const std::string& t, const Elemento& e) { return t < e.Texto; });
+        lugar = std::upper_bound(
+            Elementos.begin(), Elementos.end(), ClaveDeOrden(texto),
+            [](const auto& clave, const Elemento& e) { return clave < ClaveDeOrden(e.Texto); });
     const auto indice = static_cast<i32>(lugar - Elementos.begin());
     Elementos.insert(lugar, {texto, dato});
     // The chosen row stays chosen when it moves down.
     if (ListIndex >= indice) ++ListIndex;
+}
+
+void Lista::Rellena(std::vector<Elemento> elementos) {
+    ListIndex = -1;
+    Elementos = std::move(elementos);
+    if (!Ordenada) return;
+    std::vector<std::pair<std::u32string, std::size_t>> orden;
+    orden.reserve(Elementos.size());
+    for (const Elemento& e : Elementos) orden.emplace_back(ClaveDeOrden(e.Texto), orden.size());
+    std::sort(orden.begin(), orden.end());
+    std::vector<Elemento> ordenados;
+    ordenados.reserve(orden.size());
+    for (const auto& [clave, i] : orden) ordenados.push_back(std::move(Elementos[i]));
+    Elementos = std::move(ordenados);
 }
 
 void Lista::Clear() {

@@ -93,12 +93,15 @@ struct Lista : Control {
         std::string Texto;
         i32 Dato = 0;
     };
-    bool Ordenada = false;  // AddItem keeps the text order; equal texts in order of arrival
+    bool Ordenada = false;  // the text order is kept; equal texts in order of arrival
     std::vector<Elemento> Elementos;
     i32 ListIndex = -1;  // -1: none
     Fuente Font;
 
     void AddItem(const std::string& texto, i32 dato = 0);
+    // All elements at once in place of those there are; none is chosen. For many this is far
+    // quicker than one by one.
+    void Rellena(std::vector<Elemento> elementos);
     void Clear();
     i32 ListCount() const { return static_cast<i32>(Elementos.size()); }
     void Selecciona(i32 indice);  // as by the player: sets ListIndex and calls Click

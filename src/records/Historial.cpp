@@ -1,10 +1,12 @@
 #include "records/Historial.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <limits>
 
 #include "core/Cadenas.h"
 #include "core/Errores.h"
-#include "core/PuzzGbl.h"
 #include "platform/Plataforma.h"
 #include "records/Texto.h"
 
@@ -12,8 +14,8 @@ namespace tessario {
 
 namespace {
 
-constexpr i32 LARGO_FECHA = 10, LARGO_HORA = 8, LARGO_JUGADOR = 9;  // characters at most
-constexpr i32 RESERVADO = 0;                                        // item 22
+constexpr i32 LARGO_FECHA = 10, LARGO_HORA = 8, LARGO_JUGADOR = 9;  // characters
+constexpr i32 CABIDA_INICIAL = 100, CABIDA_MAS = 40;                // of Historico
 
 // The shortest decimal that reads back as the same number, with a point whatever the locale.
 std::string Decimal(float n) {
@@ -22,10 +24,18 @@ std::string Decimal(float n) {
     return fin.ec == std::errc{} ? std::string(texto, fin.ptr) : std::string("0");
 }
 
+// A line of the file is a line: what would end it inside a text becomes a blank.
+std::string EnUnaLinea(std::string_view bytes) {
+    std::string s(bytes);
+    std::replace_if(
+        s.begin(), s.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    return s;
+}
+
 class Renglon {
 public:
     Renglon& Texto(std::string_view utf8) { return Bytes(A1252(utf8)); }
-    Renglon& Bytes(std::string_view bytes) { return Crudo(Entrecomilla(bytes)); }
+    Renglon& Bytes(std::string_view bytes) { return Crudo(Entrecomilla(EnUnaLinea(bytes))); }
     Renglon& Numero(i32 n) { return Crudo(std::to_string(n)); }
     Renglon& Crudo(const std::string& item) {
         if (!linea_.empty()) linea_ += ',';
@@ -38,35 +48,167 @@ private:
     std::string linea_;
 };
 
+std::string LineaDe(const RegistroHistorico& r) {
+    Renglon l;
+    l.Texto(r.Fecha).Texto(r.Hora).Numero(r.Juego).Bytes(r.Fichero).Bytes(r.Ubicacion);
+    l.Texto(r.Modelo);
+    for (const i16 n : {r.AnchoOriginal, r.AltoOriginal, r.Zoom, r.AnchoFinal, r.AltoFinal, r.Lado,
+                        r.Clase, r.Forma, r.Total, r.AnchoPiezas, r.AltoPiezas})
+        l.Numero(n);
+    l.Crudo(Decimal(r.Nivel)).Numero(r.Segundos).Numero(r.Atraccion).Numero(r.Fondo);
+    return l.Numero(r.Reservado).Texto(r.Jugador).Linea();
+}
+
+// ---------------------------------------------------------------- reading
+
+// The items of a line, one after the other. A text ends at its closing quote, or with the line
+// when it has none; behind the last item there are empty ones without end.
+class Items {
+public:
+    explicit Items(std::string_view linea) : resto_(linea) {}
+
+    std::string Bytes() {
+        while (!resto_.empty() && resto_.front() == ' ') resto_.remove_prefix(1);
+        std::string item;
+        if (!resto_.empty() && resto_.front() == '"') item = Entrecomillado();
+        const std::size_t coma = std::min(resto_.find(','), resto_.size());
+        if (item.empty()) item = resto_.substr(0, coma);
+        resto_.remove_prefix(std::min(coma + 1, resto_.size()));
+        return item;
+    }
+    std::string Texto() { return De1252(Bytes()); }
+    std::string Texto(i32 ancho) { return Ajusta(Texto(), ancho); }
+
+    // A number that is none, or does not fit, leaves the field at 0.
+    template <class Entero>
+    bool Numero(Entero& destino) {
+        double x = 0;
+        if (!Real(x)) return false;
+        x = std::nearbyint(x);
+        using Limites = std::numeric_limits<Entero>;
+        if (x < Limites::min() || x > Limites::max()) return false;
+        destino = static_cast<Entero>(x);
+        return true;
+    }
+    void Simple(float& destino) {
+        double x = 0;
+        if (Real(x) && std::abs(x) <= std::numeric_limits<float>::max())
+            destino = static_cast<float>(x);
+    }
+
+private:
+    std::string Entrecomillado() {
+        std::string item;
+        std::size_t i = 1;
+        for (; i < resto_.size(); ++i) {
+            if (resto_[i] == '"' && (i + 1 == resto_.size() || resto_[i + 1] != '"')) break;
+            if (resto_[i] == '"') ++i;
+            item += resto_[i];
+        }
+        resto_.remove_prefix(std::min(i + 1, resto_.size()));
+        // Nothing but the comma should follow.
+        resto_.remove_prefix(std::min(resto_.find(','), resto_.size()));
+        return item;
+    }
+    bool Real(double& x) {
+        const std::string item = Bytes();
+        i32 n = 0;
+        if (!LeeEntero(item, n)) return LeeReal(item, x);
+        x = n;
+        return true;
+    }
+
+    std::string_view resto_;
+};
+
+// The next line, taken from the front; CR LF and LF both end one.
+std::string_view TomaLinea(std::string_view& bytes) {
+    const std::size_t fin = std::min(bytes.find('\n'), bytes.size());
+    std::string_view linea = bytes.substr(0, fin);
+    bytes.remove_prefix(std::min(fin + 1, bytes.size()));
+    if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
+    return linea;
+}
+
+i16 Acotado(i32 n) {
+    return static_cast<i16>(std::clamp(n, -32768, 32767));
+}
+
 }  // namespace
 
 std::string FicheroHistorico() {
     return BuscaRuta(Gbl.CarpetaPrograma + "TESSA33.his");
 }
 
+RegistroHistorico FichaDelPuzzle() {
+    RegistroHistorico r;
+    r.Juego = Gbl.JuegoActual;
+    r.Fichero = Gbl.FicheroImagen;
+    r.Ubicacion = Gbl.CarpetaImagen;
+    r.Modelo = Gbl.NombrePuzzle;
+    r.AnchoOriginal = Acotado(Gbl.AnchoImagen);
+    r.AltoOriginal = Acotado(Gbl.AltoImagen);
+    r.Zoom = Gbl.ZoomImagen;
+    r.AnchoFinal = Gbl.AnchoPuzzle;
+    r.AltoFinal = Gbl.AltoPuzzle;
+    r.Lado = Gbl.PiezasPorLado;
+    r.Clase = Gbl.PiezasPorCelda;
+    r.Forma = Gbl.FormaPiezas;
+    r.Total = Gbl.NumPiezas;
+    r.AnchoPiezas = Gbl.AnchoCelda;
+    r.AltoPiezas = Gbl.AltoCelda;
+    r.Nivel = Gbl.Dificultad;
+    r.Segundos = Gbl.SegundosJuego;
+    r.Atraccion = Gbl.FactorAtraccion;
+    r.Fondo = Gbl.TipoFondo;
+    r.Jugador = Left(Gbl.NombreJugador, LARGO_JUGADOR);
+    return r;
+}
+
 std::string LineaHistorico() {
-    Renglon r;
-    r.Texto(Left(Sistema().Fecha(), LARGO_FECHA)).Texto(Left(Sistema().Hora(), LARGO_HORA));
-    r.Numero(Gbl.JuegoActual).Bytes(Gbl.FicheroImagen).Bytes(Gbl.CarpetaImagen);
-    r.Texto(Gbl.NombrePuzzle);
-    for (const i32 n :
-         {Gbl.AnchoImagen, Gbl.AltoImagen, i32{Gbl.ZoomImagen}, i32{Gbl.AnchoPuzzle},
-          i32{Gbl.AltoPuzzle}, i32{Gbl.PiezasPorLado}, i32{Gbl.PiezasPorCelda},
-          i32{Gbl.FormaPiezas}, i32{Gbl.NumPiezas}, i32{Gbl.AnchoCelda}, i32{Gbl.AltoCelda}})
-        r.Numero(n);
-    r.Crudo(Decimal(Gbl.Dificultad)).Numero(Gbl.SegundosJuego).Numero(Gbl.FactorAtraccion);
-    r.Numero(Gbl.TipoFondo).Numero(RESERVADO).Texto(Left(Gbl.NombreJugador, LARGO_JUGADOR));
-    return r.Linea();
+    RegistroHistorico r = FichaDelPuzzle();
+    r.Fecha = Left(Sistema().Fecha(), LARGO_FECHA);
+    r.Hora = Left(Sistema().Hora(), LARGO_HORA);
+    return LineaDe(r);
 }
 
 i16 EntraEnHistorico() {
-    const std::string ruta = FicheroHistorico();
+    return AnadeLinea(FicheroHistorico(), LineaHistorico());
+}
+
+bool LeeLineaHistorico(std::string_view linea, RegistroHistorico& r) {
+    Items items(linea);
+    r = RegistroHistorico{};
+    r.Fecha = items.Texto(LARGO_FECHA);
+    r.Hora = items.Texto(LARGO_HORA);
+    if (!items.Numero(r.Juego)) return false;
+    r.Fichero = items.Bytes();
+    r.Ubicacion = items.Bytes();
+    r.Modelo = items.Texto();
+    for (i16* n : {&r.AnchoOriginal, &r.AltoOriginal, &r.Zoom, &r.AnchoFinal, &r.AltoFinal, &r.Lado,
+                   &r.Clase, &r.Forma, &r.Total, &r.AnchoPiezas, &r.AltoPiezas})
+        items.Numero(*n);
+    items.Simple(r.Nivel);
+    items.Numero(r.Segundos);
+    for (i16* n : {&r.Atraccion, &r.Fondo, &r.Reservado}) items.Numero(*n);
+    r.Jugador = items.Texto(LARGO_JUGADOR);
+    return true;
+}
+
+i16 LeeHistorico() {
+    Gbl.UltimoHistorico = -1;
+    Gbl.Historico.Redimensiona(CABIDA_INICIAL);
     std::string bytes;
-    const i16 error = LeeFichero(ruta, bytes);
-    // A history that is there but cannot be read must not be replaced by one line.
-    if (error != 0 && error != ERROR_FICHERO) return error;
-    if (!bytes.empty() && bytes.back() != '\n') bytes += Gbl.FinLinea;
-    return EscribeFichero(ruta, bytes + LineaHistorico() + Gbl.FinLinea);
+    if (const i16 error = LeeFichero(FicheroHistorico(), bytes)) return error;
+    i32 libre = 0;  // a record of another game is overwritten by the next one
+    for (std::string_view resto = bytes; !resto.empty();) {
+        if (libre == Gbl.Historico.Superior()) Gbl.Historico.Amplia(libre + CABIDA_MAS);
+        RegistroHistorico& r = Gbl.Historico[libre];
+        if (LeeLineaHistorico(TomaLinea(resto), r) && r.Juego == Gbl.JuegoActual) ++libre;
+    }
+    Gbl.Historico[libre] = RegistroHistorico{};
+    Gbl.UltimoHistorico = libre - 1;
+    return 0;
 }
 
 }  // namespace tessario

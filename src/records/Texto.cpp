@@ -53,15 +53,17 @@ int Siguen(unsigned char b) {
     return -1;
 }
 
-// Reads the character at i and moves i behind it. A byte that is no UTF-8 gives 0xFFFD.
+constexpr u32 SIN_CODIGO = 0xFFFD;
+
+// Reads the character at i and moves i behind it. A byte that is no UTF-8 gives SIN_CODIGO.
 u32 LeeUtf8(std::string_view s, std::size_t& i) {
     const unsigned char b = Byte(s[i++]);
     const int n = Siguen(b);
-    if (n <= 0) return n == 0 ? b : 0xFFFDU;
+    if (n <= 0) return n == 0 ? b : SIN_CODIGO;
     u32 codigo = b & (0x3FU >> n);
     std::size_t j = i;
     for (int k = 0; k < n; ++k, ++j) {
-        if (j >= s.size() || (Byte(s[j]) & 0xC0U) != 0x80U) return 0xFFFDU;
+        if (j >= s.size() || (Byte(s[j]) & 0xC0U) != 0x80U) return SIN_CODIGO;
         codigo = (codigo << 6) | (Byte(s[j]) & 0x3FU);
     }
     i = j;
@@ -144,6 +146,12 @@ std::string De1252(std::string_view bytes) {
     std::string utf8;
     for (const char c : bytes) AnadeUtf8(utf8, CodigoDe(Byte(c)));
     return utf8;
+}
+
+std::string TextoDeRuta(std::string_view bytes) {
+    for (std::size_t i = 0; i < bytes.size();)
+        if (LeeUtf8(bytes, i) == SIN_CODIGO) return De1252(bytes);
+    return std::string(bytes);
 }
 
 std::string Entrecomilla(std::string_view texto) {

@@ -12,6 +12,8 @@ namespace tessario {
 
 std::string A1252(std::string_view utf8);  // a character that has no code becomes "?"
 std::string De1252(std::string_view bytes);
+// What the player sees of bytes of the file system: UTF-8, or else taken as Windows-1252.
+std::string TextoDeRuta(std::string_view bytes);
 
 // A quoted line: the text in double quotes, quotes inside doubled. `De` gives back the text of
 // the first quoted item, or the line itself when it has no quotes. A line feed, which the name of a
@@ -27,6 +29,14 @@ std::string BuscaRuta(const std::string& ruta);
 i16 LeeFichero(const std::string& ruta, std::string& bytes, std::size_t maximo = 64U << 20);
 // Replaces the file whole or leaves it as it was. 0, or the error number.
 i16 EscribeFichero(const std::string& ruta, std::string_view bytes);
+// Appends one line, CR LF at its end, whole or not at all; makes the file if it is missing, and
+// ends a last line that had no end. Programs that append at once wait for each other. 0, or the
+// error number.
+i16 AnadeLinea(const std::string& ruta, std::string_view linea);
+// Is there a file that can be opened for reading?
+bool SeAbre(const std::string& ruta);
+// 0, or the error number.
+i16 BorraFichero(const std::string& ruta);
 
 // Lines of a file, without their ends; CR LF, LF and a missing last end are all taken.
 std::vector<std::string> Lineas(std::string_view bytes);

@@ -1,6 +1,7 @@
 // Reading and writing whole files: the part of records/Texto.h that talks to the file system.
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -147,6 +148,14 @@ i16 Reemplaza(const std::string& ruta, std::string_view bytes, const struct stat
     return error;
 }
 
+// The line, after the end of a last line that has none.
+std::string LineaEntera(int fd, off_t largo, std::string_view linea) {
+    std::string bytes;
+    char ultimo = '\n';
+    if (largo > 0 && pread(fd, &ultimo, 1, largo - 1) == 1 && ultimo != '\n') bytes = "\r\n";
+    return bytes.append(linea).append("\r\n");
+}
+
 // Where a symbolic link leads, so that the link stays and its file is replaced.
 std::string SinEnlaces(const std::string& ruta) {
     char* real = realpath(ruta.c_str(), nullptr);
@@ -186,6 +195,37 @@ i16 EscribeFichero(const std::string& ruta, std::string_view bytes) {
     if (!S_ISREG(anterior.st_mode)) return EscribeEnSitio(destino, bytes);
     if (access(destino.c_str(), W_OK) != 0) return NumeroDe(errno);
     return Reemplaza(destino, bytes, &anterior);
+}
+
+i16 AnadeLinea(const std::string& ruta, std::string_view linea) {
+    if (ruta.empty() || ruta.find('\0') != std::string::npos) return ERROR_NOMBRE;
+    const std::string destino = SinCaja(ruta);
+    Descriptor d(open(destino.c_str(),
+                      O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY,
+                      PERMISOS_NUEVO));
+    if (!d.Vale()) return NumeroDe(errno);
+    while (flock(d.Numero(), LOCK_EX) != 0 && errno == EINTR) {
+    }
+    struct stat datos {};
+    if (fstat(d.Numero(), &datos) != 0) return NumeroDe(errno);
+    if (!S_ISREG(datos.st_mode)) return EscribeTodo(d.Numero(), linea);
+    i16 error = EscribeTodo(d.Numero(), LineaEntera(d.Numero(), datos.st_size, linea));
+    if (error == 0 && fsync(d.Numero()) != 0) error = NumeroDe(errno);
+    // Half a line must not stay.
+    if (error != 0 && ftruncate(d.Numero(), datos.st_size) != 0) return NumeroDe(errno);
+    return error;
+}
+
+bool SeAbre(const std::string& ruta) {
+    if (ruta.find('\0') != std::string::npos) return false;
+    struct stat datos {};
+    return stat(ruta.c_str(), &datos) == 0 && S_ISREG(datos.st_mode) &&
+           access(ruta.c_str(), R_OK) == 0;
+}
+
+i16 BorraFichero(const std::string& ruta) {
+    if (ruta.find('\0') != std::string::npos) return ERROR_NOMBRE;
+    return unlink(ruta.c_str()) == 0 ? i16{0} : NumeroDe(errno);
 }
 
 }  // namespace tessario
