@@ -19,6 +19,10 @@
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
 #include "table/Mesa.h"
+#include "table/Ordenes.h"
+#include "windows/Cargua.h"
+#include "windows/Estadis.h"
+#include "windows/Historic.h"
 
 namespace tessario {
 
@@ -159,8 +163,18 @@ void PreparaRutas() {
     VeACarpeta(Gbl.CarpetaPrograma);
 }
 
+void CargaVentanas() {
+    ConectaEstadis();
+    ConectaHistoric();
+    ConectaCargua();
+    VentanasOrdenes.Estadis = &Estadis;
+    VentanasOrdenes.Historic = &Historic;
+    VentanasOrdenes.Cargua = &Cargua;
+}
+
 void CargaMesa() {
     ConectaMesa();
+    CargaVentanas();
     if (Mesa.Load) Mesa.Load();
     Gbl.ResolviendoPuzzle = false;
 }

@@ -6,6 +6,8 @@
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"
+#include "platform/Plataforma.h"
+#include "table/Ordenes.h"
 #include "table/Tareas.h"
 
 namespace tessario {
@@ -75,10 +77,14 @@ void ColocaPanel() {
     Pic_SelOpciones.Mueve(x, y);
 }
 
-// Everything around the window of saved puzzles: the clock stands while it is open.
+// Everything around the window of saved puzzles: the clock stands while it is open, and is then
+// as it was, whatever a load has opened in between.
 void AbreCargua(i16 modo) {
     Gbl.ModoCargua = modo;
     DetieneCrono();
+    const Booleano antes = Gbl.CronoAntes;
+    if (VentanasOrdenes.Cargua) Sigue([] { Sistema().MuestraModal(*VentanasOrdenes.Cargua); });
+    Gbl.CronoAntes = antes;
     ReponeCrono();
 }
 
@@ -125,7 +131,7 @@ void CumpleOpcion(i16 opcion) {
         Avisa(aviso::ARCHIVO_GRABADORA);
         return;
     }
-    AbreCargua(MODO_DE_OPCION[opcion]);
+    if (PreparaOrden(ORDEN_OPCION)) AbreCargua(MODO_DE_OPCION[opcion]);
 }
 
 }  // namespace tessario

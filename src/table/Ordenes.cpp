@@ -293,14 +293,16 @@ void Pic_Boton_MouseDown(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
     CumpleOrden(Index);
 }
 
-void CumpleOrden(i16 Index) {
+bool PreparaOrden(i16 Index) {
     TerminaOtrasOrdenes(Index);
-    if (!DejaOrdenManual(Index)) {
-        Pic_Boton_MouseMove(ORDEN_ORDENAR, 0, 0, 0, 0);  // its state must be fresh
-        Pic_Boton_MouseDown(ORDEN_ORDENAR, BOTON_IZQUIERDO, 0, 0, 0);
-        return;
-    }
-    Sigue([&] { ORDENES[Index - 1].hace(); });
+    if (DejaOrdenManual(Index)) return true;
+    Pic_Boton_MouseMove(ORDEN_ORDENAR, 0, 0, 0, 0);  // its state must be fresh
+    Pic_Boton_MouseDown(ORDEN_ORDENAR, BOTON_IZQUIERDO, 0, 0, 0);
+    return false;
+}
+
+void CumpleOrden(i16 Index) {
+    if (PreparaOrden(Index)) Sigue([&] { ORDENES[Index - 1].hace(); });
 }
 
 }  // namespace tessario

@@ -8,12 +8,13 @@ namespace tessario {
 
 inline constexpr i16 BOTON_USABLE = 23, BOTON_PROHIBIDO = 12;  // values of BotonEstado
 
-// The windows that commands 2, 4 and 5 open. The unit of each puts it here once, at start; a
-// command whose window is not here does all that surrounds it.
+// The windows that commands 2, 4 and 5 and the options panel open. They are put here once, at
+// start; a command whose window is not here does all that surrounds it.
 struct VentanasDeOrdenes {
     Ventana* Personal = nullptr;
     Ventana* Estadis = nullptr;
     Ventana* Historic = nullptr;
+    Ventana* Cargua = nullptr;  // of the options panel
 };
 extern VentanasDeOrdenes VentanasOrdenes;
 
@@ -21,6 +22,10 @@ extern VentanasDeOrdenes VentanasOrdenes;
 void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y);
 // What the press does once it has been accepted: ends the other commands and carries this one out.
 void CumpleOrden(i16 Index);
+// Ends what the other commands have left on the table, as each command does first. False: the
+// board that is being set up has no solution, and the arranging command ran in this one's place.
+bool PreparaOrden(i16 Index);
+inline constexpr i16 ORDEN_OPCION = 0;  // what a choice in the options panel counts as
 // Applies the enabling rule.
 void Pic_Boton_MouseMove(i16 Index, i16 Button, i16 Shift, float X, float Y);
 // Is the command forbidden now?

@@ -6,6 +6,7 @@
 #include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "core/Superficies.h"
 #include "panel/Adornos.h"
 #include "platform/Plataforma.h"
 #include "records/Modelos.h"
@@ -129,11 +130,21 @@ void Suena() {
     SonidoJuego(1, SONIDO_BOTON_VENTANA);
 }
 
+// A file of another game changes the game: the one that is left is kept as at any such change.
+void CargaElPuzzle() {
+    const i16 juego = Gbl.JuegoActual;
+    const std::string fichero = FicheroDelJuego(), partida = EscribePuzzle();
+    BarraHor.Pon(0);
+    BarraVer.Pon(0);
+    LeeAjustesJuego(FicheroPuzzle(Gbl.NombreActual));
+    if (Gbl.JuegoActual != juego) EscribeFichero(fichero, partida);
+}
+
 void Pic_BotCargar_Click() {
     Suena();
     Gbl.ColoresCambiados = false;
     if (!EstaActivo(Pic_BotCargar)) return;
-    Llama([] { LeeAjustesJuego(FicheroPuzzle(Gbl.NombreActual)); });
+    Llama(CargaElPuzzle);
     Sistema().Cierra(Cargua);
 }
 

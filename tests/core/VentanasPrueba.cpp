@@ -229,7 +229,7 @@ TEST_F(VentanasNucleo, ValuesStandInTheirPlaces) {
 }
 
 TEST_F(VentanasNucleo, EveryFixedMessageHasItsWords) {
-    EXPECT_EQ(Avisos().size(), 24U);
+    EXPECT_EQ(Avisos().size(), 27U);
     for (const Aviso* a : Avisos()) {
         EXPECT_FALSE(a->titulo.empty());
         EXPECT_FALSE(a->texto.empty());
