@@ -53,6 +53,15 @@ std::vector<std::string> Partes(const std::string& patron) {
     return partes;
 }
 
+// A name that begins with a dot is matched only by a pattern that says so.
+bool Casa(std::string_view nombre, const std::vector<std::string>& partes) {
+    const bool oculto = nombre.starts_with('.');
+    if (partes.empty()) return !oculto;
+    return std::any_of(partes.begin(), partes.end(), [&](const std::string& p) {
+        return p.starts_with('.') == oculto && Casa(nombre, std::string_view(p));
+    });
+}
+
 // The names of a folder for which `vale` holds, in order.
 template <class F>
 std::vector<std::string> Nombres(const std::string& ruta, F&& vale) {
@@ -61,7 +70,7 @@ std::vector<std::string> Nombres(const std::string& ruta, F&& vale) {
     fs::directory_iterator i(ruta, fs::directory_options::skip_permission_denied, e);
     for (; !e && i != fs::directory_iterator(); i.increment(e)) {
         const std::string nombre = i->path().filename().string();
-        if (!nombre.starts_with('.') && vale(*i, nombre)) nombres.push_back(nombre);
+        if (vale(*i, nombre)) nombres.push_back(nombre);
     }
     std::sort(nombres.begin(), nombres.end(), [](const std::string& a, const std::string& b) {
         const std::string x = SinCaja(a), y = SinCaja(b);
@@ -96,9 +105,9 @@ std::vector<Unidad> Unidades() {
 }
 
 std::vector<std::string> CarpetasDe(const std::string& ruta) {
-    return Nombres(ruta, [](const fs::directory_entry& d, const std::string&) {
+    return Nombres(ruta, [](const fs::directory_entry& d, const std::string& nombre) {
         std::error_code e;
-        return d.is_directory(e);
+        return !nombre.starts_with('.') && d.is_directory(e);
     });
 }
 
@@ -107,9 +116,7 @@ std::vector<std::string> FicherosDe(const std::string& ruta, const std::string& 
     return Nombres(ruta, [&](const fs::directory_entry& d, const std::string& nombre) {
         std::error_code e;
         if (!d.is_regular_file(e)) return false;
-        const std::string n = SinCaja(nombre);
-        return partes.empty() || std::any_of(partes.begin(), partes.end(),
-                                             [&](const std::string& p) { return Casa(n, p); });
+        return Casa(SinCaja(nombre), partes);
     });
 }
 

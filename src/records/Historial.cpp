@@ -24,18 +24,10 @@ std::string Decimal(float n) {
     return fin.ec == std::errc{} ? std::string(texto, fin.ptr) : std::string("0");
 }
 
-// A line of the file is a line: what would end it inside a text becomes a blank.
-std::string EnUnaLinea(std::string_view bytes) {
-    std::string s(bytes);
-    std::replace_if(
-        s.begin(), s.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
-    return s;
-}
-
 class Renglon {
 public:
     Renglon& Texto(std::string_view utf8) { return Bytes(A1252(utf8)); }
-    Renglon& Bytes(std::string_view bytes) { return Crudo(Entrecomilla(EnUnaLinea(bytes))); }
+    Renglon& Bytes(std::string_view bytes) { return Crudo(Entrecomilla(bytes)); }
     Renglon& Numero(i32 n) { return Crudo(std::to_string(n)); }
     Renglon& Crudo(const std::string& item) {
         if (!linea_.empty()) linea_ += ',';
@@ -103,7 +95,7 @@ private:
         for (; i < resto_.size(); ++i) {
             if (resto_[i] == '"' && (i + 1 == resto_.size() || resto_[i + 1] != '"')) break;
             if (resto_[i] == '"') ++i;
-            item += resto_[i];
+            item += resto_[i] == '\0' ? '\n' : resto_[i];
         }
         resto_.remove_prefix(std::min(i + 1, resto_.size()));
         // Nothing but the comma should follow.

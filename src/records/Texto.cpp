@@ -149,9 +149,14 @@ std::string De1252(std::string_view bytes) {
 }
 
 std::string TextoDeRuta(std::string_view bytes) {
+    std::string texto(bytes);
     for (std::size_t i = 0; i < bytes.size();)
-        if (LeeUtf8(bytes, i) == SIN_CODIGO) return De1252(bytes);
-    return std::string(bytes);
+        if (LeeUtf8(bytes, i) == SIN_CODIGO) {
+            texto = De1252(bytes);
+            break;
+        }
+    std::replace(texto.begin(), texto.end(), '\n', ' ');
+    return texto;
 }
 
 std::string Entrecomilla(std::string_view texto) {

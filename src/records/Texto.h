@@ -12,7 +12,8 @@ namespace tessario {
 
 std::string A1252(std::string_view utf8);  // a character that has no code becomes "?"
 std::string De1252(std::string_view bytes);
-// What the player sees of bytes of the file system: UTF-8, or else taken as Windows-1252.
+// What the player sees of bytes of the file system: UTF-8, or else taken as Windows-1252; on one
+// line.
 std::string TextoDeRuta(std::string_view bytes);
 
 // A quoted line: the text in double quotes, quotes inside doubled. `De` gives back the text of

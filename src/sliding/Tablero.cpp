@@ -211,6 +211,8 @@ void ReiniciaPartida() {
     Gbl.PuzzleArchivable = true;
     Gbl.PuzzleTerminado = false;
     Gbl.SegundosJuego = 0;
+    // A new puzzle is kept under no name yet; in the Tangram the name is its model's.
+    if (Gbl.JuegoActual != JuegoTangram) Gbl.NombrePuzzle.clear();
     Gbl.NumMovimientos = 0;
     Gbl.Movimientos.Redimensiona(MOVIMIENTOS_INICIALES);
     CambiaCrono(CRONO_MARCHA);

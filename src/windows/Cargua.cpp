@@ -205,6 +205,7 @@ void Tex_Nombre_KeyPress(i16 caracter) {
 void ColocaControles() {
     const Uso& uso = UsoActual();
     Tex_TituloCargua.Caption = uso.titulo;
+    Cargua.Caption = Trim(uso.titulo);
     PonMensaje(uso.mensaje);
     Tex_TituloCargua.Mueve(lugar::Izq, lugar::TituloArr);
     Tex_TituloCargua.Tamano(lugar::AnchoTexto, lugar::TituloAlto);
@@ -254,7 +255,7 @@ void ReiniciaControles() {
     Lis_CarGua.TabStop = true;
     Lis_CarGua.Ordenada = true;
     Fil_CarGua = ListaFicheros{};
-    Fil_CarGua.Pattern = std::string("*") + EXTENSION;
+    Fil_CarGua.Pattern = std::string("*") + EXTENSION + ";.*" + EXTENSION;
     Tex_NombreCargua = CajaTexto{};
     Tex_NombreCargua.Nombre = "Tex_Nombre";
     Tex_NombreCargua.NombreAccesible = "Nombre";

@@ -27,6 +27,14 @@ struct Juego {
         programa.PulsaBoton(boton);
         return Mira().Diferencia(antes, 0, 0, BOTONERA, ALTO);
     }
+    // Presses a button, unless 0, and closes with Escape the window that it opens.
+    bool AbreYCierra(int boton, const std::string& titulo) {
+        if (boton) programa.PulsaBoton(boton);
+        if (!e.Espera([&] { return e.HayVentana(titulo); })) return false;
+        e.EsperaQuieto(120);
+        e.Tecla("Escape");
+        return e.Espera([&] { return !e.HayVentana(titulo); });
+    }
     bool AyudaSeAbreYSeCierra() {
         programa.PulsaBoton(6);
         if (!e.Espera([&] { return e.HayVentana(AYUDA); })) return false;
@@ -72,7 +80,11 @@ TEST(BotoneraVentana, JigsawButtonsDoWhatTheyAreFor) {
     const PartidaGuardada p = Moviles();
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    for (int boton : {2, 4, 5}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
+    EXPECT_EQ(j.Cambia(2), 0);
+    EXPECT_TRUE(j.AbreYCierra(4, "Estadísticas"));
+    j.programa.PulsaBoton(5);
+    EXPECT_TRUE(j.e.Responde("Error leyendo el fichero histórico", false)) << "there is none yet";
+    EXPECT_TRUE(j.AbreYCierra(0, "Histórico de puzzles resueltos"));
 
     // The sample comes and goes: a third of the table's corner.
     EXPECT_GT(j.Cambia(8), 5000);
@@ -224,7 +236,11 @@ TEST(BotoneraVentana, SlidingButtonsDoWhatTheyAreFor) {
     const PartidaGuardada p = Deslizantes({1, 2, 3, 4, 5, 6, 8, 9}, 7);
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    for (int boton : {2, 4, 5}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
+    EXPECT_EQ(j.Cambia(2), 0);
+    EXPECT_TRUE(j.AbreYCierra(4, "Estadísticas"));
+    j.programa.PulsaBoton(5);
+    EXPECT_TRUE(j.e.Responde("Error leyendo el fichero histórico", false)) << "there is none yet";
+    EXPECT_TRUE(j.AbreYCierra(0, "Histórico de puzzles resueltos"));
     EXPECT_EQ(j.Cambia(8), 0) << "numbers have no sample";
     EXPECT_EQ(j.Cambia(9), 0) << "not there in this game";
     const Foto normal = j.Mira();
