@@ -36,6 +36,7 @@ protected:
     struct Renglon {
         std::string etiqueta, valor;
         bool operator==(const Renglon&) const = default;
+        friend void PrintTo(const Renglon& r, std::ostream* o) { *o << r.etiqueta << r.valor; }
     };
     // What stands in a panel: label and value by the top of the line. Blanks at the end are cut.
     std::map<i32, Renglon> Renglones(const Superficie& panel) {

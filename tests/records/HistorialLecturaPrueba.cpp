@@ -123,7 +123,8 @@ TEST_F(LecturaHistorial, NumbersInQuotesAndWithAForeignSeparatorAreNumbers) {
     RegistroHistorico r;
     ASSERT_TRUE(
         LeeLineaHistorico("\"d\" , \"h\" , \"21\" ,a, b,m,\"640\", 480 "
-                          ",80.4,1,2,3,1,0,9,5,6,\"12,5\",7,20,1,0,Ana Mar\xEDa",
+                          ",80.4,1,2,3,1,0,9,5,6,\"12,5\",7,20,1,0,Ana Mar\xED"
+                          "a",
                           r));
     EXPECT_EQ(r.Juego, 21);
     EXPECT_EQ(r.Fichero, "a");

@@ -44,6 +44,11 @@ protected:
         Lis_CarGua.Selecciona(fila);
     }
     bool Hay(const std::string& nombre) { return fs::exists(Gbl.CarpetaArchivo + nombre); }
+    // Slides a piece that stands next to the hole.
+    void PulsaPieza(i32 piece) {
+        const Pieza& p = Gbl.Piezas[piece];
+        Puntero.Pulsa(p.X + 20, p.Y + 20);
+    }
     // A sliding board under a name.
     void Guarda(const std::string& nombre) {
         ASSERT_EQ(GuardaPuzzle(Gbl.CarpetaArchivo + nombre), 0);
@@ -77,7 +82,9 @@ TEST_F(VentanaCargua, TitlePromptAndButtonFollowTheMode) {
             for (Cuadro* b : {&Pic_BotCargar, &Pic_BotGuardar, &Pic_BotBorrar})
                 EXPECT_EQ(b->Visible, b == c.boton);
             EXPECT_EQ(c.boton->MousePointer, 12);
-            if (c.sugerencia) EXPECT_EQ(c.boton->ToolTipText, c.sugerencia);
+            if (c.sugerencia) {
+                EXPECT_EQ(c.boton->ToolTipText, c.sugerencia);
+            }
             EXPECT_EQ(P().foco, &Tex_NombreCargua);
             EXPECT_FALSE(Gbl.AvisoExiste);
             EXPECT_EQ(Tex_NombreCargua.Text, "");
@@ -89,7 +96,7 @@ TEST_F(VentanaCargua, ListHoldsTheNamesInTextOrder) {
                           "a.puzz", "con blancos .puz", ".oculto.puz", ".puz"})
         Crea(std::string("Archivo/") + n, "");
     fs::create_directory(Gbl.CarpetaArchivo + "carpeta.puz");
-    for (const i16 modo : {1, 2, 3})
+    for (const i16 modo : {CARGUA_CARGAR, CARGUA_GUARDAR, CARGUA_BORRAR})
         Abre(modo, [&] {
             EXPECT_EQ(EnLista(), (Nombres{".oculto", "árbol", "con blancos ", "nube", "Ñandú",
                                           "oca", "Zorro"}));
@@ -169,10 +176,9 @@ TEST_F(VentanaCargua, EveryWayOfLoadingLoadsAndCloses) {
 
 TEST_F(VentanaCargua, LoadedTableIsTheVerySame) {
     Deslizantes(4);
-    Gbl.Movimientos.Redimensiona(2);
-    Gbl.NumMovimientos = 2;
-    Gbl.Movimientos[1] = {3, 10, 20, 0, 0, 30, 40, 0, 0};
-    Gbl.Movimientos[2] = {5, 11, 21, 0, 0, 31, 41, 0, 0};
+    TableroResuelto();
+    for (const i32 piece : {15, 11, 11}) PulsaPieza(piece);
+    ASSERT_EQ(Gbl.NumMovimientos, 3);
     Gbl.SegundosJuego = 4321;
     Gbl.PuzzleArchivable = false;
     Gbl.NombreJugador = "J\"sé";
@@ -189,7 +195,7 @@ TEST_F(VentanaCargua, LoadedTableIsTheVerySame) {
     Abre(1, [&] { DobleClic(0); });
     EXPECT_EQ(EscribePuzzle(), antes);
     EXPECT_EQ(std::vector<Pieza>(Gbl.Piezas.begin(), Gbl.Piezas.end()), piezas);
-    EXPECT_EQ(Gbl.NumMovimientos, 2);
+    EXPECT_EQ(Gbl.NumMovimientos, 3);
 }
 
 TEST_F(VentanaCargua, LoadOfAnotherGameKeepsTheOneThatIsLeft) {
@@ -494,7 +500,9 @@ TEST_F(VentanaCargua, ControlsLieWithinTheWindowAndHaveNames) {
             EXPECT_GE(c->Left, 0) << c->Nombre;
             EXPECT_LE(c->Left + c->Width(), Cargua.Width()) << c->Nombre;
             EXPECT_LE(c->Top + c->Height(), Cargua.Height()) << c->Nombre;
-            if (c->TabStop) EXPECT_FALSE(c->NombreAccesible.empty()) << c->Nombre;
+            if (c->TabStop) {
+                EXPECT_FALSE(c->NombreAccesible.empty()) << c->Nombre;
+            }
         }
         EXPECT_EQ(Tex_MensajeCargua.Width(), 365);
     });

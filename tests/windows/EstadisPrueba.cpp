@@ -45,7 +45,7 @@ TEST_F(VentanaEstadis, LinesOfAReducedJigsaw) {
         {60, {"Ubicación del archivo:", "/fotos/"}},
         {75, {"Tamaño de la imagen..:", "500 x 375 píxeles"}},
         {90, {"Reducción del tamaño.:", "80%"}},
-        {105, {"Tamaño reducido......:", "400 x 300 píxeles"}},
+        {105, {"Tamaño reducido......:", "396 x 296 píxeles"}},
         {130, {"Piezas por lado......:", "4"}},
         {145, {"Clase de piezas......:", "Cuádruples"}},
         {160, {"Tipo de piezas.......:", "Triángulos"}},
@@ -77,7 +77,7 @@ TEST_F(VentanaEstadis, EnlargedAndPlainSizes) {
     Moviles(3, 400, 300);
     Gbl.ZoomImagen = 130;
     EXPECT_EQ(Linea("Ampliación del tamaño:"), "130%");
-    EXPECT_EQ(Linea("Tamaño ampliado......:"), "400 x 300 píxeles");
+    EXPECT_EQ(Linea("Tamaño ampliado......:"), "399 x 300 píxeles");
     Gbl.ZoomImagen = 100;
     EXPECT_EQ(Linea("Zoom aplicado........:"), "Ninguno");
     EXPECT_EQ(Linea("Tamaño reducido"), "(none)");
@@ -162,8 +162,9 @@ TEST_F(VentanaEstadis, LinesOfASolvedModel) {
     EXPECT_EQ(filas.at(320), (Renglon{"¿Puzzle resuelto?....:", "Si"}));
     EXPECT_EQ(filas.size(), 20U);
     for (const auto& t : P().textos)
-        if (t.donde == &Tex_Estadis && t.texto.ends_with("px."))
+        if (t.donde == &Tex_Estadis && t.texto.ends_with("px.")) {
             EXPECT_EQ(t.x, 20 + 20 * 7) << "under the headings";
+        }
 }
 
 TEST_F(VentanaEstadis, FreeDesignSkipsToTheName) {
