@@ -11,6 +11,7 @@
 #include "qt/PlataformaQt.h"
 #include "qt/Senales.h"
 #include "qt/Unica.h"
+#include "session/CopiaSeguridad.h"
 #include "start/Arranque.h"
 
 namespace {
@@ -58,7 +59,10 @@ int main(int argc, char** argv) {
     unica.AlLlamar([&] { plataforma.TraeAlFrente(); });
     PonSistema(&plataforma);
     plataforma.SonidoDeMando = [] { SonidoJuego(1, SONIDO_MANDO); };
-    const Senales senales([&] { plataforma.Termina(); });
+    const Senales senales([&] {
+        CopiaAlTerminar();
+        plataforma.Termina();
+    });
 
     bool sigue = false;
     plataforma.Entrega([&] { sigue = Main(); });

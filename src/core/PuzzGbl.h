@@ -125,6 +125,13 @@ struct DatosGrabadora {
     Booleano AutoAtras, AutoAdelante;  // an automatic run goes back, forward
 };
 
+// ---------------------------------------------------------------- safety copy
+struct DatosCopia {
+    Booleano MovidoSinCopia;      // a move was made or taken back since the last copy or load
+    i32 SegundosSinCopia = 0;     // since the last copy; 300 waits for a moment of rest
+    std::string RecordEnAjustes;  // the game as it was when the settings opened; empty: closed
+};
+
 // ---------------------------------------------------------------- Tangram tables
 struct DatosTangram {
     Tabla<i16, 1, 7> TAncho, TAlto, TDiagonal;               // sizes, filled with the sizes
@@ -295,6 +302,7 @@ struct Bloque : DatosJuego,
                 DatosTamanos,
                 DatosPiezas,
                 DatosGrabadora,
+                DatosCopia,
                 DatosTangram,
                 DatosBanderas,
                 DatosRutas,

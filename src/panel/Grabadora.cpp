@@ -7,6 +7,7 @@
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
+#include "rules/PuzzBas.h"
 
 namespace tessario {
 
@@ -195,11 +196,16 @@ void ReproduceMovimiento(i16 sentido) {
         ReproduceRecorrido(r, adelante);
     else
         ReproduceOrientacion(r, adelante);
+    Gbl.MovidoSinCopia = true;
     Pic_Trabajo_Paint();
     Gbl.ArrastrandoPieza = false;
     MuestraColocadas();
     if (Gbl.PiezasColocadas == Gbl.NumPiezas) EntraEnCompleto();
     if (!adelante) Gbl.NumMovimientos = Corto(Gbl.NumMovimientos - 1);
+}
+
+bool PuedeEncenderGrabadora() {
+    return !CreandoFiguras() && !HayTareaEnCurso() && Gbl.NumMovimientos >= 1;
 }
 
 void EnciendeGrabadora() {

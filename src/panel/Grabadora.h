@@ -10,6 +10,9 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
                         i16 YDespues, i16 GiroDespues, i16 VolteoDespues);
 // 0 forward, 1 back.
 void ReproduceMovimiento(i16 sentido);
+// Can the recorder be switched on and go back? It is on show, no work is under way, and there is a
+// move in the log.
+bool PuedeEncenderGrabadora();
 void EnciendeGrabadora();
 void ApagaGrabadora();
 // The finished look on and off.

@@ -34,6 +34,7 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
     if (Gbl.JuegoActual == JuegoDeslizantes)
         m.GiroAntes = m.VolteoAntes = m.GiroDespues = m.VolteoDespues = 0;
     Gbl.Movimientos[Gbl.NumMovimientos] = m;
+    Gbl.MovidoSinCopia = true;
 }
 
 void EntraEnCompleto() {

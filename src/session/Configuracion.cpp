@@ -10,6 +10,7 @@
 #include "records/Texto.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
+#include "session/CopiaSeguridad.h"
 #include "session/Montaje.h"
 #include "sliding/Tablero.h"
 
@@ -195,16 +196,21 @@ void LeeAjustesJuego(const std::string& Fichero) {
     const bool propio = Fichero == FicheroDelJuego();
     Gbl.ErrorApertura = 0;
     BorraError();
+    // A puzzle that turns out to be damaged leaves a new deal in the place of the game in play; at
+    // a change of game that has been saved already.
+    const std::string anterior = propio ? std::string() : RecordParaCopia();
     std::string bytes;
     if (const i16 error = LeeFichero(Fichero, bytes))
         AvisaApertura(error, aviso::SIN_AJUSTES, aviso::ERROR_AJUSTES, Fichero);
     else
         Sigue([&] { LeePuzzle(bytes); });
+    Gbl.MovidoSinCopia = false;  // what lies on the table now is in a file, or about to be
     if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) return;
 
     if (Gbl.ErrorApertura == 0) AvisaImagenPerdida(ErrorPendiente());
     // A damaged file of a game is replaced by that game's defaults, whatever game it names.
     if (propio) Gbl.JuegoActual = juego;
+    GuardaCopia(anterior);
     BorraError();
     AjustesPorDefecto();
     MesaPorDefecto();

@@ -10,6 +10,7 @@
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
+#include "session/CopiaSeguridad.h"
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
@@ -145,7 +146,10 @@ void ConectaVentana() {
     };
     Timer1.Interval = INTERVALO_TIC;
     Timer1.Enabled = true;
-    Timer1.Timer = Aviso(Tic);
+    Timer1.Timer = Aviso([] {
+        Tic();
+        CopiaCadaTanto();
+    });
     Mesa.Temporizadores = {&Timer1};
 }
 

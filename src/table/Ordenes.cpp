@@ -5,12 +5,14 @@
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "session/CopiaSeguridad.h"
 #include "sliding/Movimientos.h"
 #include "sliding/Tablero.h"
 #include "start/Arranque.h"
@@ -61,6 +63,7 @@ void Baraja() {
     Gbl.RespuestaMensaje = true;
     if (ResolviendoModelo()) Avisa(aviso::MEZCLA_TANGRAM);
     if (!Gbl.RespuestaMensaje) return;
+    CopiaAntesDeRepartir();
     if (EsDeslizantes()) {
         BarajaPiezas();
         return;
@@ -73,12 +76,14 @@ void Baraja() {
 void RehaceMesa() {
     if (Gbl.ParametrosCambiados) {
         Reloj();
+        GuardaCopia(Gbl.RecordEnAjustes);
         PreparaJuego(true);
         if (EsDeslizantes()) ColocaPiezas(1);
     } else if (Gbl.ColoresCambiados) {
         Reloj();
         PreparaJuego(false);
         ColocaPiezas(EsDeslizantes() ? 1 : 0);
+        if (Gbl.PuzzleTerminado) EntraEnCompleto();
     }
 }
 
@@ -90,12 +95,14 @@ void CambiaDeJuego() {
 
 void Personaliza() {
     Gbl.JuegoAlEntrar = Gbl.JuegoActual;
+    Gbl.RecordEnAjustes = RecordParaCopia();
     ConRelojParado([] {
         Gbl.ParametrosCambiados = false;
         Gbl.ColoresCambiados = false;
         MuestraSiExiste(VentanasOrdenes.Personal);
         Sistema().Presenta();
         Sigue([] { Gbl.JuegoActual == Gbl.JuegoAlEntrar ? RehaceMesa() : CambiaDeJuego(); });
+        Gbl.RecordEnAjustes.clear();
         PunteroNormal();
     });
 }
@@ -181,7 +188,10 @@ void Ordena() {
     ConRelojParado([] {
         if (EsDeslizantes()) {
             PunteroNormal();
+            const bool sinOrdenar = !Gbl.OrdenManual;
             OrdenManualDeslizantes();
+            // What is set up by hand will be another puzzle.
+            if (sinOrdenar && Gbl.OrdenManual) CopiaAntesDeRepartir();
             return;
         }
         Gbl.OrdenandoPiezas = !Gbl.OrdenandoPiezas;

@@ -13,6 +13,7 @@
 #include "rules/PuzzBas.h"
 #include "sliding/Movimientos.h"
 #include "table/Atraccion.h"
+#include "table/Deshacer.h"
 #include "table/Final.h"
 #include "table/Giro.h"
 #include "table/Opciones.h"
@@ -38,6 +39,7 @@ constexpr i16 SONIDO_GIRO = 6, SONIDO_TOMA = 50, SONIDO_EN_SITIO = 51, SONIDO_SU
 constexpr i16 PAUSA_GIRO = 160;
 constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
 constexpr i16 PARALELOGRAMO = 7;
+constexpr i16 TECLA_DESHACER = 26;  // Ctrl+Z
 constexpr i16 OPCION_MODELO = 4;
 
 // ---------------------------------------------------------------- press
@@ -364,6 +366,9 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii) {
             // Nor does it change in the middle of other work.
             if (Gbl.JuegoActual == JuegoTangram && !Gbl.GrabadoraEncendida && !DentroDeTarea())
                 VolteaParalelogramo();
+            break;
+        case TECLA_DESHACER:
+            Deshaz();
             break;
         default:
             break;

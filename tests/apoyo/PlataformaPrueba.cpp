@@ -8,6 +8,7 @@
 
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
+#include "session/CopiaSeguridad.h"
 
 namespace tessario {
 
@@ -39,6 +40,7 @@ i32 AnchoCaracter(const Fuente& f) {
 PlataformaPrueba::PlataformaPrueba() : carpeta(CarpetaNueva()) {}
 
 PlataformaPrueba::~PlataformaPrueba() {
+    EsperaCopia();  // nothing is written into a folder that goes
     std::error_code e;
     fs::permissions(carpeta, fs::perms::owner_all, fs::perm_options::add, e);
     fs::remove_all(carpeta, e);

@@ -1,0 +1,23 @@
+#include "records/EscrituraAparte.h"
+
+#include <system_error>
+#include <utility>
+
+#include "records/Texto.h"
+
+namespace tessario {
+
+void EscrituraAparte::Empieza(std::string ruta, std::string bytes) {
+    Espera();
+    try {
+        hilo_ = std::thread([ruta, bytes] { EscribeFichero(ruta, bytes); });
+    } catch (const std::system_error&) {
+        EscribeFichero(ruta, bytes);  // a system that gives no thread: the player waits
+    }
+}
+
+void EscrituraAparte::Espera() {
+    if (hilo_.joinable()) hilo_.join();
+}
+
+}  // namespace tessario

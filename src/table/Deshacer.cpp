@@ -1,0 +1,44 @@
+#include "table/Deshacer.h"
+
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "core/Superficies.h"
+#include "panel/Cronometro.h"
+#include "panel/Grabadora.h"
+#include "table/Raton.h"
+#include "table/Tareas.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i16 ATRAS = 1;
+constexpr i16 BOTON_COLOCADAS = 10;  // command pressed for the player
+constexpr i16 SONIDO_TECLA = 6, SONIDO_RECHAZO = 11;
+constexpr i16 CURSOR_NORMAL = 0;
+
+bool SePuedeDeshacer() {
+    return !DentroDeTarea() && !Gbl.GrabadoraEncendida && PuedeEncenderGrabadora();
+}
+
+}  // namespace
+
+void Deshaz() {
+    Pic_SelOpciones.Visible = false;
+    if (!SePuedeDeshacer()) {
+        SonidoJuego(1, SONIDO_RECHAZO);
+        return;
+    }
+    // Moves are replayed in the pieces' own looks.
+    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    DetieneCrono();
+    SonidoJuego(1, SONIDO_TECLA);
+    // Deliberate: unlike one step back of the recorder, the first move goes back too.
+    Sigue([] { ReproduceMovimiento(ATRAS); });
+    ReponeCrono();
+    // What the pointer found may have gone from under it.
+    Gbl.PiezaActual = 0;
+    AplicaCursor(CURSOR_NORMAL);
+}
+
+}  // namespace tessario
