@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "apoyo/Datos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "pieces/Formas.h"
 #include "platform/Region.h"
@@ -16,9 +17,6 @@
 namespace tessario {
 
 inline constexpr i16 PIEZAS_TANGRAM = 7;
-
-inline constexpr const char* CARPETA_MODELOS = TESSARIO_DATOS "../../resources/modelos/";
-inline constexpr const char* FICHERO_SURTIDO = TESSARIO_DATOS "../../resources/modelos/Modelos.tpu";
 
 // A new game 23 on a screen of the platform's size.
 inline void AbreTangram(i16 modo) {

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <set>
 
+#include "apoyo/Datos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "panel/Sugerencias.h"
@@ -16,7 +17,7 @@ struct Texto {
 };
 
 std::vector<Texto> Textos() {
-    std::ifstream f(std::string(TESSARIO_DATOS) + "sugerencias.txt");
+    std::ifstream f(std::string(DATOS) + "sugerencias.txt");
     std::vector<Texto> v;
     for (std::string linea; std::getline(f, linea);) {
         if (linea.empty() || linea[0] == '#') continue;

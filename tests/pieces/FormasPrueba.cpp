@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "apoyo/Datos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "pieces/Formas.h"
 #include "rules/Medidas.h"
@@ -19,7 +20,7 @@ struct Poligono {
 };
 
 std::vector<Poligono> LeePoligonos() {
-    std::ifstream f(std::string(TESSARIO_DATOS) + "tangram_regions.txt");
+    std::ifstream f(std::string(DATOS) + "tangram_regions.txt");
     std::vector<Poligono> v;
     std::string linea;
     while (std::getline(f, linea)) {

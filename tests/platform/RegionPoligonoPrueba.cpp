@@ -3,6 +3,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "apoyo/Datos.h"
 #include "platform/Region.h"
 
 namespace tessario {
@@ -35,7 +36,7 @@ std::vector<T> LeeLista(std::istream& linea, T (*lee)(std::istream&)) {
 // Calls the function with the first word and the rest of each line of a table.
 int PorLineas(const std::string& fichero,
               const std::function<void(const std::string&, std::istream&)>& ve) {
-    std::ifstream entrada(TESSARIO_DATOS + fichero);
+    std::ifstream entrada(DATOS + fichero);
     std::string texto;
     int lineas = 0;
     while (std::getline(entrada, texto)) {

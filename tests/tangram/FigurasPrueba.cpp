@@ -1,6 +1,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "apoyo/Datos.h"
 #include "apoyo/MesaTangram.h"
 #include "core/Superficies.h"
 #include "tangram/Figuras.h"
@@ -19,7 +20,7 @@ struct Dorada {
 };
 
 std::vector<Dorada> LeeDoradas() {
-    std::ifstream entrada(TESSARIO_DATOS "tangram_regions.txt");
+    std::ifstream entrada(std::string(DATOS) + "tangram_regions.txt");
     std::vector<Dorada> tabla;
     std::string linea;
     while (std::getline(entrada, linea)) {

@@ -1,0 +1,9 @@
+#include "apoyo/Datos.h"
+
+namespace tessario {
+
+const char* const DATOS = TESSARIO_DATOS;
+const char* const CARPETA_MODELOS = TESSARIO_DATOS "../../resources/modelos/";
+const char* const FICHERO_SURTIDO = TESSARIO_DATOS "../../resources/modelos/Modelos.tpu";
+
+}  // namespace tessario
