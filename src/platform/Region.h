@@ -49,6 +49,7 @@ public:
 private:
     friend int CombineRgn(Region&, const Region&, const Region&, int);
     friend Region CreatePolygonRgn(std::span<const Punto>);
+    friend Region RegionDeTramos(std::span<const Rect>);
     std::vector<Rect> rects_;
 };
 
@@ -62,6 +63,9 @@ void SetRectRgn(Region& r, i32 izq, i32 arr, i32 der, i32 aba);
 // Corners are first brought within LIMITE_POLIGONO of the origin, several times what an i16 holds.
 inline constexpr i32 LIMITE_POLIGONO = 1 << 17;
 Region CreatePolygonRgn(std::span<const Punto> vertices);
+
+// The region of runs of pixels: one row high, in order of rows and columns, none over another.
+Region RegionDeTramos(std::span<const Rect> tramos);
 
 // destino := a (mode) b, and its result code. destino may be one of the operands. Difference is
 // a without b; a copy takes a alone. Any other mode empties destino.

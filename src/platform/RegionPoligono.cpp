@@ -93,4 +93,17 @@ Region CreatePolygonRgn(std::span<const Punto> vertices) {
     return region;
 }
 
+Region RegionDeTramos(std::span<const Rect> tramos) {
+    Region region;
+    BandasRegion salida(region.rects_);
+    for (std::size_t i = 0; i < tramos.size();) {
+        const i32 y = tramos[i].Arr;
+        salida.Abre(y, y + 1);
+        for (; i < tramos.size() && tramos[i].Arr == y; ++i)
+            salida.Tramo(tramos[i].Izq, tramos[i].Der);
+        salida.Cierra();
+    }
+    return region;
+}
+
 }  // namespace tessario

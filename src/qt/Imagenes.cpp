@@ -14,6 +14,9 @@
 #include <new>
 
 #include "core/Errores.h"
+#include "platform/Dib.h"
+#include "platform/Metafichero.h"
+#include "qt/Letras.h"
 
 namespace tessario::imagenes {
 
@@ -23,24 +26,49 @@ namespace {
 constexpr long long PIXELES_MAXIMOS = 128LL * 1024 * 1024;
 constexpr int MEMORIA_MAXIMA_MB = 520;
 
-constexpr std::array<const char*, 5> FORMATOS{"bmp", "jpeg", "jpg", "png", "gif"};
+constexpr std::array<const char*, 4> FORMATOS{"jpeg", "jpg", "png", "gif"};
+// The largest BMP file, in bytes: what the largest picture takes at four bytes for each pixel.
+constexpr qint64 BMP_MAXIMO = 4 * PIXELES_MAXIMOS + 65536;
 
 bool Conocido(const QByteArray& formato) {
     return std::any_of(FORMATOS.begin(), FORMATOS.end(),
                        [&](const char* f) { return formato == f; });
 }
 
-// Is this a bitmap file whose header claims more than we read? The reader refuses those as if they
-// were no picture at all.
-bool BmpDesmedido(QIODevice& origen) {
-    const QByteArray c = origen.peek(26);
-    if (c.size() < 26 || !c.startsWith("BM") || static_cast<unsigned char>(c[14]) < 40)
-        return false;
-    qint32 ancho = 0, alto = 0;
-    std::memcpy(&ancho, c.constData() + 18, 4);
-    std::memcpy(&alto, c.constData() + 22, 4);
-    return std::abs(static_cast<long long>(ancho)) * std::abs(static_cast<long long>(alto)) >
-           PIXELES_MAXIMOS;
+// Files of kinds that are read by our own readers.
+enum class Propia { Ninguna, Bmp, Metafichero };
+
+Propia ClaseDe(QIODevice& origen) {
+    constexpr qint64 CABEZA = 128;
+    const QByteArray c = origen.peek(CABEZA);
+    const Bytes b(reinterpret_cast<const u8*>(c.constData()), static_cast<std::size_t>(c.size()));
+    if (EsBmp(b)) return Propia::Bmp;
+    return EsMetafichero(b) ? Propia::Metafichero : Propia::Ninguna;
+}
+
+i32 ErrorDe(Lectura l) {
+    return l == Lectura::Bien ? 0 : l == Lectura::Desmedida ? ERROR_MEMORIA : ERROR_IMAGEN;
+}
+
+i32 LeePropia(QIODevice& origen, Propia clase, Mapa& destino) {
+    const auto maximo = clase == Propia::Bmp ? BMP_MAXIMO : qint64{METAFICHERO_BYTES};
+    if (origen.size() > maximo) return ERROR_MEMORIA;
+    const QByteArray c = origen.readAll();
+    const Bytes b(reinterpret_cast<const u8*>(c.constData()), static_cast<std::size_t>(c.size()));
+    if (clase == Propia::Bmp) return ErrorDe(LeeBmp(b, destino));
+    Letras letras;
+    PintorRaster pintor(letras);
+    const i32 error = ErrorDe(PintaMetafichero(b, pintor));
+    if (error == 0) destino = std::move(pintor.Dibujo());
+    return error;
+}
+
+i32 MidePropia(QIODevice& origen, Propia clase, i32& ancho, i32& alto) {
+    constexpr qint64 CABEZA = 64 * 1024;
+    const QByteArray c = origen.peek(CABEZA);
+    const Bytes b(reinterpret_cast<const u8*>(c.constData()), static_cast<std::size_t>(c.size()));
+    return ErrorDe(clase == Propia::Bmp ? MideBmp(b, ancho, alto)
+                                        : MideMetafichero(b, ancho, alto));
 }
 
 enum class Clases { DeListas, Todas };
@@ -80,7 +108,8 @@ i32 Decodifica(QImageReader& lector, QSize medida, Mapa& destino) {
 }
 
 i32 Lee(QIODevice& origen, Clases clases, Mapa& destino) {
-    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    if (const Propia p = ClaseDe(origen); p != Propia::Ninguna)
+        return LeePropia(origen, p, destino);
     QImageReader lector(&origen);
     QSize medida;
     if (const i32 error = Examina(lector, clases, medida)) return error;
@@ -88,7 +117,8 @@ i32 Lee(QIODevice& origen, Clases clases, Mapa& destino) {
 }
 
 i32 LeeMedida(QIODevice& origen, i32& ancho, i32& alto) {
-    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    if (const Propia p = ClaseDe(origen); p != Propia::Ninguna)
+        return MidePropia(origen, p, ancho, alto);
     QImageReader lector(&origen);
     QSize medida;
     if (const i32 error = Examina(lector, Clases::DeListas, medida)) return error;
@@ -122,7 +152,12 @@ Mapa Estira(const Mapa& m, i32 ancho, i32 alto) {
 
 // Decoders that can leave out what a smaller picture does not need, and do so in large steps.
 i32 LeeReducida(QIODevice& origen, i32 ancho, i32 alto, Mapa& destino) {
-    if (BmpDesmedido(origen)) return ERROR_MEMORIA;
+    Mapa m;
+    if (const Propia p = ClaseDe(origen); p != Propia::Ninguna) {
+        if (const i32 error = LeePropia(origen, p, m)) return error;
+        destino = Estira(m, ancho, alto);
+        return 0;
+    }
     QImageReader lector(&origen);
     QSize medida;
     if (const i32 error = Examina(lector, Clases::DeListas, medida)) return error;
@@ -133,7 +168,6 @@ i32 LeeReducida(QIODevice& origen, i32 ancho, i32 alto, Mapa& destino) {
             medida = {};
         }
     }
-    Mapa m;
     if (const i32 error = Decodifica(lector, medida, m)) return error;
     destino = Estira(m, ancho, alto);
     return 0;
