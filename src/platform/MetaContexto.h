@@ -64,9 +64,10 @@ public:
                  const Matriz& base, PuntoD pixelesPorMm);
 
     EstadoMeta E;
-    // Boxes hold their right column and lower row when no pen draws them, and pens of the kind
-    // that stays inside do not: so it is in one of the two kinds of files.
-    bool CajasEnteras = false;
+    // Deliberate: the two kinds of files do not draw alike. In an EMF a box without a pen holds its
+    // right column and lower row, pens that stay inside boxes do not, and what a pen draws with a
+    // mode meets the filling below it.
+    bool ReglasEmf = false;
     void Guarda();
     void Restaura(i32 nivel);  // below 0 relative, above 0 absolute
     Esfuerzo& Gasto() { return esfuerzo_; }
@@ -145,6 +146,7 @@ private:
     Contorno& FiguraAbierta();
     void Anade(Trazado t);
     void Pinta(Trazado t, bool rellena);
+    void Figura(const Trazado& t, bool alterno, bool rellena, bool traza);
     void Curva(PuntoD a, PuntoD b, PuntoD c, PuntoD d, std::vector<PuntoD>& p);
     void Cuenta(std::size_t puntos);         // their work, and that they are not too many
     static void Limita(std::size_t puntos);  // the latter alone

@@ -54,10 +54,20 @@ void ContextoMeta::Pinta(Trazado t, bool rellena) {
         Anade(std::move(t));
         return;
     }
+    Figura(t, E.Alterno, rellena, true);
+}
+
+void ContextoMeta::Figura(const Trazado& t, bool alterno, bool rellena, bool traza) {
     const ModosMeta m = Modos();
-    const BrochaMeta b = BrochaDe(*E.ObjBrocha);
-    if (rellena && b.Tipo != BrochaMeta::Clase::Nula) pintor_.Rellena(t, E.Alterno, b, m);
-    const PlumaMeta p = PlumaViva();
+    BrochaMeta b = BrochaDe(*E.ObjBrocha);
+    PlumaMeta p = PlumaViva();
+    if (!rellena) b.Tipo = BrochaMeta::Clase::Nula;
+    if (!traza) p.Nula = true;
+    if (!ReglasEmf) {
+        pintor_.Figura(t, alterno, b, p, m);
+        return;
+    }
+    if (b.Tipo != BrochaMeta::Clase::Nula) pintor_.Rellena(t, alterno, b, m);
     if (!p.Nula) pintor_.Traza(t, p, m);
 }
 
@@ -193,11 +203,11 @@ void ContextoMeta::Poligonos(const std::vector<std::vector<PuntoD>>& p, bool cer
 std::optional<ContextoMeta::CajaFigura> ContextoMeta::Caja(PuntoD a, PuntoD b, bool girada) const {
     const Matriz m = AlDispositivo();
     const PlumaMeta pluma = PlumaViva();
-    const bool encoge = pluma.Dentro && !pluma.Fina && !pluma.Nula && !CajasEnteras;
+    const bool encoge = pluma.Dentro && !pluma.Fina && !pluma.Nula && !ReglasEmf;
     const double dentro = encoge ? pluma.Ancho / 2 : 0;
     CajaFigura c;
     if (m.Recta() || (!girada && !enCamino_)) {
-        const double borde = CajasEnteras && pluma.Nula ? 0 : 1;
+        const double borde = ReglasEmf && pluma.Nula ? 0 : 1;
         const PuntoD p = Redondo(a), q = Redondo(b);
         const double izq = std::min(p.x, q.x), der = std::max(p.x, q.x) - borde;
         const double arr = std::min(p.y, q.y), aba = std::max(p.y, q.y) - borde;
@@ -358,15 +368,10 @@ void ContextoMeta::PintaCamino(bool rellena, bool traza) {
     Trazado t;
     t.swap(camino_);
     puntosCamino_ = 0;
-    const ModosMeta m = Modos();
-    if (rellena) {
-        const BrochaMeta b = BrochaDe(*E.ObjBrocha);
-        // What is filled is closed; what is filled and drawn is drawn closed.
-        if (b.Tipo != BrochaMeta::Clase::Nula) pintor_.Rellena(t, E.Alterno && !ensanchado_, b, m);
+    // What is filled is closed; what is filled and drawn is drawn closed.
+    if (rellena)
         for (Contorno& c : t) c.Cerrado = true;
-    }
-    const PlumaMeta p = PlumaViva();
-    if (traza && !p.Nula) pintor_.Traza(t, p, m);
+    Figura(t, E.Alterno && !ensanchado_, rellena, traza);
 }
 
 void ContextoMeta::EnsanchaCamino() {

@@ -784,7 +784,7 @@ Lectura PintaEmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
     if (const Lectura l = LeeCabecera(f, cab); l != Lectura::Bien) return l;
     pintor.Abre(cab.Ancho, cab.Alto, esfuerzo);
     ContextoMeta contexto(pintor, esfuerzo, cab.Ancho, cab.Alto, Base(cab), cab.PixelesPorMm);
-    contexto.CajasEnteras = true;
+    contexto.ReglasEmf = true;
     LectorEmf lector(contexto, Lee16(f, 56));
     u32 registros = 0;
     for (std::size_t i = cab.Largo; i < f.size();) {

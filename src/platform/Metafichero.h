@@ -139,6 +139,9 @@ public:
     virtual void Abre(i32 ancho, i32 alto, Esfuerzo& esfuerzo) = 0;
     virtual void Rellena(const Trazado& t, bool alterno, const BrochaMeta& b,
                          const ModosMeta& m) = 0;
+    // Filled and then drawn around; what the pen covers is not filled before.
+    virtual void Figura(const Trazado& t, bool alterno, const BrochaMeta& b, const PlumaMeta& p,
+                        const ModosMeta& m) = 0;
     virtual void RellenaRegion(const Region& r, const BrochaMeta& b, const ModosMeta& m) = 0;
     virtual void Traza(const Trazado& t, const PlumaMeta& p, const ModosMeta& m) = 0;
     virtual void Copia(const CopiaMeta& c, const BrochaMeta& b, const ModosMeta& m) = 0;

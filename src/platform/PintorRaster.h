@@ -31,6 +31,8 @@ public:
 
     void Abre(i32 ancho, i32 alto, Esfuerzo& esfuerzo) override;
     void Rellena(const Trazado& t, bool alterno, const BrochaMeta& b, const ModosMeta& m) override;
+    void Figura(const Trazado& t, bool alterno, const BrochaMeta& b, const PlumaMeta& p,
+                const ModosMeta& m) override;
     void RellenaRegion(const Region& r, const BrochaMeta& b, const ModosMeta& m) override;
     void Traza(const Trazado& t, const PlumaMeta& p, const ModosMeta& m) override;
     void Copia(const CopiaMeta& c, const BrochaMeta& b, const ModosMeta& m) override;

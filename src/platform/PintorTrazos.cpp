@@ -251,4 +251,48 @@ void PintorRaster::Traza(const Trazado& t, const PlumaMeta& p, const ModosMeta& 
     }
 }
 
+// Where the pen's colour meets what is there, it must not meet the brush's: the pen's pixels are
+// found on a sheet of their own and put back before it draws.
+void PintorRaster::Figura(const Trazado& t, bool alterno, const BrochaMeta& b, const PlumaMeta& p,
+                          const ModosMeta& m) {
+    const bool rellena = b.Tipo != BrochaMeta::Clase::Nula;
+    if (p.Nula || !rellena || m.Rop2 == MODO_COPIA) {
+        if (rellena) Rellena(t, alterno, b, m);
+        if (!p.Nula) Traza(t, p, m);
+        return;
+    }
+    const Rect caja = m.Recorte->Caja();
+    if (caja.Vacio()) return;
+    double arr = caja.Aba, aba = caja.Arr;
+    for (const Contorno& c : t)
+        for (const PuntoD& q : c.Puntos) {
+            arr = std::min(arr, q.y);
+            aba = std::max(aba, q.y);
+        }
+    const double margen = p.Ancho * std::max(p.Inglete, 1.0) + 2;
+    const auto desde =
+        static_cast<i32>(std::clamp(arr - margen, double(caja.Arr), double(caja.Aba)));
+    const auto hasta =
+        static_cast<i32>(std::clamp(aba + margen, double(caja.Arr), double(caja.Aba)));
+    if (desde >= hasta) return;
+    esfuerzo_->Gasta((hasta - desde) * 4LL * m_.Ancho);
+    const std::vector<Pixel> antes(m_.Fila(desde),
+                                   m_.Fila(desde) + std::ptrdiff_t{hasta - desde} * m_.Ancho);
+    Rellena(t, alterno, b, m);
+    const std::vector<Pixel> relleno(m_.Fila(desde),
+                                     m_.Fila(desde) + std::ptrdiff_t{hasta - desde} * m_.Ancho);
+    constexpr Pixel MARCA = 0x1000000;  // a colour that no picture has
+    PlumaMeta marca = p;
+    marca.Brocha = BrochaMeta{};
+    marca.Brocha.Tinta = MARCA;
+    ModosMeta modos = m;
+    modos.Rop2 = MODO_COPIA;
+    modos.Fondo = MARCA;
+    Traza(t, marca, modos);
+    Pixel* const fila = m_.Fila(desde);
+    for (std::size_t i = 0; i < antes.size(); ++i)
+        fila[i] = fila[i] == MARCA ? antes[i] : relleno[i];
+    Traza(t, p, m);
+}
+
 }  // namespace tessario
