@@ -11,6 +11,7 @@
 #include "bench/Razon.h"
 #include "core/Superficies.h"
 #include "jigsaw/Corte.h"
+#include "panel/Colocadas.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"

@@ -14,6 +14,7 @@
 #include "start/Arranque.h"
 #include "table/Atraccion.h"
 #include "tangram/Desolape.h"
+#include "tangram/Pegado.h"
 
 namespace tessario::bench {
 

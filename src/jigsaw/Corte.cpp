@@ -5,11 +5,11 @@
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "jigsaw/Plantillas.h"
+#include "panel/Barajado.h"
 #include "panel/Botonera.h"
 #include "panel/Desplazamiento.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
-#include "table/Barajado.h"
 
 namespace tessario {
 

@@ -3,7 +3,9 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {
@@ -66,7 +68,7 @@ void ColocaBotones() {
         boton.Mueve(lugar.x, lugar.y);
         boton.Tamano(LADO_BOTON, LADO_BOTON);
         boton.ToolTipText = lugar.ayuda;
-        boton.Visible = i != BOTON_OCULTAS || Gbl.JuegoActual == JuegoMoviles;
+        boton.Visible = i != BOTON_OCULTAS || JuegoEnCurso().OrdenOcultas;
         BitBlt(boton, 0, 0, LADO_BOTON, LADO_BOTON, Pic_BmpBoton, (i - 1) * PASO_BOTON, 0, SRCCOPY);
     }
 }

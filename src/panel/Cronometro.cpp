@@ -8,6 +8,7 @@
 #include "core/Superficies.h"
 #include "panel/Sugerencias.h"
 #include "platform/Plataforma.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {
@@ -28,7 +29,6 @@ struct EstiloVisor {
     Color marco, esquina;  // the whole outline; then its top and left side
 };
 constexpr EstiloVisor VISOR_RELIEVE{6719726, 1186423}, VISOR_HUNDIDO{16777215, 8421504};
-constexpr i16 ESTILO_CONTADOR = 1, ESTILO_RELOJ = 2;
 constexpr i16 LETRA_VISOR = 12;  // pixels
 
 constexpr i32 SEGUNDOS_DIA = 86400;
@@ -54,15 +54,6 @@ bool DentroDelInterruptor(float X, float Y) {
 }
 
 // ---------------------------------------------------------------- choice of the hints
-bool EsMoviles() {
-    return Gbl.JuegoActual == JuegoMoviles;
-}
-bool EsDeslizantes() {
-    return Gbl.JuegoActual == JuegoDeslizantes;
-}
-bool EsTangram() {
-    return Gbl.JuegoActual == JuegoTangram;
-}
 bool SinTerminar() {
     return !Gbl.PuzzleTerminado;
 }
@@ -87,22 +78,16 @@ const BandaSugerencia BANDAS[] = {
     {16, 20, Siempre, SEGUN_BORDE},
     {21, 25, SinTerminar, 45},
     {26, 30, [] { return SinTerminar() && !Gbl.TutorEsperando; }, 50},
-    {31, 35, [] { return EsMoviles() || ResolviendoModelo(); }, 25},
-    {36, 40, [] { return EsMoviles() && AlgunaColocada() && SinTerminar(); }, 30},
-    {41, 45, [] { return (EsMoviles() || EsTangram()) && SinTerminar(); }, 34},
-    {46, 50, [] { return EsDeslizantes() && SinTerminar(); }, 36},
-    {51, 55,
-     [] {
-         const bool conImagen = EsDeslizantes() && Gbl.TipoFondo == FONDO_IMAGEN;
-         return (EsMoviles() || conImagen) && !Gbl.MostrarMuestra;
-     },
-     40},
-    {56, 60, [] { return ((EsMoviles() && Gbl.PermitirGiro) || EsTangram()) && SinTerminar(); },
-     47},
-    {61, 65, EsDeslizantes, 60},
-    {66, 70, EsTangram, 63},
-    {71, 75, EsMoviles, 65},
-    {76, 80, EsTangram, 67},
+    {31, 35, [] { return JuegoEnCurso().AtraeASuSitio(); }, 25},
+    {36, 40, [] { return JuegoEnCurso().OrdenOcultas && AlgunaColocada() && SinTerminar(); }, 30},
+    {41, 45, [] { return JuegoEnCurso().OrdenaLaterales && SinTerminar(); }, 34},
+    {46, 50, [] { return JuegoEnCurso().OrdenaAMano && SinTerminar(); }, 36},
+    {51, 55, [] { return JuegoEnCurso().HayMuestra() && !Gbl.MostrarMuestra; }, 40},
+    {56, 60, [] { return JuegoEnCurso().SugiereGiro() && SinTerminar(); }, 47},
+    {61, 65, [] { return JuegoEnCurso().EligeFondo; }, 60},
+    {66, 70, [] { return JuegoEnCurso().TieneModos; }, 63},
+    {71, 75, [] { return JuegoEnCurso().TieneFormas; }, 65},
+    {76, 80, [] { return JuegoEnCurso().SeAtraen; }, 67},
     {81, 85, [] { return !CreandoFiguras(); }, 75},
     {86, 90, Siempre, 77},
     {91, 95, CreandoFiguras, 78},
@@ -117,7 +102,7 @@ i16 SugerenciaDeSorteo(double r) {
         if (r < b.desde || r > b.hasta) continue;
         if (!b.vale()) return 0;
         if (b.sugerencia == SEGUN_BORDE) return Gbl.DibujarBorde ? 42 : 43;
-        if (b.sugerencia == SEGUN_JUEGO) return Gbl.JuegoActual;
+        if (b.sugerencia == SEGUN_JUEGO) return JuegoEnCurso().Sugerencia;
         return b.sugerencia;
     }
     return 0;  // between two bands
@@ -162,7 +147,7 @@ void ReponeCrono() {
 }
 
 void PintaTiempo() {
-    DibujaVisor(Pic_CroTime, TextoTiempo(Gbl.SegundosJuego), ESTILO_RELOJ);
+    DibujaVisor(Pic_CroTime, TextoTiempo(Gbl.SegundosJuego), VISOR_RELOJ);
 }
 
 void Tic() {
@@ -178,19 +163,8 @@ void Tic() {
     EligeSugerencia();
 }
 
-void PintaColocadas() {
-    DibujaVisor(Pic_InfoColo,
-                std::to_string(Gbl.PiezasColocadas) + " / " + std::to_string(Gbl.NumPiezas),
-                ESTILO_CONTADOR);
-}
-
-void MuestraColocadas() {
-    Gbl.PiezasColocadas = CuentaColocadas();
-    if (!CreandoFiguras()) PintaColocadas();
-}
-
 void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo) {
-    const EstiloVisor& e = estilo == ESTILO_CONTADOR ? VISOR_RELIEVE : VISOR_HUNDIDO;
+    const EstiloVisor& e = estilo == VISOR_CONTADOR ? VISOR_RELIEVE : VISOR_HUNDIDO;
     const i32 w = destino.Width();
     const i32 h = destino.Height();
     destino.FillColor = VISOR_FONDO;

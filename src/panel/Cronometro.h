@@ -1,4 +1,4 @@
-// The chronometer, the counter of placed pieces, the bevelled display that both share, and the
+// The chronometer, the bevelled display that it shares with the counter of placed pieces, and the
 // once-a-second tick that also chooses the hints.
 #pragma once
 
@@ -17,12 +17,10 @@ void DetieneCrono();
 void ReponeCrono();
 // One second of the timer.
 void Tic();
-// Recounts the pieces in their place and shows the count.
-void MuestraColocadas();
-// The displays as they stand: the counter without a recount, and the clock.
-void PintaColocadas();
+// The clock's display as it stands.
 void PintaTiempo();
-// The bevelled display: style 1 raised for the counter, 2 sunken for the clock.
+// The bevelled display: raised for the counter, sunken for the clock.
+inline constexpr i16 VISOR_CONTADOR = 1, VISOR_RELOJ = 2;
 void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo);
 // Seconds as H:MM:SS, from 0 again after 24 hours.
 std::string TextoTiempo(i32 segundos);

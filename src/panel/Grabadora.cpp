@@ -4,10 +4,12 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "rules/PuzzBas.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -163,13 +165,13 @@ Tecla ZonaBajo(float X, float Y, i32 Zona::*ancho) {
     return Ninguna;
 }
 
-// A straight move: the piece runs, and in the sliding game the hole takes the place it leaves.
+// A straight move: the piece runs, and where there is a hole it takes the place it leaves.
 void ReproduceRecorrido(const Movimiento& r, bool adelante) {
     const i16 x0 = adelante ? r.XAntes : r.XDespues, y0 = adelante ? r.YAntes : r.YDespues;
     const i16 x1 = adelante ? r.XDespues : r.XAntes, y1 = adelante ? r.YDespues : r.YAntes;
     SubePieza(PosicionEnOrden(r.Pieza));
     DeslizaPieza(x0, y0, x1, y1, r.Pieza);
-    if (Gbl.JuegoActual != JuegoDeslizantes) return;
+    if (!JuegoEnCurso().TieneHueco) return;
     Gbl.HuecoX = x0;
     Gbl.HuecoY = y0;
 }

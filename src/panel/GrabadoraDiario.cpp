@@ -1,25 +1,15 @@
 // The part of the recorder that every game writes to, panel or no panel: the log itself and the
 // finished look. Declared in Grabadora.h.
 #include "core/PuzzGbl.h"
-#include "core/Superficies.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
-#include "rules/PuzzBas.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
 namespace {
 
 constexpr i32 AMPLIACION_REGISTRO = 100;  // entries by which a full log grows
-
-bool TangramSinBordes() {
-    return Gbl.JuegoActual == JuegoTangram && !Gbl.DibujarBorde;
-}
-
-// The puzzle's area of the table's picture, from another surface.
-void CopiaEnImagen(const Superficie& origen) {
-    BitBlt(Pic_Imagen, 0, 0, Gbl.AnchoPuzzle, Gbl.AltoPuzzle, origen, 0, 0, SRCCOPY);
-}
 
 }  // namespace
 
@@ -31,7 +21,7 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
         Gbl.Movimientos.Amplia(Gbl.Movimientos.Superior() + AMPLIACION_REGISTRO);
     Movimiento m{piece,    XAntes,   YAntes,      GiroAntes,    VolteoAntes,
                  XDespues, YDespues, GiroDespues, VolteoDespues};
-    if (Gbl.JuegoActual == JuegoDeslizantes)
+    if (JuegoEnCurso().Giros == 1)  // pieces that do not turn have no orientation to remember
         m.GiroAntes = m.VolteoAntes = m.GiroDespues = m.VolteoDespues = 0;
     Gbl.Movimientos[Gbl.NumMovimientos] = m;
     Gbl.MovidoSinCopia = true;
@@ -39,25 +29,13 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
 
 void EntraEnCompleto() {
     Gbl.PuzzleTerminado = true;
-    if (Gbl.JuegoActual == JuegoMoviles) {
-        // The picture itself, whole: the joints disappear.
-        CopiaEnImagen(Pic_FonTamModi);
-    } else if (TangramSinBordes()) {
-        Gbl.DibujarBorde = true;
-        Sigue([] { ColocaPiezas(2); });
-        Gbl.DibujarBorde = false;
-    }
+    JuegoEnCurso().EntraEnCompleto();
     Pic_Trabajo_Paint();
 }
 
 void SaleDeCompleto() {
     Gbl.PuzzleTerminado = false;
-    if (Gbl.JuegoActual == JuegoMoviles) {
-        CopiaEnImagen(Pic_Bitmap);
-        Pic_Trabajo_Paint();
-    } else if (TangramSinBordes()) {
-        ColocaPiezas(1);
-    }
+    JuegoEnCurso().SaleDeCompleto();
 }
 
 }  // namespace tessario

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/PuzzGbl.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -109,18 +110,13 @@ i16 PiezasDeCelda(i16 forma) {
 }
 
 i16 AnchoDePieza(i16 piece, i16 giro, i16 volteo) {
-    // Deliberate: in game 21 the test is for the values 0 and 2, not for an even number.
-    if (Gbl.JuegoActual == JuegoMoviles)
-        return giro == 0 || giro == 2 ? Gbl.AnchoPieza : Gbl.AltoPieza;
-    if (Gbl.JuegoActual == JuegoTangram) TMidePieza(piece, giro, volteo);
-    return Gbl.AnchoPieza;
+    const auto ancho = JuegoEnCurso().Ancho;
+    return ancho ? ancho(piece, giro, volteo) : Gbl.AnchoPieza;
 }
 
 i16 AltoDePieza(i16 piece, i16 giro, i16 volteo) {
-    if (Gbl.JuegoActual == JuegoMoviles)
-        return giro == 0 || giro == 2 ? Gbl.AltoPieza : Gbl.AnchoPieza;
-    if (Gbl.JuegoActual == JuegoTangram) TMidePieza(piece, giro, volteo);
-    return Gbl.AltoPieza;
+    const auto alto = JuegoEnCurso().Alto;
+    return alto ? alto(piece, giro, volteo) : Gbl.AltoPieza;
 }
 
 void TMidePieza(i16 piece, i16 giro, i16 volteo) {

@@ -6,6 +6,7 @@
 #include "core/Superficies.h"
 #include "pieces/Formas.h"
 #include "pieces/RasterMascara.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -79,7 +80,12 @@ VistaMascara DeFigura(i16 piece) {
     return DeMolde(clase, clave, [&](Molde& m) { DibujaFigura(m.Mascara, clase); });
 }
 
-VistaMascara DeDeslizante() {
+// Kinds of the Tangram pieces 1 to 7: twins are of one.
+constexpr i32 CLASE_TANGRAM[7] = {0, 0, 1, 2, 2, 3, 4};
+
+}  // namespace
+
+VistaMascara MascaraDeslizante(i16) {
     const ClaveMolde clave =
         Clave(JuegoDeslizantes, Gbl.DibujarBorde.Valor(), Gbl.AnchoPieza, Gbl.AltoPieza,
               Gbl.AnchoCelda, Gbl.AltoCelda, Gbl.ColorPiezasClaro, Gbl.ColorPiezasOscuro);
@@ -89,11 +95,8 @@ VistaMascara DeDeslizante() {
     });
 }
 
-// Kinds of the Tangram pieces 1 to 7: twins are of one.
-constexpr i32 CLASE_TANGRAM[7] = {0, 0, 1, 2, 2, 3, 4};
-
 // By the corners themselves, so that no orientation and no measure needs to be trusted.
-VistaMascara DeTangram(i16 piece) {
+VistaMascara MascaraTangram(i16 piece) {
     const Pieza& z = Gbl.PiezaAux;
     TMidePieza(piece, z.Giro, z.Volteo);
     TVertices(piece, z.Giro, z.Volteo);
@@ -115,12 +118,14 @@ VistaMascara DeTangram(i16 piece) {
     });
 }
 
-}  // namespace
+VistaMascara MascaraMovil(i16 piece) {
+    return Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2 ? DePlantilla() : DeFigura(piece);
+}
 
 VistaMascara MascaraDePieza(i16 piece) {
-    if (Gbl.JuegoActual == JuegoDeslizantes) return DeDeslizante();
-    if (Gbl.JuegoActual != JuegoMoviles) return DeTangram(piece);
-    return Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2 ? DePlantilla() : DeFigura(piece);
+    const auto mascara = JuegoEnCurso().Mascara;
+    if (!mascara) throw ErrorEjecucion(ERROR_INDICE);
+    return mascara(piece);
 }
 
 }  // namespace tessario

@@ -39,8 +39,13 @@ struct VistaMascara {
     std::span<const PixelBorde> Borde;
 };
 
-// The mask of PiezaAux, which is the piece of this number, before its turn. Game 23: measures the
-// piece and fills its corners and its inner point.
+// The mask of PiezaAux, which is the piece of this number, before its turn. Error 9 outside the
+// games.
 VistaMascara MascaraDePieza(i16 piece);
+// The same in each game. The Tangram's measures the piece and fills its corners and its inner
+// point.
+VistaMascara MascaraMovil(i16 piece);
+VistaMascara MascaraDeslizante(i16 piece);
+VistaMascara MascaraTangram(i16 piece);
 
 }  // namespace tessario

@@ -5,6 +5,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "pieces/Moldes.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -153,7 +154,7 @@ void PreparaPieza(i16 piece) {
     Estampa(mascara, Gbl.MostrandoColocadas ? Pic_PiezaColor : Pic_Bitmap,
             Gbl.PiezaAux.XBien - Gbl.SalienteX, Gbl.PiezaAux.YBien - Gbl.SalienteY);
     for (const PixelBorde& p : mascara.Borde) Pic_PiezaImagen.Fila(0)[p.Donde] = p.Valor;
-    if (Gbl.JuegoActual == JuegoMoviles && Gbl.PiezaAux.Giro != 0) {
+    if (JuegoEnCurso().GiraImagen && Gbl.PiezaAux.Giro != 0) {
         GiraSuperficie(Pic_PiezaMascara, Gbl.PiezaAux.Giro);
         GiraSuperficie(Pic_PiezaImagen, Gbl.PiezaAux.Giro);
     }

@@ -6,12 +6,11 @@
 #include <limits>
 #include <string_view>
 #include <variant>
-#include <vector>
 
 #include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
 #include "records/Texto.h"
-#include "sliding/Tablero.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -149,64 +148,6 @@ void LeeCampos(std::string_view entrada, const CampoDe<T> (&campos)[N], T& desti
     for (const CampoDe<T>& c : campos) LeeCampo(entrada, c.columna, c.ancho, destino.*c.dato);
 }
 
-bool EsJuego(i16 juego) {
-    return juego >= JuegoMoviles && juego <= JuegoTangram;
-}
-
-// ---------------------------------------------------------------- does it hold together?
-
-bool EsPermutacion(const Arreglo<i16>& orden, i32 cuantos) {
-    if (orden.Superior() != cuantos) return false;
-    std::vector<bool> visto(static_cast<std::size_t>(cuantos + 1));
-    for (i32 i = 1; i <= cuantos; ++i) {
-        const i16 p = orden[i];
-        if (p < 1 || p > cuantos || visto[static_cast<std::size_t>(p)]) return false;
-        visto[static_cast<std::size_t>(p)] = true;
-    }
-    return true;
-}
-
-bool LadoPosible() {
-    if (Gbl.JuegoActual == JuegoDeslizantes)
-        return Gbl.PiezasPorLado >= LADO_MINIMO && Gbl.PiezasPorLado <= LADO_MAXIMO;
-    return Gbl.JuegoActual == JuegoTangram || Gbl.PiezasPorLado >= 1;
-}
-
-i32 PiezasQueTocan() {
-    const i32 lado = Gbl.PiezasPorLado;
-    if (Gbl.JuegoActual == JuegoTangram) return 7;
-    if (Gbl.JuegoActual == JuegoDeslizantes) return lado * lado - 1;
-    return lado * lado * Gbl.PiezasPorCelda;
-}
-
-// ---------------------------------------------------------------- boards of other screens
-
-// Corner and pitch of a board's cells, pixels.
-struct Rejilla {
-    i32 x, y, paso;
-    friend bool operator==(const Rejilla&, const Rejilla&) = default;
-};
-
-// The first two pieces belong on the first two cells and so tell the grid of their time.
-Rejilla RejillaGuardada() {
-    const Pieza& p = Gbl.Piezas[1];
-    return {p.XBien, p.YBien, Gbl.Piezas[2].XBien - p.XBien};
-}
-
-// A piece that a damaged record puts beyond all screens stays there: that is mended later.
-i16 Acotado(i32 x) {
-    constexpr i32 minimo = std::numeric_limits<i16>::min(),
-                  maximo = std::numeric_limits<i16>::max();
-    return static_cast<i16>(std::clamp(x, minimo, maximo));
-}
-
-void Pasa(i16& x, i16& y, const Rejilla& de, const Rejilla& a) {
-    const i16 columna = Entero(static_cast<double>(x - de.x) / de.paso);
-    const i16 fila = Entero(static_cast<double>(y - de.y) / de.paso);
-    x = Acotado(a.x + columna * a.paso);
-    y = Acotado(a.y + fila * a.paso);
-}
-
 }  // namespace
 
 std::string EscribeRegistro() {
@@ -272,37 +213,6 @@ void LeeMovimientos(const std::string& linea) {
     Gbl.Movimientos.Redimensiona(Gbl.NumMovimientos);
     for (i32 i = 1; i <= Gbl.NumMovimientos; ++i)
         LeeCampos(Entrada(linea, i), CAMPOS_MOVIMIENTO, Gbl.Movimientos[i]);
-}
-
-void AdaptaTablero() {
-    if (Gbl.JuegoActual != JuegoDeslizantes || !LadoPosible() || Gbl.Piezas.Superior() < 2) return;
-    const Rejilla vieja = RejillaGuardada();
-    const Rejilla nueva{Gbl.MargenX, Gbl.MargenY, Gbl.AnchoCelda};
-    if (vieja.paso <= 0 || vieja == nueva) return;
-    Sigue([&] {
-        for (i32 i = 1; i <= Gbl.Piezas.Superior(); ++i) {
-            Pieza& p = Gbl.Piezas[i];
-            Pasa(p.X, p.Y, vieja, nueva);
-            Pasa(p.XBien, p.YBien, vieja, nueva);
-        }
-        Pasa(Gbl.HuecoX, Gbl.HuecoY, vieja, nueva);
-        for (i32 i = 1; i <= Gbl.Movimientos.Superior(); ++i) {
-            Movimiento& m = Gbl.Movimientos[i];
-            Pasa(m.XAntes, m.YAntes, vieja, nueva);
-            Pasa(m.XDespues, m.YDespues, vieja, nueva);
-        }
-    });
-}
-
-bool RegistroCoherente() {
-    bool coherente = false;
-    Sigue([&] {
-        coherente = EsJuego(Gbl.JuegoActual) && Gbl.FormaPiezas >= 0 && Gbl.FormaPiezas <= 7 &&
-                    LadoPosible() && Gbl.NumPiezas == PiezasQueTocan() &&
-                    Gbl.Piezas.Superior() == Gbl.NumPiezas &&
-                    EsPermutacion(Gbl.OrdenPiezas, Gbl.NumPiezas);
-    });
-    return coherente;
 }
 
 }  // namespace tessario

@@ -19,12 +19,4 @@ void LeeRegistro(const std::string& linea);
 void LeePiezas(const std::string& linea);
 void LeeMovimientos(const std::string& linea);
 
-// A sliding board that was saved on a screen of another size takes the grid of this one: pieces,
-// hole and log. Needs the sizes.
-void AdaptaTablero();
-
-// Does the state that was read hold together: the counts agree with the settings, the stacking
-// order is a permutation? Needs the sizes.
-bool RegistroCoherente();
-
 }  // namespace tessario

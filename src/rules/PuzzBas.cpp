@@ -3,51 +3,12 @@
 #include <bit>
 
 #include "core/PuzzGbl.h"
-#include "core/Superficies.h"
-#include "panel/Cronometro.h"
-#include "pieces/Composicion.h"
-#include "platform/Plataforma.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
-namespace {
-
-constexpr i16 PIEZA_CUADRADO = 6, PIEZA_PARALELOGRAMO = 7;
-
-// After how many eighths of a turn a Tangram piece looks the same again.
-i16 PeriodoTangram(i16 piece) {
-    if (piece == PIEZA_CUADRADO) return 2;
-    if (piece == PIEZA_PARALELOGRAMO) return 4;
-    return 8;
-}
-
-bool GiroCorrectoTangram(i16 piece, const Pieza& p) {
-    if (piece < PIEZA_CUADRADO) return p.Giro == p.GiroBien;
-    const i16 periodo = PeriodoTangram(piece);
-    if ((p.Giro - p.GiroBien) % periodo != 0) return false;
-    return piece != PIEZA_PARALELOGRAMO || p.Volteo == p.VolteoBien;
-}
-
-void DibujaPiezaEnMesa(i32 indice, i16 Modo) {
-    const i16 piece = Gbl.OrdenPiezas[indice];
-    PonPieza(piece);
-    if (Modo != 0) return;
-    Pic_Trabajo_Paint();
-    Sistema().Presenta();
-}
-
-}  // namespace
-
 bool GiroCorrecto(i16 piece) {
-    const Pieza& p = Gbl.Piezas[piece];
-    switch (Gbl.JuegoActual) {
-        case JuegoDeslizantes:
-            return true;
-        case JuegoTangram:
-            return GiroCorrectoTangram(piece, p);
-        default:
-            return p.Giro == p.GiroBien;
-    }
+    return JuegoEnCurso().GiroCorrecto(piece);
 }
 
 bool PiezaEnSuSitio(i16 piece) {
@@ -63,24 +24,23 @@ i16 CuentaColocadas() {
 }
 
 bool CreandoFiguras() {
-    return Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_CREAR;
+    return JuegoEnCurso().TieneModos && Gbl.ModoJuego == MODO_CREAR;
 }
 
 bool ResolviendoModelo() {
-    return Gbl.JuegoActual == JuegoTangram && Gbl.ModoJuego == MODO_RESOLVER;
+    return JuegoEnCurso().TieneModos && Gbl.ModoJuego == MODO_RESOLVER;
 }
 
-void ColocaPiezas(i16 Modo) {
-    Pic_Imagen.Cls();
-    // The sliding board has no piece above another and is laid from its first piece on, the other
-    // tables from the bottom of the stack up.
-    const bool deslizantes = Gbl.JuegoActual == JuegoDeslizantes;
-    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const i32 indice = deslizantes ? i : Gbl.NumPiezas + 1 - i;
-        Sigue([&] { DibujaPiezaEnMesa(indice, Modo); });
-    }
-    if (Modo == 1) Pic_Trabajo_Paint();
-    Sigue([] { MuestraColocadas(); });
+void AnotaDificultad(double (*valor)()) {
+    constexpr float MINIMA = 0.1F, MAXIMA = 99.9F;
+    double d = 0;
+    Sigue([&] { d = valor(); });
+    if (d <= 0)
+        Gbl.Dificultad = MINIMA;
+    else if (d >= 100)
+        Gbl.Dificultad = MAXIMA;
+    else
+        Gbl.Dificultad = static_cast<float>(d);
 }
 
 // xoshiro128**: four words of state, full period, more than even enough for dealing pieces.

@@ -1,26 +1,25 @@
-// PuzzBas: routines common to the three games: the placement rules, the laying of the table, the
-// stacking order and the random numbers.
+// PuzzBas: rules common to the games: when a piece is where it belongs, how many are, the two modes
+// of play, and the random numbers.
 #pragma once
 
 #include "platform/Tipos.h"
 
 namespace tessario {
 
-// Has the piece the right orientation? Game 22: always; 21 and Tangram 1 to 5: Giro = GiroBien;
-// the square: modulo 2; the parallelogram: modulo 4 and the same face.
+// Has the piece the right orientation? Each game has its own answer.
 bool GiroCorrecto(i16 piece);
 // GiroCorrecto and exactly at XBien, YBien.
 bool PiezaEnSuSitio(i16 piece);
 // Pieces in their place, counted in full.
 i16 CuentaColocadas();
 
-// The two modes of the Tangram; false in the other games.
+// The two modes of a game that has them; false in the other games.
 bool CreandoFiguras();
 bool ResolviendoModelo();
 
-// Draws every piece in stacking order on a cleared Pic_Imagen and recounts. Modo 0 repaints the
-// table after every piece, 1 once at the end; with any other the caller repaints.
-void ColocaPiezas(i16 Modo);
+// Puts a difficulty into Gbl.Dificultad, kept between 0.1 and 99.9; one that cannot be worked out
+// is the smallest.
+void AnotaDificultad(double (*valor)());
 
 // Uniform in [0, 1).
 double Rnd();

@@ -7,12 +7,14 @@
 #include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "records/Texto.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/CopiaSeguridad.h"
+#include "rules/Juego.h"
 #include "session/Montaje.h"
-#include "sliding/Tablero.h"
 
 namespace tessario {
 
@@ -75,17 +77,6 @@ const char* TextoLogico(const Booleano& b) {
 
 // ---------------------------------------------------------------- defaults of a game
 
-i16 PiezasPorDefecto() {
-    switch (Gbl.JuegoActual) {
-        case JuegoDeslizantes:
-            return 24;
-        case JuegoTangram:
-            return 7;
-        default:
-            return 25;
-    }
-}
-
 // A record that names a picture that is gone or cannot be read. Laying a record, only the picture
 // gives these numbers.
 void AvisaImagenPerdida(i16 numero) {
@@ -99,12 +90,12 @@ void AjustesPorDefecto() {
     Gbl.ColorPiezas = 0x008000;
     Gbl.ColorContraste = 0xFFFFFF;
     CalculaColores();
-    Gbl.MostrarMuestra = Gbl.JuegoActual == JuegoMoviles;
+    Gbl.MostrarMuestra = JuegoEnCurso().MuestraPorDefecto;
     Gbl.ModeloActual = 1;
     Gbl.ZoomImagen = 100;
     Gbl.PiezasPorLado = 5;
     Gbl.FormaPiezas = 0;
-    Gbl.NumPiezas = PiezasPorDefecto();
+    Gbl.NumPiezas = JuegoEnCurso().PiezasPorDefecto;
     Llama([] { ReiniciaPartida(); });
     Gbl.PuzzleArchivable = false;  // a puzzle dealt by default never enters the history
     Gbl.ModoJuego = MODO_CREAR;
@@ -115,7 +106,7 @@ void AjustesPorDefecto() {
 }
 
 void MesaPorDefecto() {
-    if (Gbl.JuegoActual == JuegoMoviles) {
+    if (JuegoEnCurso().Imagen == UsoDeImagen::Necesario) {
         Gbl.UnidadImagen = Left(Gbl.CarpetaPrograma, 2);
         Gbl.CarpetaImagen = Gbl.CarpetaImagenes;
         VaciaImagen();
@@ -175,8 +166,7 @@ void LeeConfiguracion() {
         AvisaApertura(error, aviso::SIN_CONFIGURACION, aviso::ERROR_CONFIGURACION, {});
     else
         LeeLineaGlobal(bytes);
-    if (Gbl.JuegoActual < JuegoMoviles || Gbl.JuegoActual > JuegoTangram)
-        Gbl.JuegoActual = JuegoMoviles;
+    if (!EsJuego(Gbl.JuegoActual)) Gbl.JuegoActual = JuegoMoviles;
     // Deliberate: a VelocidadJuego outside 0 to 100 stays in force for this run.
     BorraError();
     if (Gbl.ErrorApertura != 0) EscribeConfiguracion();

@@ -9,6 +9,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
@@ -16,11 +17,11 @@
 #include "records/Registro.h"
 #include "records/Texto.h"
 #include "rules/Despacho.h"
+#include "rules/Juego.h"
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
 #include "session/Reparacion.h"
-#include "sliding/Tablero.h"
 
 namespace tessario {
 
@@ -104,7 +105,7 @@ void MontaMesa(i16 modo) {
     if (Gbl.PuzzleTerminado) Llama([] { EntraEnCompleto(); });
 }
 
-// Games 21 and 23 have their own tables; this is the picture, then the table, of 21 and 22.
+// The picture, then the table, of a game that has one.
 void MontaConImagen() {
     Pic_FonTamModi.PonPicture(nullptr);
     VaciaReal();
@@ -117,7 +118,7 @@ void MontaConImagen() {
         });
     }
     const Punto tamano = TamanoConZoom();
-    const bool cabe = Gbl.JuegoActual == JuegoDeslizantes || DentroDeLimites(tamano);
+    const bool cabe = JuegoEnCurso().Imagen != UsoDeImagen::Necesario || DentroDeLimites(tamano);
     bool hecha = true;
     if (cabe) {
         hecha = false;
@@ -134,7 +135,7 @@ void MontaConImagen() {
         RechazaImagen(tamano);
 }
 
-void MontaTangram() {
+void MontaSinImagen() {
     Gbl.MostrarMuestra = false;
     Gbl.ZoomImagen = 100;
     bool hecha = false;
@@ -145,17 +146,8 @@ void MontaTangram() {
         hecha = true;
     });
     if (!hecha) return;
-    if (Gbl.ModoJuego == MODO_RESOLVER) Llama([] { TPintaFigura(Pic_FonTamModi); });
+    if (ResolviendoModelo()) Llama([] { TPintaFigura(Pic_FonTamModi); });
     MontaMesa(1);
-}
-
-void AseguraSolucion() {
-    bool soluble = true;
-    Sigue([&] { soluble = TieneSolucion(); });
-    if (soluble) return;
-    Avisa(aviso::SIN_SOLUCION);
-    Llama([] { BarajaDeslizantes(); });
-    if (!Gbl.ColoresCambiados) Llama([] { ColocaPiezas(0); });
 }
 
 // ---------------------------------------------------------------- reading
@@ -177,6 +169,32 @@ std::string Contenido(const std::vector<std::string>& lineas, std::size_t i) {
     return {};
 }
 
+// ---------------------------------------------------------------- does the state hold together?
+
+bool EsPermutacion(const Arreglo<i16>& orden, i32 cuantos) {
+    if (orden.Superior() != cuantos) return false;
+    std::vector<bool> visto(static_cast<std::size_t>(cuantos + 1));
+    for (i32 i = 1; i <= cuantos; ++i) {
+        const i16 p = orden[i];
+        if (p < 1 || p > cuantos || visto[static_cast<std::size_t>(p)]) return false;
+        visto[static_cast<std::size_t>(p)] = true;
+    }
+    return true;
+}
+
+// The counts agree with the settings, the stacking order is a permutation.
+bool EstadoCoherente() {
+    const Juego& juego = JuegoEnCurso();
+    bool coherente = false;
+    Sigue([&] {
+        coherente = EsJuego(juego.Numero) && Gbl.FormaPiezas >= 0 && Gbl.FormaPiezas <= 7 &&
+                    juego.LadoPosible() && Gbl.NumPiezas == juego.PiezasQueTocan() &&
+                    Gbl.Piezas.Superior() == Gbl.NumPiezas &&
+                    EsPermutacion(Gbl.OrdenPiezas, Gbl.NumPiezas);
+    });
+    return coherente;
+}
+
 bool LeeEstado(const std::vector<std::string>& lineas) {
     LeeRutas(lineas);
     LeeRegistro(Contenido(lineas, LIN_REGISTRO));
@@ -190,9 +208,9 @@ bool LeeEstado(const std::vector<std::string>& lineas) {
     CalculaColores();
     ReparaAjustes();
     CalculaTamanos();
-    AdaptaTablero();
+    JuegoEnCurso().AdaptaTablero();
     Sigue([] { ReparaPiezas(); });
-    return Gbl.NumPiezas == leidas && RegistroCoherente();
+    return Gbl.NumPiezas == leidas && EstadoCoherente();
 }
 
 }  // namespace
@@ -234,11 +252,11 @@ void LeePuzzle(const std::string& bytes) {
         return;
     }
     if (Gbl.SoloLeerAjustes) return;
-    if (Gbl.JuegoActual == JuegoTangram)
-        MontaTangram();
+    if (JuegoEnCurso().Imagen == UsoDeImagen::Ninguno)
+        MontaSinImagen();
     else
         MontaConImagen();
-    if (Gbl.JuegoActual == JuegoDeslizantes) AseguraSolucion();
+    JuegoEnCurso().TrasMontar();
 }
 
 i16 GuardaPuzzle(const std::string& Ruta) {

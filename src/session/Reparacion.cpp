@@ -1,8 +1,8 @@
 #include "session/Reparacion.h"
 
 #include "core/PuzzGbl.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Tablero.h"
 
 namespace tessario {
 
@@ -10,7 +10,6 @@ namespace {
 
 constexpr i16 ATRACCION_MAXIMA = 100, ATRACCION_REPARADA = 20;          // percent
 constexpr i16 ZOOM_MINIMO = 5, ZOOM_MAXIMO = 995, ZOOM_REPARADO = 100;  // percent
-constexpr i16 PARALELOGRAMO = 7;  // the only piece that has two faces
 
 bool Fuera(i16 valor, i16 minimo, i16 maximo) {
     return valor < minimo || valor > maximo;
@@ -18,20 +17,8 @@ bool Fuera(i16 valor, i16 minimo, i16 maximo) {
 
 // ---------------------------------------------------------------- orientations
 
-// Steps in a whole turn of a piece.
-i16 PasosDeVuelta() {
-    switch (Gbl.JuegoActual) {
-        case JuegoDeslizantes:
-            return 1;
-        case JuegoTangram:
-            return 8;
-        default:
-            return 4;
-    }
-}
-
 i16 CarasDe(i32 piece) {
-    return Gbl.JuegoActual == JuegoTangram && piece == PARALELOGRAMO ? i16{2} : i16{1};
+    return piece == JuegoEnCurso().PiezaQueVoltea ? i16{2} : i16{1};
 }
 
 void PonEnRango(i16& valor, i16 pasos) {
@@ -40,7 +27,7 @@ void PonEnRango(i16& valor, i16 pasos) {
 }
 
 void ReparaOrientaciones() {
-    const i16 pasos = PasosDeVuelta();
+    const i16 pasos = JuegoEnCurso().Giros;
     for (i32 i = 1; i <= Gbl.Piezas.Superior(); ++i) {
         Pieza& p = Gbl.Piezas[i];
         for (i16* giro : {&p.Giro, &p.GiroBien}) PonEnRango(*giro, pasos);
@@ -61,26 +48,8 @@ bool NombraPiezas() {
     return true;
 }
 
-// On the sliding board every move goes to the hole: walked back from the board as it stands, each
-// must end where its piece is and begin where the hole is. Replayed, any other would lay one piece
-// on another.
-bool PasaPorElHueco() {
-    Arreglo<Pieza> piezas = Gbl.Piezas;
-    Punto hueco{Gbl.HuecoX, Gbl.HuecoY};
-    for (i32 i = Gbl.NumMovimientos; i >= 1; --i) {
-        const Movimiento& m = Gbl.Movimientos[i];
-        Pieza& p = piezas[m.Pieza];
-        if (p.X != m.XDespues || p.Y != m.YDespues || hueco.x != m.XAntes || hueco.y != m.YAntes)
-            return false;
-        hueco = {p.X, p.Y};
-        p.X = m.XAntes;
-        p.Y = m.YAntes;
-    }
-    return true;
-}
-
 void ReparaDiario() {
-    if (NombraPiezas() && (Gbl.JuegoActual != JuegoDeslizantes || PasaPorElHueco())) return;
+    if (NombraPiezas() && JuegoEnCurso().DiarioPosible()) return;
     Gbl.NumMovimientos = 0;
     Gbl.Movimientos.Redimensiona(0);
 }
@@ -97,7 +66,7 @@ void ReparaAjustes() {
 
 void ReparaPiezas() {
     ReparaOrientaciones();
-    if (Gbl.JuegoActual == JuegoDeslizantes) AsientaTablero();
+    JuegoEnCurso().AsientaTablero();
     ReparaDiario();
 }
 

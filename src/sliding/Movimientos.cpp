@@ -4,11 +4,13 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "rules/PuzzBas.h"
-#include "session/Dificultad.h"
+#include "sliding/Deslizantes.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {
@@ -39,7 +41,7 @@ i16 SorteaVecino(i16 previa) {
 // The two ways out of the manual ordering that command 11 knows.
 void SaleDeOrdenManual() {
     if (TieneSolucion()) {
-        CalculaDificultad();
+        AnotaDificultad(DificultadDeslizantes);
         ColocaPiezas(1);
         ReiniciaPartida();
         return;
@@ -107,7 +109,7 @@ void BarajaConMovimientos() {
         // Events may have ended this game: another one's pieces are not to be shuffled so.
         if (Gbl.JuegoActual != JuegoDeslizantes) return;
     }
-    CalculaDificultad();
+    AnotaDificultad(DificultadDeslizantes);
 }
 
 void OrdenManualDeslizantes() {

@@ -4,7 +4,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
-#include "panel/Cronometro.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Busqueda.h"

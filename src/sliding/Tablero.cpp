@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "core/PuzzGbl.h"
-#include "panel/Cronometro.h"
+#include "panel/Barajado.h"
 #include "rules/PuzzBas.h"
-#include "session/Dificultad.h"
+#include "sliding/Deslizantes.h"
 
 namespace tessario {
 
@@ -17,7 +17,6 @@ constexpr i16 NORTE = 1, ESTE = 2, SUR = 3, OESTE = 4, NINGUNO = 0;
 constexpr i16 MAX_VECINOS = 4;
 constexpr i16 MARCA_HUECO = 999;      // greater than every piece number in the count of inversions
 constexpr i32 CAMBIOS_POR_PIEZA = 3;  // swaps of the instant shuffle before its first test
-constexpr i32 MOVIMIENTOS_INICIALES = 100;  // upper bound of a new log
 
 // Column and row, from 0.
 struct Casilla {
@@ -204,18 +203,7 @@ void BarajaDeslizantes() {
         if (cuenta >= Gbl.NumPiezas * CAMBIOS_POR_PIEZA && TieneSolucion()) break;
     }
     ReiniciaPartida();
-    CalculaDificultad();
-}
-
-void ReiniciaPartida() {
-    Gbl.PuzzleArchivable = true;
-    Gbl.PuzzleTerminado = false;
-    Gbl.SegundosJuego = 0;
-    // A new puzzle is kept under no name yet; in the Tangram the name is its model's.
-    if (Gbl.JuegoActual != JuegoTangram) Gbl.NombrePuzzle.clear();
-    Gbl.NumMovimientos = 0;
-    Gbl.Movimientos.Redimensiona(MOVIMIENTOS_INICIALES);
-    CambiaCrono(CRONO_MARCHA);
+    AnotaDificultad(DificultadDeslizantes);
 }
 
 }  // namespace tessario

@@ -43,7 +43,5 @@ void PintaFondoCaras();
 void PintaRotulos();
 // Builds the table of game 22; non-zero lays out and shuffles a new board.
 void CreaDeslizantes(i16 nuevo);
-// The count of a new puzzle, in all three games: empty log, time 0, chronometer running.
-void ReiniciaPartida();
 
 }  // namespace tessario

@@ -18,6 +18,7 @@
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "start/Juegos.h"
 #include "table/Mesa.h"
 #include "table/Ordenes.h"
 #include "windows/Cargua.h"
@@ -231,6 +232,7 @@ void Inicializa() {
 }
 
 bool Main() {
+    InstalaJuegos();
     PreparaVentanas();
     Sistema().Muestra(Careta);
     PreparaRutas();

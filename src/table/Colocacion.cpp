@@ -3,13 +3,12 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
-#include "panel/Cronometro.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Solucion.h"
-#include "sliding/Tablero.h"
 #include "table/Raton.h"
 
 namespace tessario {
@@ -28,18 +27,6 @@ void MuestraPieza(i16 piece) {
     PonPieza(piece);
     MuestraCaja(CajaDePieza(piece));
     Sistema().Presenta();  // the player sees the table change piece by piece
-}
-
-// The sliding piece in a cell, or 0.
-i16 PiezaEnCelda(i32 celda) {
-    for (i16 p = 1; p <= Gbl.NumPiezas; ++p)
-        if (CeldaDePosicion(Gbl.Piezas[p].X, Gbl.Piezas[p].Y) == celda) return p;
-    return 0;
-}
-
-void MuestraCeldas() {
-    for (i32 celda = 1; celda <= Gbl.NumPiezas + 1; ++celda)
-        if (const i16 p = PiezaEnCelda(celda); p != 0) MuestraPieza(p);
 }
 
 // Through the table's own events, as the player would do it: turned over, turned.
@@ -72,15 +59,15 @@ void MostrarPiezasBienoMal() {
     if (Pic_PiezaColor.Width() != Pic_Bitmap.Width() ||
         Pic_PiezaColor.Height() != Pic_Bitmap.Height())
         Pic_PiezaColor.Tamano(Pic_Bitmap.Width(), Pic_Bitmap.Height());
-    if (Gbl.JuegoActual == JuegoDeslizantes) {
-        MuestraCeldas();
+    if (const auto orden = JuegoEnCurso().OrdenDePintado) {
+        for (const i16 piece : orden()) MuestraPieza(piece);
     } else {
         for (i32 i = Gbl.NumPiezas; i >= 1; --i) MuestraPieza(Gbl.OrdenPiezas[i]);
     }
 }
 
 void ResuelvePuzzle() {
-    if (Gbl.JuegoActual == JuegoDeslizantes) return ResuelveDeslizantes();
+    if (const auto resuelve = JuegoEnCurso().Resuelve) return resuelve();
     Gbl.TareaAutomatica = true;
     // Raising the indices in ascending order visits every piece exactly once.
     for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {

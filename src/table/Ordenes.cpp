@@ -4,19 +4,20 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/Grabadora.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "rules/Despacho.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
 #include "session/CopiaSeguridad.h"
-#include "sliding/Movimientos.h"
 #include "sliding/Tablero.h"
 #include "start/Arranque.h"
-#include "table/Barajado.h"
 #include "table/Colocacion.h"
 #include "table/Raton.h"
 #include "table/Tareas.h"
@@ -32,11 +33,6 @@ constexpr i16 ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10, ORDEN_ORD
 constexpr i16 SONIDO_BOTON = 9;
 constexpr i16 SUGERENCIA_TUTOR = 52;
 constexpr i16 PAUSA_ANTES_MUESTRA = 5, PAUSA_TRAS_MUESTRA = 35, PAUSA_OCULTA = 15;
-constexpr i32 MARGEN_MUESTRA = 15;  // pixels between the sample and the table's edge, game 22
-
-bool EsDeslizantes() {
-    return Gbl.JuegoActual == JuegoDeslizantes;
-}
 
 // ---------------------------------------------------------------- what surrounds the commands
 // The clock stands still while the work is done, and then is as it was.
@@ -64,11 +60,11 @@ void Baraja() {
     if (ResolviendoModelo()) Avisa(aviso::MEZCLA_TANGRAM);
     if (!Gbl.RespuestaMensaje) return;
     CopiaAntesDeRepartir();
-    if (EsDeslizantes()) {
+    if (JuegoEnCurso().BarajaJugando) {
         BarajaPiezas();
         return;
     }
-    if (Gbl.JuegoActual == JuegoTangram) Gbl.ModoJuego = MODO_CREAR;
+    if (JuegoEnCurso().TieneModos) Gbl.ModoJuego = MODO_CREAR;
     PreparaJuego(true);
 }
 
@@ -78,11 +74,11 @@ void RehaceMesa() {
         Reloj();
         GuardaCopia(Gbl.RecordEnAjustes);
         PreparaJuego(true);
-        if (EsDeslizantes()) ColocaPiezas(1);
+        if (JuegoEnCurso().BarajaJugando) ColocaPiezas(1);
     } else if (Gbl.ColoresCambiados) {
         Reloj();
         PreparaJuego(false);
-        ColocaPiezas(EsDeslizantes() ? 1 : 0);
+        ColocaPiezas(JuegoEnCurso().BarajaJugando ? 1 : 0);
         if (Gbl.PuzzleTerminado) EntraEnCompleto();
     }
 }
@@ -90,7 +86,7 @@ void RehaceMesa() {
 void CambiaDeJuego() {
     Reloj();
     LeeAjustesJuego(FicheroDelJuego());
-    Sugerencia(Gbl.JuegoActual);
+    Sugerencia(JuegoEnCurso().Sugerencia);
 }
 
 void Personaliza() {
@@ -109,7 +105,7 @@ void Personaliza() {
 
 void LlamaAlTutor() {
     ConRelojParado([] {
-        if (EsDeslizantes()) {
+        if (JuegoEnCurso().TutorResuelve) {
             // One pass of the solver only, as its own button is not down.
             Gbl.PuzzleArchivable = false;
             ResuelvePuzzle();
@@ -145,19 +141,10 @@ void Sale() {
         ReponeCrono();
 }
 
-void ColocaMuestra() {
-    if (EsDeslizantes())
-        Pic_Muestra.Mueve(BarraVer.Left - Pic_Muestra.Width() - MARGEN_MUESTRA,
-                          BarraHor.Top - Pic_Muestra.Height() - MARGEN_MUESTRA);
-    if (Gbl.JuegoActual == JuegoMoviles)
-        Pic_Muestra.Mueve(Pic_Botonera.Left - Pic_Muestra.Width(),
-                          BarraHor.Top - Pic_Muestra.Height() + BarraVer.Value);
-}
-
 void MuestraModelo() {
     Pausa(PAUSA_ANTES_MUESTRA);
     Gbl.MostrarMuestra = !Gbl.MostrarMuestra;
-    if (Gbl.MostrarMuestra) ColocaMuestra();
+    if (Gbl.MostrarMuestra) JuegoEnCurso().ColocaMuestra();
     Pic_Muestra.Visible = Gbl.MostrarMuestra;
     Pausa(PAUSA_TRAS_MUESTRA);
 }
@@ -186,10 +173,10 @@ void MuestraBienOMal() {
 void Ordena() {
     Reloj();
     ConRelojParado([] {
-        if (EsDeslizantes()) {
+        if (const auto ordenaAMano = JuegoEnCurso().OrdenaAMano) {
             PunteroNormal();
             const bool sinOrdenar = !Gbl.OrdenManual;
-            OrdenManualDeslizantes();
+            ordenaAMano();
             // What is set up by hand will be another puzzle.
             if (sinOrdenar && Gbl.OrdenManual) CopiaAntesDeRepartir();
             return;
@@ -220,7 +207,7 @@ bool SinLugares() {
     return ConGrabadoraOTerminado() || CreandoFiguras();
 }
 bool SinMuestra() {
-    return Gbl.JuegoActual == JuegoTangram || (EsDeslizantes() && Gbl.TipoFondo != FONDO_IMAGEN);
+    return !JuegoEnCurso().HayMuestra();
 }
 
 const struct {

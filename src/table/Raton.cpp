@@ -4,14 +4,16 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
+#include "panel/CursorMesa.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Movimientos.h"
 #include "table/Atraccion.h"
 #include "table/Deshacer.h"
 #include "table/Final.h"
@@ -19,7 +21,6 @@
 #include "table/Opciones.h"
 #include "table/Tareas.h"
 #include "table/Tutor.h"
-#include "tangram/Desolape.h"
 
 namespace tessario {
 
@@ -28,17 +29,10 @@ namespace {
 // Cursor ids of the table.
 constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11, CURSOR_PROHIBIDO = 12, CURSOR_DISENO = 20,
               CURSOR_BIEN = 21, CURSOR_MAL = 22, CURSOR_TUTOR = 24;
-const struct {
-    i16 id;
-    const char* nombre;
-} CURSORES[] = {{12, "Prohibido"}, {15, "CruzFlechas"}, {20, "ManoAbierta"}, {21, "ManoVerde"},
-                {22, "ManoRoja"},  {24, "PunTutor"},    {25, "FlechaNor"},   {26, "FlechaEst"},
-                {27, "FlechaSur"}, {28, "FlechaOes"}};
 
 constexpr i16 SONIDO_GIRO = 6, SONIDO_TOMA = 50, SONIDO_EN_SITIO = 51, SONIDO_SUELTA = 52;
 constexpr i16 PAUSA_GIRO = 160;
 constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
-constexpr i16 PARALELOGRAMO = 7;
 constexpr i16 TECLA_DESHACER = 26;  // Ctrl+Z
 constexpr i16 OPCION_MODELO = 4;
 
@@ -59,8 +53,8 @@ void CogePieza() {
     Gbl.YOrigen = Gbl.Piezas[piece].Y;
     SubePieza(PosicionEnOrden(piece));
     CambiaCrono(CRONO_MARCHA);
-    if (Gbl.JuegoActual == JuegoDeslizantes) {
-        PulsaDeslizante();
+    if (!JuegoEnCurso().SeArrastra) {
+        JuegoEnCurso().PulsaPieza();
         return;
     }
     TomaPieza(Gbl.XPulsado, Gbl.YPulsado, piece);
@@ -84,14 +78,13 @@ void PulsaIzquierdo() {
         AvisaTerminado();
         return;
     }
-    const bool deslizantes = Gbl.JuegoActual == JuegoDeslizantes;
     TerminaColocadas();
-    if (deslizantes && Gbl.PiezaActual == 0 && Gbl.OrdenManual) {
+    if (JuegoEnCurso().OrdenaAMano && Gbl.PiezaActual == 0 && Gbl.OrdenManual) {
         Pulsa(Pic_Boton(BOTON_ORDENAR));
         return;
     }
     if (Gbl.PiezaActual == 0) return;
-    if (deslizantes && Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
+    if (!JuegoEnCurso().SeArrastra && Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
     if (Gbl.CursorDeseado == CURSOR_TUTOR) {
         TutorIndicando();
         return;
@@ -104,7 +97,7 @@ void GiraMientrasPulsado() {
     if ((Gbl.BotonPulsado != BOTON_DERECHO || Gbl.GrabadoraEncendida) && !Gbl.ResolviendoPuzzle)
         return;
     TerminaColocadas();
-    if (Gbl.PiezaActual == 0 || Gbl.JuegoActual == JuegoDeslizantes) return;
+    if (Gbl.PiezaActual == 0 || JuegoEnCurso().Giros == 1) return;
     const i16 piece = Gbl.PiezaActual;
     const Pieza antes = Gbl.Piezas[piece];
     Gbl.GirandoPieza = true;
@@ -127,7 +120,7 @@ void GiraMientrasPulsado() {
 // ---------------------------------------------------------------- move
 bool HayArrastre() {
     return Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle && !Gbl.OrdenandoPiezas &&
-           !Gbl.SoltandoPieza && Gbl.JuegoActual != JuegoDeslizantes;
+           !Gbl.SoltandoPieza && JuegoEnCurso().SeArrastra;
 }
 
 void Retrocede(BarraDesplazamiento& barra) {
@@ -139,7 +132,7 @@ void Avanza(BarraDesplazamiento& barra) {
 
 // A piece held at the edge of the view moves the view.
 void DesplazaEnElBorde(i32 x, i32 y) {
-    if (Gbl.JuegoActual != JuegoMoviles || !BarraVer.Visible) return;
+    if (!JuegoEnCurso().SeDesplaza || !BarraVer.Visible) return;
     const i32 valorV = BarraVer.Value;
     const i32 valorH = BarraHor.Value;
     if (y == valorV && y > 0)
@@ -157,7 +150,7 @@ bool HoverParado() {
            Gbl.MostrandoColocadas || Gbl.SoltandoPieza || Gbl.GrabadoraEncendida;
 }
 
-// What the pointer finds on a piece of games 21 and 23.
+// What the pointer finds on a piece that can be dragged.
 void CursorDePieza(i16 piece) {
     Gbl.PiezaActual = piece;
     Gbl.CursorDeseado = PiezaEnSuSitio(piece) ? CURSOR_BIEN : CURSOR_MAL;
@@ -168,10 +161,7 @@ void CursorDePieza(i16 piece) {
 bool PruebaPieza(i16 piece, i32 x, i32 y) {
     const Rect caja = CajaDePieza(piece);
     if (!caja.Contiene(x, y)) return false;
-    if (Gbl.JuegoActual == JuegoDeslizantes) {
-        Gbl.PiezaActual = piece;
-        return CursorDeslizante(piece);
-    }
+    if (const auto cursor = JuegoEnCurso().CursorDePieza) return cursor(piece);
     // Only now its shape, which costs a rebuilding: a box without black under the pointer is a gap.
     PreparaPieza(piece);
     if (Pic_PiezaMascara.Point(x - caja.Izq, y - caja.Arr) != 0) return false;
@@ -235,14 +225,9 @@ void RegistraSuelta(i16 piece) {
 void SueltaPieza() {
     Gbl.SoltandoPieza = true;
     const i16 piece = Gbl.OrdenPiezas[1];
-    if (Gbl.JuegoActual == JuegoTangram) {
-        Sigue([] { TDesolapaPieza(); });
-        // Deliberate: what had to be pushed off its neighbours is not drawn back to them.
-        if (Gbl.AtraccionPiezas && Gbl.TEmpujes == 0) Sigue([] { PegaDosPiezas(); });
-    }
-    const bool conSitio = Gbl.JuegoActual == JuegoMoviles || ResolviendoModelo();
-    if (conSitio) Sigue([] { AtraeASuSitio(); });
-    if (Gbl.JuegoActual != JuegoDeslizantes) Sigue([&] { AsientaPieza(piece); });
+    JuegoEnCurso().SueltaPieza();
+    if (JuegoEnCurso().AtraeASuSitio()) Sigue([] { AtraeASuSitio(); });
+    if (JuegoEnCurso().SeArrastra) Sigue([&] { AsientaPieza(piece); });
     Sigue([&] { RegistraSuelta(piece); });
     Sigue([&] { PreparaPieza(piece); });
     Sigue([&] { PintaPieza(Pic_Imagen, piece); });
@@ -256,31 +241,32 @@ void SueltaPieza() {
 // The eighths of a turn that mean another outline on the other face change with it.
 constexpr i16 GIRO_AL_VOLTEAR[8] = {0, 3, 2, 1, 4, 3, 6, 1};
 
-// The parallelogram is turned over where it lies.
-void VolteaParalelogramo() {
+// The piece that has two faces is turned over where it lies.
+void VolteaPieza() {
+    const i16 volteable = JuegoEnCurso().PiezaQueVoltea;
     if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
-    Pieza& p = Gbl.Piezas[PARALELOGRAMO];
+    Pieza& p = Gbl.Piezas[volteable];
     Pieza antes = p;
     const bool enMano = Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle;
-    if (enMano && Gbl.PiezaActual == PARALELOGRAMO) {
+    if (enMano && Gbl.PiezaActual == volteable) {
         // It was lifted from there: the log goes from rest to here, and the drop goes on from here.
         antes.X = Gbl.XOrigen;
         antes.Y = Gbl.YOrigen;
     }
-    SubePieza(PosicionEnOrden(PARALELOGRAMO));  // the log takes the piece on top
-    BorraPieza(PARALELOGRAMO);
+    SubePieza(PosicionEnOrden(volteable));  // the log takes the piece on top
+    BorraPieza(volteable);
     p.Volteo = static_cast<i16>(1 - std::abs(p.Volteo));
     if (p.Giro >= 0 && p.Giro <= 7) p.Giro = GIRO_AL_VOLTEAR[p.Giro];
-    PonPieza(PARALELOGRAMO);
+    PonPieza(volteable);
     Pic_Trabajo_Paint();
-    // Deliberate: this pushes the piece under the pointer, which need not be the parallelogram.
-    Sigue([] { TDesolapaPieza(); });
-    SonidoJuego(0, PiezaEnSuSitio(PARALELOGRAMO) ? SONIDO_EN_SITIO : SONIDO_SUELTA);
+    // Deliberate: this pushes the piece under the pointer, which need not be this one.
+    Sigue([] { JuegoEnCurso().SeparaPieza(); });
+    SonidoJuego(0, PiezaEnSuSitio(volteable) ? SONIDO_EN_SITIO : SONIDO_SUELTA);
     MuestraColocadas();
     RegistraMovimiento(antes.X, antes.Y, antes.Giro, antes.Volteo, p.X, p.Y, p.Giro, p.Volteo);
     if (!enMano) return;
     // The piece in hand was laid on the table by all this: it is lifted again.
-    if (Gbl.PiezaActual == PARALELOGRAMO) {
+    if (Gbl.PiezaActual == volteable) {
         Gbl.XOrigen = p.X;
         Gbl.YOrigen = p.Y;
     }
@@ -289,16 +275,6 @@ void VolteaParalelogramo() {
 }
 
 }  // namespace
-
-void AplicaCursor(i16 id) {
-    Gbl.CursorActual = id;
-    for (const auto& c : CURSORES)
-        if (c.id == id) {
-            PonCursor(Pic_Trabajo, c.nombre);
-            return;
-        }
-    PonPuntero(Pic_Trabajo, id);
-}
 
 void SueltaLoQueHaya(i16 X, i16 Y) {
     if (!Gbl.ArrastrandoPieza || DentroDeTarea() || Gbl.ResolviendoPuzzle) return;
@@ -364,8 +340,8 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii) {
         case 'v':
             // With the recorder on, the table is only looked at.
             // Nor does it change in the middle of other work.
-            if (Gbl.JuegoActual == JuegoTangram && !Gbl.GrabadoraEncendida && !DentroDeTarea())
-                VolteaParalelogramo();
+            if (JuegoEnCurso().PiezaQueVoltea != 0 && !Gbl.GrabadoraEncendida && !DentroDeTarea())
+                VolteaPieza();
             break;
         case TECLA_DESHACER:
             Deshaz();

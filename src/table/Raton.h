@@ -14,7 +14,5 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii);
 // Drops the piece in hand, if there is one, with the pointer at this point: whatever begins anew
 // begins with empty hands.
 void SueltaLoQueHaya(i16 X, i16 Y);
-// Applies a cursor id to the table.
-void AplicaCursor(i16 id);
 
 }  // namespace tessario

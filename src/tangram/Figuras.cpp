@@ -2,12 +2,12 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "panel/Barajado.h"
 #include "panel/Botonera.h"
 #include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
-#include "table/Barajado.h"
 
 namespace tessario {
 

@@ -2,6 +2,7 @@
 
 #include "apoyo/MesaMoviles.h"
 #include "panel/Botonera.h"
+#include "panel/Colocadas.h"
 #include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"

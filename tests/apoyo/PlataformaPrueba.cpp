@@ -9,6 +9,7 @@
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
 #include "session/CopiaSeguridad.h"
+#include "start/Juegos.h"
 
 namespace tessario {
 
@@ -37,7 +38,9 @@ i32 AnchoCaracter(const Fuente& f) {
 
 }  // namespace
 
-PlataformaPrueba::PlataformaPrueba() : carpeta(CarpetaNueva()) {}
+PlataformaPrueba::PlataformaPrueba() : carpeta(CarpetaNueva()) {
+    InstalaJuegos();
+}
 
 PlataformaPrueba::~PlataformaPrueba() {
     EsperaCopia();  // nothing is written into a folder that goes

@@ -21,6 +21,7 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
+#include "panel/Colocadas.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "records/Modelos.h"

@@ -1,6 +1,7 @@
 #include <bit>
 
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 
 namespace tessario {

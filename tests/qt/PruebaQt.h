@@ -12,12 +12,14 @@
 
 #include "qt/PlataformaQt.h"
 #include "qt/VistaVentana.h"
+#include "start/Juegos.h"
 
 namespace tessario {
 
 class PruebaQt : public testing::Test {
 protected:
     void SetUp() override {
+        InstalaJuegos();
         plataforma_ = std::make_unique<PlataformaQt>();
         PonSistema(plataforma_.get());
     }

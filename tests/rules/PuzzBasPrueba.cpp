@@ -7,6 +7,7 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"

@@ -8,6 +8,8 @@
 #include "apoyo/TableroDeslizante.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Busqueda.h"
 #include "sliding/Solucion.h"

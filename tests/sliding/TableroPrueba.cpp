@@ -6,6 +6,7 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "apoyo/TableroDeslizante.h"
 #include "core/PuzzGbl.h"
+#include "panel/Barajado.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"
 

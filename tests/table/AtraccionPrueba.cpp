@@ -1,6 +1,7 @@
 #include "apoyo/MesaMoviles.h"
 #include "rules/PuzzBas.h"
 #include "table/Atraccion.h"
+#include "tangram/Pegado.h"
 
 namespace tessario {
 

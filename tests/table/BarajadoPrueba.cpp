@@ -1,12 +1,14 @@
 #include "apoyo/MesaMontada.h"
+#include "jigsaw/Reparto.h"
+#include "panel/Barajado.h"
 #include "panel/Botonera.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/Desplazamiento.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
-#include "table/Barajado.h"
 #include "table/Ordenes.h"
 
 namespace tessario {

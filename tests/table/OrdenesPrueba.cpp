@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "rules/Despacho.h"

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "records/Texto.h"

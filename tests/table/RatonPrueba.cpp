@@ -1,4 +1,5 @@
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "rules/PuzzBas.h"

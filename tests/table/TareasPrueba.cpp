@@ -1,6 +1,8 @@
 #include <set>
 
 #include "apoyo/MesaMontada.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"

@@ -1,6 +1,7 @@
 // The tutor: three flashes of the place where a piece belongs, and what they leave unchanged.
 #include "apoyo/MesaMontada.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "rules/PuzzBas.h"
 #include "table/Tutor.h"
 

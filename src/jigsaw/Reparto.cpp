@@ -1,43 +1,23 @@
-#include "table/Barajado.h"
+#include "jigsaw/Reparto.h"
 
 #include "core/PuzzGbl.h"
-#include "core/Servicios.h"
 #include "core/Superficies.h"
-#include "panel/Cronometro.h"
-#include "panel/Grabadora.h"
+#include "panel/Barajado.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Movimientos.h"
-#include "sliding/Tablero.h"
-#include "table/Raton.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11;
-constexpr i16 SONIDO_SUELTA = 52;
 constexpr i16 FORMA_TRIANGULOS = 3;
 constexpr i32 PASADAS_ORDEN = 4;         // shuffles of the stacking order
 constexpr i32 RECHAZOS_MAXIMOS = 10000;  // places refused to one piece of the jigsaw
-constexpr i32 SEPARACION_TANGRAM = 20;   // pixels between the Tangram's column and the strip
 
 // ---------------------------------------------------------------- deal
-void BarajaTangram() {
-    i32 y = Gbl.MargenY;
-    for (i16 i = 1; i <= 7; ++i) {
-        Pieza& p = Gbl.Piezas[i];
-        p.Giro = p.Volteo = 0;
-        Gbl.OrdenPiezas[i] = i;
-        p.X = Corto(Pic_Botonera.Left - SEPARACION_TANGRAM - AnchoDePieza(i, 0, 0));
-        p.Y = Corto(y);
-        y += AltoDePieza(i, 0, 0) + Gbl.MargenY;
-    }
-}
-
 // The tests for one axis: a piece lies wholly beyond the puzzle's far side or wholly before it.
 bool NoCruza(i32 pos, i32 celda, i32 saliente, i32 puzzle) {
     return pos - saliente > puzzle || pos + celda + saliente < puzzle;
@@ -72,34 +52,7 @@ void ReparteMoviles(Pieza& p) {
     }
 }
 
-void BarajaMoviles() {
-    Randomize(Sistema().Timer());
-    for (i32 pasada = 0; pasada < PASADAS_ORDEN; ++pasada)
-        for (i32 n = 0; n < Gbl.NumPiezas; ++n)
-            SubePieza(static_cast<i16>(Int(Gbl.NumPiezas * Rnd()) + 1));
-    for (i32 i = Gbl.NumPiezas; i >= 1; --i) ReparteMoviles(Gbl.Piezas[Gbl.OrdenPiezas[i]]);
-}
-
 // ---------------------------------------------------------------- side arrangement
-// Runs the piece to its place at the side, logged, with its sound.
-void ApartaPieza(i16 q, i32 x, i32 y) {
-    const Pieza antes = Gbl.Piezas[q];
-    Gbl.XOrigen = antes.X;
-    Gbl.YOrigen = antes.Y;
-    DeslizaPieza(antes.X, antes.Y, Corto(x), Corto(y), q);
-    SonidoJuego(0, SONIDO_SUELTA);
-    const Pieza& p = Gbl.Piezas[q];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, p.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
-}
-
-// Lets events run between two pieces. False: the arrangement was called off.
-bool SigueOrdenando() {
-    // No piece is in hand here: a move of the mouse that comes in now must drag none.
-    Gbl.ArrastrandoPieza = false;
-    DejaPasarEventos();
-    return Gbl.OrdenandoPiezas;
-}
-
 // The place that wanders down a column beside the strip, left along a row at the bottom, down the
 // next column further in, and so on around the free table.
 struct LineaLateral {
@@ -171,40 +124,6 @@ void OrdenaMovil(LineaLateral& linea, i16 q) {
     linea.cy += dh;
 }
 
-void OrdenaMoviles() {
-    LineaLateral linea;
-    for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const i16 q = Gbl.OrdenPiezas[i];
-        if (!PiezaEnSuSitio(q)) {
-            SubePieza(i);
-            OrdenaMovil(linea, q);
-        }
-        if (!SigueOrdenando()) return;
-    }
-}
-
-void OrdenaTangram() {
-    i32 derecha = Pic_Botonera.Left;
-    i32 minimo = derecha;
-    i32 y = Gbl.MargenY;
-    for (i16 p = 1; p <= 7; ++p) {
-        if (!PiezaEnSuSitio(p)) {
-            SubePieza(PosicionEnOrden(p));
-            const i32 w = AnchoDePieza(p, Gbl.Piezas[p].Giro, Gbl.Piezas[p].Volteo);
-            const i32 h = AltoDePieza(p, Gbl.Piezas[p].Giro, Gbl.Piezas[p].Volteo);
-            if (y + h > Gbl.AltoPantalla) {
-                derecha = minimo;
-                y = Gbl.MargenY;
-            }
-            const i32 x = derecha - SEPARACION_TANGRAM - w;
-            minimo = std::min(minimo, x);
-            ApartaPieza(p, x, y);
-            y += h + Gbl.MargenY;
-        }
-        if (!SigueOrdenando()) return;
-    }
-}
-
 // ---------------------------------------------------------------- triangles
 // Does the line of the mask meet the piece, that is, a pixel that is not white?
 constexpr Color BLANCO = 0xFFFFFF;
@@ -221,43 +140,24 @@ bool ColumnaTocada(i32 x) {
 
 }  // namespace
 
-void BarajaPiezas() {
-    AplicaCursor(CURSOR_RELOJ);
-    Gbl.Barajando = true;
-    CambiaCrono(CRONO_PARO);
-    Sigue([] {
-        switch (Gbl.JuegoActual) {
-            case JuegoMoviles:
-                BarajaMoviles();
-                break;
-            case JuegoDeslizantes:
-                BarajaConMovimientos();
-                break;
-            case JuegoTangram:
-                BarajaTangram();
-                break;
-            default:
-                break;
-        }
-    });
-    ReiniciaPartida();
-    if (Gbl.JuegoActual != JuegoDeslizantes)
-        ColocaPiezas(0);
-    else
-        MuestraColocadas();  // its pieces lie there already; only the counter is behind
-    Gbl.Barajando = false;
-    AplicaCursor(CURSOR_NORMAL);
+void BarajaMoviles() {
+    Randomize(Sistema().Timer());
+    for (i32 pasada = 0; pasada < PASADAS_ORDEN; ++pasada)
+        for (i32 n = 0; n < Gbl.NumPiezas; ++n)
+            SubePieza(static_cast<i16>(Int(Gbl.NumPiezas * Rnd()) + 1));
+    for (i32 i = Gbl.NumPiezas; i >= 1; --i) ReparteMoviles(Gbl.Piezas[Gbl.OrdenPiezas[i]]);
 }
 
-void OrdenaLaterales() {
-    AplicaCursor(CURSOR_RELOJ);
-    Sigue([] {
-        if (Gbl.JuegoActual == JuegoMoviles) OrdenaMoviles();
-        if (Gbl.JuegoActual == JuegoTangram) OrdenaTangram();
-    });
-    Gbl.ArrastrandoPieza = false;
-    Gbl.OrdenandoPiezas = false;
-    AplicaCursor(CURSOR_NORMAL);
+void OrdenaMoviles() {
+    LineaLateral linea;
+    for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {
+        const i16 q = Gbl.OrdenPiezas[i];
+        if (!PiezaEnSuSitio(q)) {
+            SubePieza(i);
+            OrdenaMovil(linea, q);
+        }
+        if (!SigueOrdenando()) return;
+    }
 }
 
 void MideTriangulo(i16 piece) {

@@ -1,0 +1,11 @@
+// The jigsaw of movable pieces: the record of game 21, its sizes, and what is its own in the
+// routines that all games share.
+#pragma once
+
+#include "rules/Juego.h"
+
+namespace tessario {
+
+extern const Juego JUEGO_MOVILES;
+
+}  // namespace tessario

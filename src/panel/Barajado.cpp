@@ -1,0 +1,72 @@
+#include "panel/Barajado.h"
+
+#include "core/PuzzGbl.h"
+#include "core/Servicios.h"
+#include "panel/Colocadas.h"
+#include "panel/Cronometro.h"
+#include "panel/CursorMesa.h"
+#include "panel/Grabadora.h"
+#include "pieces/Composicion.h"
+#include "rules/Juego.h"
+
+namespace tessario {
+
+namespace {
+
+constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11;
+constexpr i16 SONIDO_SUELTA = 52;
+constexpr i32 MOVIMIENTOS_INICIALES = 100;  // upper bound of a new log
+
+}  // namespace
+
+void BarajaPiezas() {
+    AplicaCursor(CURSOR_RELOJ);
+    Gbl.Barajando = true;
+    CambiaCrono(CRONO_PARO);
+    Sigue([] { JuegoEnCurso().Baraja(); });
+    ReiniciaPartida();
+    if (JuegoEnCurso().BarajaJugando)
+        MuestraColocadas();  // its pieces lie there already; only the counter is behind
+    else
+        ColocaPiezas(0);
+    Gbl.Barajando = false;
+    AplicaCursor(CURSOR_NORMAL);
+}
+
+void ReiniciaPartida() {
+    Gbl.PuzzleArchivable = true;
+    Gbl.PuzzleTerminado = false;
+    Gbl.SegundosJuego = 0;
+    // A new puzzle is kept under no name yet; where models are solved the name is the model's.
+    if (!JuegoEnCurso().TieneModos) Gbl.NombrePuzzle.clear();
+    Gbl.NumMovimientos = 0;
+    Gbl.Movimientos.Redimensiona(MOVIMIENTOS_INICIALES);
+    CambiaCrono(CRONO_MARCHA);
+}
+
+void OrdenaLaterales() {
+    AplicaCursor(CURSOR_RELOJ);
+    if (const auto ordena = JuegoEnCurso().OrdenaLaterales) Sigue(ordena);
+    Gbl.ArrastrandoPieza = false;
+    Gbl.OrdenandoPiezas = false;
+    AplicaCursor(CURSOR_NORMAL);
+}
+
+void ApartaPieza(i16 piece, i32 x, i32 y) {
+    const Pieza antes = Gbl.Piezas[piece];
+    Gbl.XOrigen = antes.X;
+    Gbl.YOrigen = antes.Y;
+    DeslizaPieza(antes.X, antes.Y, Corto(x), Corto(y), piece);
+    SonidoJuego(0, SONIDO_SUELTA);
+    const Pieza& p = Gbl.Piezas[piece];
+    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, p.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+}
+
+bool SigueOrdenando() {
+    // No piece is in hand here: a move of the mouse that comes in now must drag none.
+    Gbl.ArrastrandoPieza = false;
+    DejaPasarEventos();
+    return Gbl.OrdenandoPiezas;
+}
+
+}  // namespace tessario

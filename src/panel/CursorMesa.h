@@ -1,0 +1,11 @@
+// The pointer over the table.
+#pragma once
+
+#include "platform/Tipos.h"
+
+namespace tessario {
+
+// Applies a cursor id to the table and notes it in CursorActual.
+void AplicaCursor(i16 id);
+
+}  // namespace tessario

@@ -1,0 +1,14 @@
+// The puzzle of sliding pieces: the record of game 22, its sizes, and what is its own in the
+// routines that all games share.
+#pragma once
+
+#include "rules/Juego.h"
+
+namespace tessario {
+
+extern const Juego JUEGO_DESLIZANTES;
+
+// How hard the board is as it stands, before the bounds.
+double DificultadDeslizantes();
+
+}  // namespace tessario
