@@ -7,6 +7,7 @@
 #include "apoyo/Azar.h"
 #include "apoyo/MesaTangram.h"
 #include "table/Atraccion.h"
+#include "tangram/Pegado.h"
 
 namespace tessario {
 
