@@ -44,4 +44,6 @@ void PintaRotulos();
 // Builds the table of game 22; non-zero lays out and shuffles a new board.
 void CreaDeslizantes(i16 nuevo);
 
+void ReiniciaPartida();  // of panel/Barajado
+
 }  // namespace tessario

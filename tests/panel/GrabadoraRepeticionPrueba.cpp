@@ -1,6 +1,7 @@
 // The recorder on a table whose stack is not in order: what a replay raises, sounds, waits for
 // and counts, key by key.
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "rules/PuzzBas.h"

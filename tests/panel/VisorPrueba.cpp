@@ -3,6 +3,7 @@
 
 #include "apoyo/Azar.h"
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"

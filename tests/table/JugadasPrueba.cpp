@@ -3,14 +3,16 @@
 #include "apoyo/Azar.h"
 #include "apoyo/MesaMontada.h"
 #include "apoyo/MesaTangram.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "rules/PuzzBas.h"
 #include "table/Atraccion.h"
-#include "table/Barajado.h"
 #include "table/Colocacion.h"
 #include "table/Giro.h"
 #include "table/Raton.h"
+#include "tangram/Pegado.h"
 
 namespace tessario {
 

@@ -6,12 +6,13 @@
 
 #include "apoyo/Azar.h"
 #include "apoyo/MesaMontada.h"
+#include "panel/Barajado.h"
+#include "panel/Colocadas.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "rules/PuzzBas.h"
-#include "table/Barajado.h"
 #include "table/Raton.h"
 
 namespace tessario {
