@@ -1,6 +1,7 @@
 #include "core/Avisos.h"
 
-#include "core/Servicios.h"
+#include "core/Fallos.h"
+#include "core/Ventanas.h"
 
 namespace tessario {
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "core/Errores.h"
+#include "core/Fallos.h"
 #include "platform/Tipos.h"
 
 namespace tessario {

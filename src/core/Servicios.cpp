@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "core/PuzzGbl.h"
-#include "core/Ventanas.h"
 #include "platform/Plataforma.h"
 
 namespace tessario {
@@ -25,19 +24,6 @@ public:
 };
 
 }  // namespace
-
-void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
-             i16 BotonesMensaje, i16 Ayuda) {
-    Gbl.ModoMensaje = ModoMensaje;
-    Gbl.BotonesMensaje = BotonesMensaje;
-    Gbl.AyudaMensaje = Ayuda;  // before the window loads, which shows its help button by it
-    Gbl.TituloMensaje = Titulo;
-    Gbl.TextoMensaje = Texto;
-    Mensajes.Caption = Titulo;
-    Tex_Titulo.Caption = Titulo;
-    Tex_Mensaje.Caption = Texto;
-    Sistema().MuestraModal(Mensajes);
-}
 
 void SonidoJuego(i16 Asincrono, i16 Id) {
     if (!Gbl.Sonido) return;

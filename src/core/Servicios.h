@@ -1,4 +1,4 @@
-// The services that every room of the game calls: message, sound, pacing delay, cursor, and the
+// The services that every room of the game calls: sound, pacing delay, cursor, help, and the
 // points at which pending events may run.
 #pragma once
 
@@ -8,12 +8,6 @@
 #include "platform/Tipos.h"
 
 namespace tessario {
-
-// Shows a message and waits until it is closed; Gbl.RespuestaMensaje then holds the answer.
-// ModoMensaje: height in text lines. BotonesMensaje: 1 closing button, 2 yes and no. Ayuda: help
-// topic, 0 for none.
-void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
-             i16 BotonesMensaje, i16 Ayuda = 0);
 
 // Plays sound resource Id if sounds are on: Asincrono 1 returns at once, anything else waits for
 // the end.

@@ -4,11 +4,37 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
-#include "pieces/Moldes.h"
 #include "platform/Controles.h"
 
 namespace tessario {
+
+// ---------------------------------------------------------------- moulds
+
+// Everything that the drawing of a mask reads, the game first. Masks of equal keys are equal pixel
+// by pixel; the empty key is nobody's.
+using ClaveMolde = std::array<double, 16>;
+
+// A pixel of a piece's drawn border: its index in the box, row by row, and its colour.
+struct PixelBorde {
+    i32 Donde;
+    Pixel Valor;
+};
+
+// A mask, black inside and white outside, the border that lies on it, and what they were drawn for.
+struct Molde {
+    ClaveMolde Clave{};
+    Superficie Mascara;
+    std::vector<PixelBorde> Borde;
+};
+
+// As many as the Tangram has: five kinds of pieces in eight turns on two faces. Of these the
+// interlocking shapes use 32 (two templates, each with its edges), the other shapes at most 4, the
+// sliding pieces 1.
+inline constexpr std::size_t MOLDES = 5 * 8 * 2;
+
+// ---------------------------------------------------------------- surfaces and controls
 
 // The window.
 extern Ventana Mesa;

@@ -152,6 +152,19 @@ void ReiniciaEtiqueta(Etiqueta& e, const char* nombre) {
 
 }  // namespace
 
+void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
+             i16 BotonesMensaje, i16 Ayuda) {
+    Gbl.ModoMensaje = ModoMensaje;
+    Gbl.BotonesMensaje = BotonesMensaje;
+    Gbl.AyudaMensaje = Ayuda;  // before the window loads, which shows its help button by it
+    Gbl.TituloMensaje = Titulo;
+    Gbl.TextoMensaje = Texto;
+    Mensajes.Caption = Titulo;
+    Tex_Titulo.Caption = Titulo;
+    Tex_Mensaje.Caption = Texto;
+    Sistema().MuestraModal(Mensajes);
+}
+
 bool PonRecurso(Superficie& destino, const std::string& nombre) {
     auto mapa = std::make_shared<Mapa>();
     if (!Sistema().RecursoImagen(nombre, *mapa)) return false;

@@ -7,6 +7,12 @@
 
 namespace tessario {
 
+// Shows a message and waits until it is closed; Gbl.RespuestaMensaje then holds the answer.
+// ModoMensaje: height in text lines. BotonesMensaje: 1 closing button, 2 yes and no. Ayuda: help
+// topic, 0 for none.
+void Mensaje(const std::string& Titulo, const std::string& Texto, i16 ModoMensaje,
+             i16 BotonesMensaje, i16 Ayuda = 0);
+
 extern Ventana Mensajes;
 extern Etiqueta Tex_Titulo, Tex_Mensaje;  // of Mensajes
 extern Cuadro Pic_Si, Pic_No, Pic_BotSalirMensaje, Pic_BotAyudaMensaje;

@@ -1,5 +1,6 @@
 #include "panel/Barajado.h"
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "panel/Colocadas.h"

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"

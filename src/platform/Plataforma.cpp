@@ -15,6 +15,7 @@ Plataforma& Sistema() {
 
 void PonSistema(Plataforma* p) {
     enUso = p;
+    PonLetras(p);
 }
 
 }  // namespace tessario

@@ -9,14 +9,13 @@
 #include <vector>
 
 #include "platform/Controles.h"
+#include "platform/Letras.h"
 #include "platform/Superficie.h"
 
 namespace tessario {
 
-class Plataforma {
+class Plataforma : public Letras {
 public:
-    virtual ~Plataforma() = default;
-
     // --- Screen.
     virtual i32 AnchoPantalla() = 0;
     virtual i32 AltoPantalla() = 0;
@@ -46,12 +45,6 @@ public:
     virtual void Minimiza(Ventana& v) = 0;
     virtual void PonFoco(Control& c) = 0;
     virtual void Termina() = 0;  // ends the program once the running handlers return
-
-    // --- Text. Widths and heights in pixels; PintaTexto clips to the surface and its clip.
-    virtual i32 AnchoTexto(const Fuente& f, std::string_view texto) = 0;
-    virtual i32 AltoTexto(const Fuente& f) = 0;
-    virtual void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
-                            Color color) = 0;
 
     // --- Pictures. Files are told by their content. All that read give 0, 53 no such file, 7 too
     // large, 481 not a picture; unless 0, what they were to fill is left as it was.

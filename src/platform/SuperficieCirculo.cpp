@@ -6,7 +6,7 @@
 #include <numbers>
 
 #include "platform/Superficie.h"
-#include "platform/Trazo.h"
+#include "platform/SuperficieTrazo.h"
 
 namespace tessario {
 

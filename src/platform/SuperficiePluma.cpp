@@ -2,9 +2,9 @@
 #include <cmath>
 #include <cstdint>
 
-#include "platform/Plataforma.h"
+#include "platform/Letras.h"
 #include "platform/Superficie.h"
-#include "platform/Trazo.h"
+#include "platform/SuperficieTrazo.h"
 
 namespace tessario {
 
@@ -138,17 +138,17 @@ void Superficie::Print(std::string_view texto) {
         Trazo suelo(*this, BackColor());
         suelo.Caja({*x, *y, *x + TextWidth(texto), *y + alto});
     }
-    Sistema().PintaTexto(*this, *x, *y, texto, Font, ForeColor);
+    LetrasEnUso().PintaTexto(*this, *x, *y, texto, Font, ForeColor);
     CurrentX = 0;
     CurrentY += alto;
 }
 
 i32 Superficie::TextWidth(std::string_view texto) const {
-    return Sistema().AnchoTexto(Font, texto);
+    return LetrasEnUso().AnchoTexto(Font, texto);
 }
 
 i32 Superficie::TextHeight(std::string_view) const {
-    return Sistema().AltoTexto(Font);
+    return LetrasEnUso().AltoTexto(Font);
 }
 
 }  // namespace tessario

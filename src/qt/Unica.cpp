@@ -9,6 +9,8 @@
 #include <cstring>
 #include <utility>
 
+#include "core/Errores.h"
+
 namespace tessario {
 
 namespace {

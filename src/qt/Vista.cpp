@@ -8,7 +8,6 @@
 
 #include "qt/Entrada.h"
 #include "qt/Estilo.h"
-#include "qt/VistaVentana.h"
 
 namespace tessario {
 
@@ -24,7 +23,7 @@ bool ReaccionaATeclas(const Control& c) {
 
 }  // namespace
 
-Vista::Vista(Control& c, VistaVentana& v, QWidget* padre)
+Vista::Vista(Control& c, MarcoDeVistas& v, QWidget* padre)
     : QWidget(padre), control_(c), ventana_(v) {
     setMouseTracking(true);
     setObjectName(Qs(c.Nombre));

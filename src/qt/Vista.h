@@ -11,14 +11,25 @@
 
 namespace tessario {
 
-class VistaVentana;
+class Vista;
+
+// What a view asks of the window view that it stands in.
+class MarcoDeVistas {
+public:
+    virtual ~MarcoDeVistas() = default;
+    virtual const Ventana& ventana() const = 0;
+    virtual Anfitrion& anfitrion() const = 0;
+    virtual bool Viva() const = 0;
+    virtual bool EsMia(const Vista* v) const = 0;
+    // A key: to the window, then to the control. True: used up, or the window is gone.
+    virtual bool Tecla(const QKeyEvent& e, Vista* foco) = 0;
+};
 
 class Vista : public QWidget, public RecibeSuelta {
 public:
-    Vista(Control& c, VistaVentana& v, QWidget* padre);
+    Vista(Control& c, MarcoDeVistas& v, QWidget* padre);
 
     Control& control() const { return control_; }
-    VistaVentana& ventana() const { return ventana_; }
 
     // Brings the widget in step with the record's fields and marks what must be painted anew.
     // Returns the area marked, in pixels.
@@ -62,7 +73,7 @@ private:
     void PonFocoPosible();
 
     Control& control_;
-    VistaVentana& ventana_;
+    MarcoDeVistas& ventana_;
     bool anillo_ = false;
 
     // The record as it was last seen.
@@ -73,8 +84,5 @@ private:
         bool primera = true;
     } visto_;
 };
-
-// The view that suits the record's kind.
-Vista* CreaVista(Control& c, VistaVentana& v, QWidget* padre);
 
 }  // namespace tessario

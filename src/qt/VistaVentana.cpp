@@ -9,6 +9,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "qt/CreaVista.h"
 #include "qt/Entrada.h"
 #include "qt/VistasPintadas.h"
 

@@ -14,16 +14,17 @@
 
 namespace tessario {
 
-class VistaVentana : public QWidget, public RecibeSuelta {
+class VistaVentana : public QWidget, public RecibeSuelta, public MarcoDeVistas {
 public:
     // A modal one stands above `duena`, the window that is on top so far, or above nothing.
     VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal);
 
-    Ventana& ventana() const { return ventana_; }
-    Anfitrion& anfitrion() const { return anfitrion_; }
+    Ventana& ventana() { return ventana_; }
+    const Ventana& ventana() const override { return ventana_; }
+    Anfitrion& anfitrion() const override { return anfitrion_; }
     Vista* VistaDe(const Control& c) const;
-    bool EsMia(const Vista* v) const;
-    bool Viva() const { return viva_; }
+    bool EsMia(const Vista* v) const override;
+    bool Viva() const override { return viva_; }
     bool Modal() const { return modal_; }
 
     // Walks the records and marks what differs from what was seen last.
@@ -39,8 +40,7 @@ public:
     // The window is closed: no more events; the widget goes away by itself.
     void Termina();
 
-    // A key: to the window, then to the control. True: used up, or the window is gone.
-    bool Tecla(const QKeyEvent& e, Vista* foco);
+    bool Tecla(const QKeyEvent& e, Vista* foco) override;
     void Suelta(Qt::MouseButton boton, QPointF punto) override;
 
 protected:

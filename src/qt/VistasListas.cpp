@@ -5,9 +5,6 @@
 
 #include "platform/Ficheros.h"
 #include "qt/Estilo.h"
-#include "qt/VistaVentana.h"
-#include "qt/VistasMandos.h"
-#include "qt/VistasPintadas.h"
 
 namespace tessario {
 
@@ -21,7 +18,7 @@ QString Qs(const std::string& t) {
 
 // --- Scroll bar.
 
-VistaBarra::VistaBarra(BarraDesplazamiento& c, VistaVentana& v, QWidget* padre)
+VistaBarra::VistaBarra(BarraDesplazamiento& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre),
       c_(c),
       barra_(new QScrollBar(c.Vertical ? Qt::Vertical : Qt::Horizontal, this)) {
@@ -46,7 +43,7 @@ i32 VistaBarra::SincronizaPropio() {
 
 // --- Text box.
 
-VistaTexto::VistaTexto(CajaTexto& c, VistaVentana& v, QWidget* padre)
+VistaTexto::VistaTexto(CajaTexto& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre), c_(c), linea_(new QLineEdit(this)), fuente_(c.Font) {
     PonInterior(linea_);
     linea_->setFont(FuenteQt(fuente_));
@@ -73,7 +70,7 @@ i32 VistaTexto::SincronizaPropio() {
 
 // --- Rows.
 
-VistaFilas::VistaFilas(Control& c, VistaVentana& v, QWidget* padre)
+VistaFilas::VistaFilas(Control& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre), filas_(new QListWidget(this)) {
     PonInterior(filas_);
     filas_->setUniformItemSizes(true);
@@ -208,7 +205,7 @@ bool VistaCarpetas::TeclaPropia(const QKeyEvent& e) {
 
 // --- Drives.
 
-VistaUnidades::VistaUnidades(ListaUnidades& c, VistaVentana& v, QWidget* padre)
+VistaUnidades::VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre), c_(c), caja_(new QComboBox(this)) {
     PonInterior(caja_);
     caja_->setFont(FuenteQt(Fuente{}));
@@ -233,48 +230,6 @@ i32 VistaUnidades::SincronizaPropio() {
     }
     caja_->setCurrentIndex(fila);
     return width() * height();
-}
-
-// --- The view for each kind.
-
-namespace {
-
-template <class Registro, class V>
-Vista* Crea(Control& c, VistaVentana& v, QWidget* padre) {
-    auto* const r = dynamic_cast<Registro*>(&c);
-    return r ? new V(*r, v, padre) : nullptr;
-}
-
-class VistaLisa : public Vista {
-public:
-    using Vista::Vista;
-
-protected:
-    bool EsBoton() const override { return true; }
-};
-
-// The kinds that are built on another one come before it.
-constexpr Vista* (*CLASES[])(Control&, VistaVentana&, QWidget*) = {
-    Crea<Cuadro, VistaCuadro>,
-    Crea<Etiqueta, VistaEtiqueta>,
-    Crea<BarraDesplazamiento, VistaBarra>,
-    Crea<ListaFicheros, VistaFicheros>,
-    Crea<Lista, VistaLista>,
-    Crea<CajaTexto, VistaTexto>,
-    Crea<Buleano, VistaBuleano>,
-    Crea<Selector, VistaSelector>,
-    Crea<Potenciometro, VistaPotenciometro>,
-    Crea<Spin, VistaSpin>,
-    Crea<ListaUnidades, VistaUnidades>,
-    Crea<ListaCarpetas, VistaCarpetas>,
-};
-
-}  // namespace
-
-Vista* CreaVista(Control& c, VistaVentana& v, QWidget* padre) {
-    for (const auto crea : CLASES)
-        if (Vista* const vista = crea(c, v, padre)) return vista;
-    return new VistaLisa(c, v, padre);
 }
 
 }  // namespace tessario

@@ -13,7 +13,7 @@ namespace tessario {
 
 class VistaBarra : public Vista {
 public:
-    VistaBarra(BarraDesplazamiento& c, VistaVentana& v, QWidget* padre);
+    VistaBarra(BarraDesplazamiento& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     i32 SincronizaPropio() override;
@@ -26,7 +26,7 @@ private:
 
 class VistaTexto : public Vista {
 public:
-    VistaTexto(CajaTexto& c, VistaVentana& v, QWidget* padre);
+    VistaTexto(CajaTexto& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     i32 SincronizaPropio() override;
@@ -43,7 +43,7 @@ private:
 // event, so that a handler may refill the list or close the window.
 class VistaFilas : public Vista {
 public:
-    VistaFilas(Control& c, VistaVentana& v, QWidget* padre);
+    VistaFilas(Control& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     QWidget* Interior() override { return filas_; }
@@ -60,7 +60,7 @@ private:
 
 class VistaLista : public VistaFilas {
 public:
-    VistaLista(Lista& c, VistaVentana& v, QWidget* padre) : VistaFilas(c, v, padre), l_(c) {}
+    VistaLista(Lista& c, MarcoDeVistas& v, QWidget* padre) : VistaFilas(c, v, padre), l_(c) {}
 
 protected:
     i32 SincronizaPropio() override;
@@ -78,7 +78,7 @@ private:
 // The names of a folder that match the pattern.
 class VistaFicheros : public VistaLista {
 public:
-    VistaFicheros(ListaFicheros& c, VistaVentana& v, QWidget* padre)
+    VistaFicheros(ListaFicheros& c, MarcoDeVistas& v, QWidget* padre)
         : VistaLista(c, v, padre), f_(c) {}
 
 protected:
@@ -91,7 +91,7 @@ private:
 // The way to the folder, then the folders in it; two presses enter one.
 class VistaCarpetas : public VistaFilas {
 public:
-    VistaCarpetas(ListaCarpetas& c, VistaVentana& v, QWidget* padre)
+    VistaCarpetas(ListaCarpetas& c, MarcoDeVistas& v, QWidget* padre)
         : VistaFilas(c, v, padre), c_(c) {}
 
 protected:
@@ -108,7 +108,7 @@ private:
 
 class VistaUnidades : public Vista {
 public:
-    VistaUnidades(ListaUnidades& c, VistaVentana& v, QWidget* padre);
+    VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     i32 SincronizaPropio() override;

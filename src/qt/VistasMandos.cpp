@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "qt/Estilo.h"
-#include "qt/VistaVentana.h"
 
 namespace tessario {
 
@@ -309,7 +308,7 @@ void VistaPotenciometro::paintEvent(QPaintEvent*) {
 
 // --- Spinner.
 
-VistaSpin::VistaSpin(Spin& c, VistaVentana& v, QWidget* padre) : VistaMando(c, v, padre), s_(c) {
+VistaSpin::VistaSpin(Spin& c, MarcoDeVistas& v, QWidget* padre) : VistaMando(c, v, padre), s_(c) {
     connect(&repite_, &QTimer::timeout, this, [this] {
         repite_.setInterval(REPITE_MS);
         if (Viva() && hundido_) Avanza(hundido_);

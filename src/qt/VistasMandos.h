@@ -10,7 +10,7 @@ namespace tessario {
 // What the four have in common: they paint themselves over their container, in glazed tile.
 class VistaMando : public Vista {
 public:
-    VistaMando(Control& c, VistaVentana& v, QWidget* padre) : Vista(c, v, padre) {}
+    VistaMando(Control& c, MarcoDeVistas& v, QWidget* padre) : Vista(c, v, padre) {}
 
 protected:
     i32 SincronizaPropio() override;
@@ -28,7 +28,7 @@ private:
 
 class VistaBuleano : public VistaMando {
 public:
-    VistaBuleano(Buleano& c, VistaVentana& v, QWidget* padre) : VistaMando(c, v, padre), b_(c) {}
+    VistaBuleano(Buleano& c, MarcoDeVistas& v, QWidget* padre) : VistaMando(c, v, padre), b_(c) {}
 
 protected:
     std::string Aspecto() const override;
@@ -44,7 +44,7 @@ private:
 
 class VistaSelector : public VistaMando {
 public:
-    VistaSelector(Selector& c, VistaVentana& v, QWidget* padre) : VistaMando(c, v, padre), s_(c) {}
+    VistaSelector(Selector& c, MarcoDeVistas& v, QWidget* padre) : VistaMando(c, v, padre), s_(c) {}
 
 protected:
     std::string Aspecto() const override;
@@ -63,7 +63,7 @@ private:
 
 class VistaPotenciometro : public VistaMando {
 public:
-    VistaPotenciometro(Potenciometro& c, VistaVentana& v, QWidget* padre)
+    VistaPotenciometro(Potenciometro& c, MarcoDeVistas& v, QWidget* padre)
         : VistaMando(c, v, padre), k_(c) {}
 
 protected:
@@ -88,7 +88,7 @@ private:
 
 class VistaSpin : public VistaMando {
 public:
-    VistaSpin(Spin& c, VistaVentana& v, QWidget* padre);
+    VistaSpin(Spin& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     std::string Aspecto() const override;

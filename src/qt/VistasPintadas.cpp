@@ -23,7 +23,7 @@ void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
     for (const QRect& r : fuera) p.fillRect(r, QColor::fromRgb(PixelDe(s.BackColor())));
 }
 
-VistaCuadro::VistaCuadro(Cuadro& c, VistaVentana& v, QWidget* padre)
+VistaCuadro::VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre), cuadro_(c) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -53,7 +53,7 @@ void VistaCuadro::paintEvent(QPaintEvent* e) {
     }
 }
 
-VistaEtiqueta::VistaEtiqueta(Etiqueta& c, VistaVentana& v, QWidget* padre)
+VistaEtiqueta::VistaEtiqueta(Etiqueta& c, MarcoDeVistas& v, QWidget* padre)
     : Vista(c, v, padre), etiqueta_(c) {}
 
 i32 VistaEtiqueta::SincronizaPropio() {

@@ -7,7 +7,7 @@ namespace tessario {
 
 class VistaCuadro : public Vista {
 public:
-    VistaCuadro(Cuadro& c, VistaVentana& v, QWidget* padre);
+    VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre);
     // Pixels painted on the screen since the start, for whoever checks that only changes are.
     long long PixelesPintados() const { return pintados_; }
 
@@ -23,7 +23,7 @@ private:
 
 class VistaEtiqueta : public Vista {
 public:
-    VistaEtiqueta(Etiqueta& c, VistaVentana& v, QWidget* padre);
+    VistaEtiqueta(Etiqueta& c, MarcoDeVistas& v, QWidget* padre);
 
 protected:
     i32 SincronizaPropio() override;

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
-#include "pieces/Formas.h"
 #include "records/Texto.h"
 
 namespace tessario {
@@ -108,6 +108,16 @@ i16 BuscaHueco(std::string_view fichero) {
     return Corto(numero);
 }
 
+// Left and top of the pieces as they stand.
+Punto EsquinaDeLaFigura() {
+    Punto esquina{Gbl.Piezas[1].X, Gbl.Piezas[1].Y};
+    for (i32 i = 2; i <= PIEZAS_TANGRAM; ++i) {
+        esquina.x = std::min<i32>(esquina.x, Gbl.Piezas[i].X);
+        esquina.y = std::min<i32>(esquina.y, Gbl.Piezas[i].Y);
+    }
+    return esquina;
+}
+
 void MuevePiezas(i32 dx, i32 dy) {
     for (i32 i = 1; i <= PIEZAS_TANGRAM; ++i) {
         Gbl.Piezas[i].X = Corto(Gbl.Piezas[i].X + dx);
@@ -175,8 +185,8 @@ void GuardaModelo(const std::string& nombre) {
     if (!LeeModelos(bytes)) return;  // what cannot be read is not replaced
     Sigue([&] {
         const i16 hueco = BuscaHueco(bytes);
-        TCajaFigura(1);
-        const i32 dx = Gbl.CajaIzq - Gbl.MargenX, dy = Gbl.CajaArr - Gbl.MargenY;
+        const Punto esquina = EsquinaDeLaFigura();
+        const i32 dx = esquina.x - Gbl.MargenX, dy = esquina.y - Gbl.MargenY;
         const Arreglo<Pieza> enLaMesa = Gbl.Piezas;
         Sigue([&] {
             MuevePiezas(-dx, -dy);

@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "records/Texto.h"
 #include "rules/Juego.h"

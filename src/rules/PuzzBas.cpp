@@ -2,6 +2,7 @@
 
 #include <bit>
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "rules/Juego.h"
 

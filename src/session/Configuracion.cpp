@@ -5,15 +5,19 @@
 
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Barajado.h"
 #include "panel/Colocadas.h"
 #include "records/Texto.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/CopiaSeguridad.h"
 #include "rules/Juego.h"
+#include "session/Ampliacion.h"
+#include "session/ImagenProvisional.h"
 #include "session/Montaje.h"
 
 namespace tessario {
@@ -120,39 +124,6 @@ void MesaPorDefecto() {
     Llama([] { ColocaPiezas(1); });
 }
 
-// ---------------------------------------------------------------- colours
-
-constexpr i32 PASO_RELIEVE = 40;
-constexpr i16 LUZ_CLARA = 129;  // from here on a table is light
-
-struct Canales {
-    i32 azul, verde, rojo;
-};
-
-Canales Separa(Color c) {
-    const i32 valor = static_cast<i32>(c);
-    const i32 resto = valor % 65536;
-    return {valor / 65536, resto / 256, resto % 256};
-}
-
-Color Sombra(Color c, i32 paso) {
-    const Canales k = Separa(c);
-    const auto canal = [paso](i32 v) { return static_cast<Color>(std::clamp(v + paso, 0, 255)); };
-    return canal(k.azul) * 65536 + canal(k.verde) * 256 + canal(k.rojo);
-}
-
-Color Contraste() {
-    constexpr Color negro = 0, blanco = 0xFFFFFF, gris = 0xC0C0C0;
-    // Black or white would vanish against the table or against the pieces.
-    if ((Gbl.ColorFondo == negro && Gbl.ColorPiezas == blanco) ||
-        (Gbl.ColorFondo == blanco && Gbl.ColorPiezas == negro))
-        return gris;
-    // Deliberate: these weights are the game's own and not those of a published luma rule.
-    const Canales k = Separa(Gbl.ColorFondo);
-    const i16 luz = Entero((0.8 * k.rojo + 2.0 * k.verde + 0.2 * k.azul) / 3.0);
-    return luz >= LUZ_CLARA ? negro : blanco;
-}
-
 }  // namespace
 
 std::string FicheroDelJuego() {
@@ -211,14 +182,6 @@ void LeeAjustesJuego(const std::string& Fichero) {
 
 void GuardaAjustesJuego() {
     GuardaPuzzle(FicheroDelJuego());
-}
-
-void CalculaColores() {
-    Gbl.ColorContraste = Contraste();
-    Gbl.ColorFondoClaro = Sombra(Gbl.ColorFondo, PASO_RELIEVE);
-    Gbl.ColorFondoOscuro = Sombra(Gbl.ColorFondo, -PASO_RELIEVE);
-    Gbl.ColorPiezasClaro = Sombra(Gbl.ColorPiezas, PASO_RELIEVE);
-    Gbl.ColorPiezasOscuro = Sombra(Gbl.ColorPiezas, -PASO_RELIEVE);
 }
 
 }  // namespace tessario

@@ -1,4 +1,4 @@
-// The global settings file, the per-game files, and the colours that follow from a record.
+// The global settings file and the per-game files.
 #pragma once
 
 #include <string>
@@ -13,11 +13,5 @@ void LeeAjustesJuego(const std::string& Fichero);
 void GuardaAjustesJuego();
 // CarpetaPrograma + "TsR" + game + "33.ini".
 std::string FicheroDelJuego();
-// Takes the place of the settings window until there is one: the first picture of CarpetaImagenes
-// in name order that loads and can be zoomed into the limits becomes the puzzle's, and the puzzle
-// is dealt afresh. With none, the player is told and the table goes on with an empty picture.
-void EligeImagenProvisional();
-// ColorContraste and the four shades, from ColorFondo and ColorPiezas.
-void CalculaColores();
 
 }  // namespace tessario

@@ -1,5 +1,4 @@
-// The picture of a jigsaw that has none yet, chosen without the player: EligeImagenProvisional of
-// session/Configuracion.h.
+#include "session/ImagenProvisional.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,9 +15,8 @@
 #include "rules/Despacho.h"
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
-#include "session/Configuracion.h"
+#include "session/Ampliacion.h"
 #include "session/Dificultad.h"
-#include "session/Montaje.h"
 
 namespace tessario {
 

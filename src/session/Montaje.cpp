@@ -6,6 +6,7 @@
 
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -16,11 +17,13 @@
 #include "platform/Plataforma.h"
 #include "records/Registro.h"
 #include "records/Texto.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/Juego.h"
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
-#include "session/Configuracion.h"
+#include "session/Ampliacion.h"
+#include "session/ImagenProvisional.h"
 #include "session/Reparacion.h"
 
 namespace tessario {
@@ -32,9 +35,6 @@ constexpr const char* FIN = "\r\n";
 
 // Lines of the file, from 0.
 enum Linea { LIN_UNIDAD, LIN_CARPETA, LIN_FICHERO, LIN_RUTA, LIN_REGISTRO, LIN_PIEZAS, LIN_MOVIM };
-
-// No picture of a puzzle is larger than this, however large the numbers of a damaged record.
-constexpr double PIXELES_MAXIMOS = 24.0 * 1024 * 1024;
 
 // ---------------------------------------------------------------- the picture
 
@@ -68,15 +68,6 @@ void CargaImagenReal() {
 void VaciaReal() {
     Pic_FonTamReal.PonPicture(nullptr);
     Pic_FonTamReal.Tamano(0, 0);
-}
-
-// Sizes a picture, but never by numbers that no screen or image has.
-void TamanoRazonable(Superficie& s, double ancho, double alto) {
-    const double real =
-        static_cast<double>(Pic_FonTamReal.Width()) * static_cast<double>(Pic_FonTamReal.Height());
-    if (ancho > 0 && alto > 0 && ancho * alto > std::max(PIXELES_MAXIMOS, real))
-        throw ErrorEjecucion(ERROR_MEMORIA);
-    s.Tamano(EnteroLargo(ancho), EnteroLargo(alto));
 }
 
 bool DentroDeLimites(const Punto& t) {
@@ -214,27 +205,6 @@ bool LeeEstado(const std::vector<std::string>& lineas) {
 }
 
 }  // namespace
-
-Punto TamanoConZoom() {
-    const double zoom = Gbl.ZoomImagen;
-    return {EnteroLargo(Int(Gbl.AnchoImagen * zoom / 100.0) + Gbl.MargenX),
-            EnteroLargo(Int(Gbl.AltoImagen * zoom / 100.0) + Gbl.MargenY)};
-}
-
-void AmpliaImagen() {
-    const Punto t = TamanoConZoom();
-    Pic_FonTamModi.PonPicture(nullptr);
-    TamanoRazonable(Pic_FonTamModi, t.x, t.y);
-    Pic_FonTamModi.Cls();
-    StretchBlt(Pic_FonTamModi, Gbl.MargenX, Gbl.MargenY, t.x - Gbl.MargenX, t.y - Gbl.MargenY,
-               Pic_FonTamReal, 0, 0, Pic_FonTamReal.Width(), Pic_FonTamReal.Height(), SRCCOPY);
-    Pic_FonTamModi.PonPicture(Pic_FonTamModi.Image());
-}
-
-void VaciaImagen() {
-    Pic_FonTamModi.Tamano(IMAGEN_ANCHO_MIN, IMAGEN_ALTO_MIN);
-    Pic_FonTamModi.PonPicture(nullptr);
-}
 
 std::string EscribePuzzle() {
     std::string bytes;

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "core/Avisos.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Colocadas.h"
@@ -56,25 +57,6 @@ std::vector<i16> OrdenDePintado() {
     for (i32 celda = 1; celda <= Gbl.NumPiezas + 1; ++celda)
         if (const i16 p = PiezaEnCelda(celda); p != 0) orden.push_back(p);
     return orden;
-}
-
-// ---------------------------------------------------------------- difficulty
-// Greatest disorder of a board, by PiezasPorLado from LADO_MINIMO to LADO_MAXIMO.
-constexpr i16 MAX_DESORDEN[] = {20, 58, 112, 206, 324, 498, 702};
-
-// By TipoFondo from 1: a bare image is the hardest, numbers are the easiest.
-constexpr float FACTOR_FONDO[] = {100, 20, 35};
-
-float FactorDesorden() {
-    i32 desorden = 0;
-    for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const Pieza& p = Gbl.Piezas[i];
-        desorden += DistanciaCeldas(p.X, p.Y, p.XBien, p.YBien);
-    }
-    if (Gbl.PiezasPorLado < LADO_MINIMO || Gbl.PiezasPorLado > LADO_MAXIMO)
-        throw ErrorEjecucion(ERROR_INDICE);
-    const i16 maximo = MAX_DESORDEN[Gbl.PiezasPorLado - LADO_MINIMO];
-    return static_cast<float>(desorden) * 100.0F / static_cast<float>(maximo);
 }
 
 // ---------------------------------------------------------------- records
@@ -172,15 +154,6 @@ void ColocaMuestra() {
 }
 
 }  // namespace
-
-double DificultadDeslizantes() {
-    float desorden = 0;
-    Sigue([&] { desorden = FactorDesorden(); });
-    const float cuenta = static_cast<float>(Gbl.NumPiezas - 8) / 0.72F;
-    const bool conocido = Gbl.TipoFondo >= FONDO_IMAGEN && Gbl.TipoFondo <= FONDO_LETRAS;
-    const float fondo = conocido ? FACTOR_FONDO[Gbl.TipoFondo - FONDO_IMAGEN] : 0.0F;
-    return (desorden + cuenta + fondo) / 3.0;
-}
 
 const Juego JUEGO_DESLIZANTES = {
     .Numero = JuegoDeslizantes,

@@ -8,7 +8,4 @@ namespace tessario {
 
 extern const Juego JUEGO_DESLIZANTES;
 
-// How hard the board is as it stands, before the bounds.
-double DificultadDeslizantes();
-
 }  // namespace tessario

@@ -10,7 +10,6 @@
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Deslizantes.h"
 #include "sliding/Tablero.h"
 
 namespace tessario {

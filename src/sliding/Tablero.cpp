@@ -7,7 +7,6 @@
 #include "core/PuzzGbl.h"
 #include "panel/Barajado.h"
 #include "rules/PuzzBas.h"
-#include "sliding/Deslizantes.h"
 
 namespace tessario {
 

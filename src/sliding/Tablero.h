@@ -41,6 +41,8 @@ void BarajaDeslizantes();
 // the ground or the picture and the choice of the font, PintaRotulos the labels of the pieces.
 void PintaFondoCaras();
 void PintaRotulos();
+// How hard the board is as it stands, before the bounds.
+double DificultadDeslizantes();
 // Builds the table of game 22; non-zero lays out and shuffles a new board.
 void CreaDeslizantes(i16 nuevo);
 

@@ -5,6 +5,7 @@
 
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -176,6 +177,7 @@ void CargaVentanas() {
 void CargaMesa() {
     ConectaMesa();
     CargaVentanas();
+    VentanasOrdenes.Termina = TerminaPrograma;
     if (Mesa.Load) Mesa.Load();
     Gbl.ResolviendoPuzzle = false;
 }

@@ -1,6 +1,7 @@
 #include "table/Final.h"
 
 #include "core/Avisos.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "panel/Cronometro.h"

@@ -1,5 +1,6 @@
 #include "table/Mesa.h"
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"

@@ -1,6 +1,7 @@
 #include "table/Ordenes.h"
 
 #include "core/Avisos.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -17,7 +18,6 @@
 #include "session/Configuracion.h"
 #include "session/CopiaSeguridad.h"
 #include "sliding/Tablero.h"
-#include "start/Arranque.h"
 #include "table/Colocacion.h"
 #include "table/Raton.h"
 #include "table/Tareas.h"
@@ -135,10 +135,10 @@ void Sale() {
     }
     DetieneCrono();
     Avisa(aviso::SALIR);
-    if (Gbl.RespuestaMensaje)
-        TerminaPrograma();
-    else
+    if (!Gbl.RespuestaMensaje)
         ReponeCrono();
+    else if (VentanasOrdenes.Termina)
+        VentanasOrdenes.Termina();
 }
 
 void MuestraModelo() {

@@ -1,5 +1,6 @@
 #include "table/Tutor.h"
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "rules/Juego.h"

@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "pieces/Composicion.h"

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <span>
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"

@@ -10,6 +10,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "rules/Colores.h"
 #include "rules/Medidas.h"
 #include "session/Configuracion.h"
 #include "sliding/Tablero.h"

@@ -4,6 +4,7 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Avisos.h"
+#include "core/Fallos.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "core/Ventanas.h"

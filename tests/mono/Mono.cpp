@@ -25,6 +25,7 @@
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "records/Modelos.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"

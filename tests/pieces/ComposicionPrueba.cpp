@@ -1,4 +1,5 @@
 #include "apoyo/MesaMoviles.h"
+#include "core/Fallos.h"
 #include "pieces/Composicion.h"
 
 namespace tessario {

@@ -5,6 +5,7 @@
 
 #include "apoyo/Datos.h"
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Fallos.h"
 #include "pieces/Formas.h"
 #include "rules/Medidas.h"
 

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include "apoyo/MesaTangram.h"
+#include "core/Errores.h"
 #include "records/Modelos.h"
 
 namespace tessario {

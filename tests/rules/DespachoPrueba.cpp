@@ -4,6 +4,7 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "session/Configuracion.h"
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Errores.h"
 #include "core/Superficies.h"
 #include "rules/Medidas.h"
 

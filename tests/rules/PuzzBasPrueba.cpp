@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Fallos.h"
 #include "core/Superficies.h"
 #include "panel/Colocadas.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"

@@ -3,9 +3,12 @@
 #include <filesystem>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Errores.h"
 #include "core/Superficies.h"
 #include "records/Texto.h"
+#include "rules/Colores.h"
 #include "session/Configuracion.h"
+#include "session/ImagenProvisional.h"
 #include "session/Montaje.h"
 
 namespace tessario {

@@ -4,8 +4,10 @@
 #include <random>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "core/Errores.h"
 #include "core/Superficies.h"
 #include "records/Texto.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"

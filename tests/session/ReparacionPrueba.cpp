@@ -4,6 +4,7 @@
 
 #include "apoyo/MesaMontada.h"
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 #include "panel/Cronometro.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"

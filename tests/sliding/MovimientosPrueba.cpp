@@ -5,6 +5,7 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "apoyo/TableroDeslizante.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Barajado.h"

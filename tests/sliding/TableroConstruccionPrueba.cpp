@@ -8,6 +8,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "pieces/Raster.h"
+#include "rules/Colores.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {

@@ -1,4 +1,5 @@
 #include "apoyo/MesaMoviles.h"
+#include "core/Errores.h"
 #include "rules/PuzzBas.h"
 #include "table/Atraccion.h"
 #include "tangram/Pegado.h"

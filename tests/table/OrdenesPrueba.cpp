@@ -4,6 +4,7 @@
 #include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
+#include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"

@@ -16,6 +16,7 @@
 #include <stdexcept>
 
 #include "Ajuste.h"
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"

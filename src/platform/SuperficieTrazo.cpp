@@ -1,4 +1,4 @@
-#include "platform/Trazo.h"
+#include "platform/SuperficieTrazo.h"
 
 #include <cmath>
 
