@@ -27,8 +27,4 @@ std::string TextoTiempo(i32 segundos);
 void Pic_Cronome_MouseDown(i16 Button, i16 Shift, float X, float Y);
 void Pic_Cronome_MouseMove(i16 Button, i16 Shift, float X, float Y);
 
-// Of panel/Colocadas.
-void MuestraColocadas();
-void PintaColocadas();
-
 }  // namespace tessario

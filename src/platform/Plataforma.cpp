@@ -15,7 +15,7 @@ Plataforma& Sistema() {
 
 void PonSistema(Plataforma* p) {
     enUso = p;
-    PonLetras(p);
+    PonTipografia(p);
 }
 
 }  // namespace tessario

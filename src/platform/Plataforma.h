@@ -9,12 +9,12 @@
 #include <vector>
 
 #include "platform/Controles.h"
-#include "platform/Letras.h"
 #include "platform/Superficie.h"
+#include "platform/Tipografia.h"
 
 namespace tessario {
 
-class Plataforma : public Letras {
+class Plataforma : public Tipografia {
 public:
     // --- Screen.
     virtual i32 AnchoPantalla() = 0;

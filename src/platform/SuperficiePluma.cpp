@@ -2,9 +2,9 @@
 #include <cmath>
 #include <cstdint>
 
-#include "platform/Letras.h"
 #include "platform/Superficie.h"
 #include "platform/SuperficieTrazo.h"
+#include "platform/Tipografia.h"
 
 namespace tessario {
 
@@ -138,17 +138,17 @@ void Superficie::Print(std::string_view texto) {
         Trazo suelo(*this, BackColor());
         suelo.Caja({*x, *y, *x + TextWidth(texto), *y + alto});
     }
-    LetrasEnUso().PintaTexto(*this, *x, *y, texto, Font, ForeColor);
+    TipografiaEnUso().PintaTexto(*this, *x, *y, texto, Font, ForeColor);
     CurrentX = 0;
     CurrentY += alto;
 }
 
 i32 Superficie::TextWidth(std::string_view texto) const {
-    return LetrasEnUso().AnchoTexto(Font, texto);
+    return TipografiaEnUso().AnchoTexto(Font, texto);
 }
 
 i32 Superficie::TextHeight(std::string_view) const {
-    return LetrasEnUso().AltoTexto(Font);
+    return TipografiaEnUso().AltoTexto(Font);
 }
 
 }  // namespace tessario

@@ -26,6 +26,4 @@ double Rnd();
 // Starts the generator from a number, usually the time of day.
 void Randomize(double semilla);
 
-void ColocaPiezas(i16 Modo);  // of panel/Colocadas
-
 }  // namespace tessario

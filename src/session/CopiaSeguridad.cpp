@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "records/EscrituraAparte.h"
 #include "records/Texto.h"

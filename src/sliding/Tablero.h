@@ -46,6 +46,4 @@ double DificultadDeslizantes();
 // Builds the table of game 22; non-zero lays out and shuffles a new board.
 void CreaDeslizantes(i16 nuevo);
 
-void ReiniciaPartida();  // of panel/Barajado
-
 }  // namespace tessario

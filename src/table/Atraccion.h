@@ -9,8 +9,4 @@ namespace tessario {
 // enough and is rightly turned; it may take the place of its like. True when the piece went home.
 bool AtraeASuSitio();
 
-// Of tangram/Pegado.
-void PegaDosPiezas();
-void PegaDosPiezasNuevoConError();
-
 }  // namespace tessario

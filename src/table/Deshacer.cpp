@@ -1,11 +1,12 @@
 #include "table/Deshacer.h"
 
+#include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"
+#include "panel/CursorMesa.h"
 #include "panel/Grabadora.h"
-#include "table/Raton.h"
 #include "table/Tareas.h"
 
 namespace tessario {

@@ -97,6 +97,7 @@ void ConectaTabla() {
     Pic_Sugerencia.MouseMove = Raton(Pic_Sugerencia_MouseMove);
     Pic_SugeMasAyuda.MouseDown = Raton(Pic_SugeMasAyuda_MouseDown);
     Pic_SugeBotCerrar.MouseDown = Raton(Pic_SugeBotCerrar_MouseDown);
+    Pic_SelOpciones.Paint = MuestraOpcionesSelec;
     Pic_SelOpciones.MouseMove = Raton(Pic_SelOpciones_MouseMove);
     Pic_SelOpciones.MouseUp = Raton(Pic_SelOpciones_MouseUp);
     BarraHor.Change = Aviso(BarraHor_Change);

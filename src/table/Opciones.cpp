@@ -1,6 +1,7 @@
 #include "table/Opciones.h"
 
 #include "core/Avisos.h"
+#include "core/Errores.h"
 #include "core/Numeros.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
@@ -9,6 +10,7 @@
 #include "platform/Plataforma.h"
 #include "table/Ordenes.h"
 #include "table/Tareas.h"
+#include "table/VentanasOrdenes.h"
 
 namespace tessario {
 

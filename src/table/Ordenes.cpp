@@ -24,8 +24,6 @@
 
 namespace tessario {
 
-VentanasDeOrdenes VentanasOrdenes;
-
 namespace {
 
 constexpr i16 ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10, ORDEN_ORDENAR = 11,

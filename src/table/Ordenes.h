@@ -1,24 +1,12 @@
 // The twelve commands of the strip: when each is allowed and what it does.
 #pragma once
 
-#include "platform/Controles.h"
 #include "platform/Tipos.h"
+#include "table/VentanasOrdenes.h"
 
 namespace tessario {
 
 inline constexpr i16 BOTON_USABLE = 23, BOTON_PROHIBIDO = 12;  // values of BotonEstado
-
-// The windows that commands 2, 4 and 5 and the options panel open, and what command 7 does when the
-// player has agreed. They are put here once, at start; a command whose window is not here does all
-// that surrounds it.
-struct VentanasDeOrdenes {
-    Ventana* Personal = nullptr;
-    Ventana* Estadis = nullptr;
-    Ventana* Historic = nullptr;
-    Ventana* Cargua = nullptr;  // of the options panel
-    void (*Termina)() = nullptr;
-};
-extern VentanasDeOrdenes VentanasOrdenes;
 
 // Any mouse button runs the command.
 void Pic_Boton_MouseDown(i16 Index, i16 Button, i16 Shift, float X, float Y);

@@ -19,7 +19,6 @@
 #include "table/Deshacer.h"
 #include "table/Final.h"
 #include "table/Giro.h"
-#include "table/Opciones.h"
 #include "table/Tareas.h"
 #include "table/Tutor.h"
 
@@ -36,6 +35,11 @@ constexpr i16 PAUSA_GIRO = 160;
 constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
 constexpr i16 TECLA_DESHACER = 26;  // Ctrl+Z
 constexpr i16 OPCION_MODELO = 4;
+
+// The options panel shows itself; what a choice in it does is not the mouse machine's business.
+void PintaOpciones() {
+    if (Pic_SelOpciones.Paint) Pic_SelOpciones.Paint();
+}
 
 // ---------------------------------------------------------------- press
 bool PulsoIzquierdoManda() {
@@ -299,7 +303,7 @@ void Pic_Trabajo_MouseDown(i16 Button, i16 /*Shift*/, float X, float Y) {
 void Pic_Trabajo_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
     if (Pic_SelOpciones.Visible && Gbl.OpcionResaltada != 0) {
         Gbl.OpcionResaltada = 0;
-        Sigue([] { MuestraOpcionesSelec(); });
+        Sigue([] { PintaOpciones(); });
     }
     const i32 x = EnteroLargo(X);
     const i32 y = EnteroLargo(Y);
@@ -324,7 +328,7 @@ void Pic_Trabajo_Click() {
         // Deliberate: an option that has become active stays so until the program ends.
         for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
         if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
-        Sigue([] { MuestraOpcionesSelec(); });
+        Sigue([] { PintaOpciones(); });
     }
     if (Gbl.GirandoPieza && DentroDeTarea()) Gbl.GiroTerminado = true;
     Gbl.GirandoPieza = false;

@@ -15,6 +15,4 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii);
 // begins with empty hands.
 void SueltaLoQueHaya(i16 X, i16 Y);
 
-void AplicaCursor(i16 id);  // of panel/CursorMesa
-
 }  // namespace tessario

@@ -16,7 +16,7 @@
 #include "platform/Plataforma.h"
 #include "records/Historial.h"
 #include "records/Texto.h"
-#include "windows/Barras.h"
+#include "windows/HistoricBarras.h"
 #include "windows/Lineas.h"
 #include "windows/Marco.h"
 

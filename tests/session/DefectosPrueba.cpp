@@ -2,7 +2,9 @@
 // and what a loaded record brings with it.
 #include "apoyo/MesaMontada.h"
 #include "apoyo/MesaMoviles.h"
+#include "core/Errores.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "rules/PuzzBas.h"

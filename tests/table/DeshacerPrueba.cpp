@@ -1,5 +1,6 @@
 // Ctrl+Z on the real table.
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "rules/PuzzBas.h"

@@ -1,6 +1,7 @@
 // What the player sees while a command works: the hourglass, pieces laid one by one or all at
 // once, the table brought up to date before a question's work.
 #include "apoyo/MesaMontada.h"
+#include "panel/Colocadas.h"
 #include "pieces/Composicion.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"

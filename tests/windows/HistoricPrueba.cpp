@@ -3,8 +3,8 @@
 
 #include "apoyo/VentanaMontada.h"
 #include "records/Historial.h"
-#include "windows/Barras.h"
 #include "windows/Historic.h"
+#include "windows/HistoricBarras.h"
 
 namespace tessario {
 namespace {

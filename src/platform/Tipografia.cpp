@@ -1,19 +1,19 @@
-#include "platform/Letras.h"
+#include "platform/Tipografia.h"
 
 #include <cassert>
 
 namespace tessario {
 
 namespace {
-Letras* enUso = nullptr;
+Tipografia* enUso = nullptr;
 }
 
-Letras& LetrasEnUso() {
+Tipografia& TipografiaEnUso() {
     assert(enUso && "PonSistema comes first");
     return *enUso;
 }
 
-void PonLetras(Letras* letras) {
+void PonTipografia(Tipografia* letras) {
     enUso = letras;
 }
 

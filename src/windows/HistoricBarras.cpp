@@ -1,4 +1,4 @@
-#include "windows/Barras.h"
+#include "windows/HistoricBarras.h"
 
 #include <algorithm>
 #include <string>

@@ -1,5 +1,5 @@
-// Letras: what a surface asks to print and to measure text. The platform is one; a surface knows no
-// more of it.
+// Tipografia: what a surface asks to print and to measure text. The platform is one; a surface
+// knows no more of it.
 #pragma once
 
 #include <string_view>
@@ -11,9 +11,9 @@ namespace tessario {
 class Superficie;
 struct Fuente;
 
-class Letras {
+class Tipografia {
 public:
-    virtual ~Letras() = default;
+    virtual ~Tipografia() = default;
     // Widths and heights in pixels; PintaTexto clips to the surface and its clip.
     virtual i32 AnchoTexto(const Fuente& f, std::string_view texto) = 0;
     virtual i32 AltoTexto(const Fuente& f) = 0;
@@ -22,7 +22,7 @@ public:
 };
 
 // The letters in use; PonSistema puts the platform's.
-Letras& LetrasEnUso();
-void PonLetras(Letras* letras);
+Tipografia& TipografiaEnUso();
+void PonTipografia(Tipografia* letras);
 
 }  // namespace tessario

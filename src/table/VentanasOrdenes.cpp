@@ -1,0 +1,7 @@
+#include "table/VentanasOrdenes.h"
+
+namespace tessario {
+
+VentanasDeOrdenes VentanasOrdenes;
+
+}  // namespace tessario
