@@ -177,7 +177,7 @@ void CargaVentanas() {
 void CargaMesa() {
     ConectaMesa();
     CargaVentanas();
-    VentanasOrdenes.Termina = TerminaPrograma;
+    SalidaDelPrograma = TerminaPrograma;
     if (Mesa.Load) Mesa.Load();
     Gbl.ResolviendoPuzzle = false;
 }

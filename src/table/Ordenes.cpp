@@ -135,8 +135,8 @@ void Sale() {
     Avisa(aviso::SALIR);
     if (!Gbl.RespuestaMensaje)
         ReponeCrono();
-    else if (VentanasOrdenes.Termina)
-        VentanasOrdenes.Termina();
+    else if (SalidaDelPrograma)
+        SalidaDelPrograma();
 }
 
 void MuestraModelo() {

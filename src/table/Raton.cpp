@@ -33,7 +33,7 @@ constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11, CURSOR_PROHIBIDO = 12, CURSO
 constexpr i16 SONIDO_GIRO = 6, SONIDO_TOMA = 50, SONIDO_EN_SITIO = 51, SONIDO_SUELTA = 52;
 constexpr i16 PAUSA_GIRO = 160;
 constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
-constexpr i16 TECLA_DESHACER = 26;  // Ctrl+Z
+constexpr i16 TECLA_DESHACER = 26;                       // Ctrl+Z
 constexpr i16 OPCION_MODELO = 4;
 
 // The options panel shows itself; what a choice in it does is not the mouse machine's business.

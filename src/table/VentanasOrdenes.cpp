@@ -3,5 +3,6 @@
 namespace tessario {
 
 VentanasDeOrdenes VentanasOrdenes;
+void (*SalidaDelPrograma)() = nullptr;
 
 }  // namespace tessario

@@ -5,16 +5,16 @@
 
 namespace tessario {
 
-// The windows that commands 2, 4 and 5 and the options panel open, and what command 7 does when the
-// player has agreed. They are put here once, at start; a command whose window is not here does all
-// that surrounds it.
+// The windows that commands 2, 4 and 5 and the options panel open. They are put here once, at
+// start; a command whose window is not here does all that surrounds it.
 struct VentanasDeOrdenes {
     Ventana* Personal = nullptr;
     Ventana* Estadis = nullptr;
     Ventana* Historic = nullptr;
     Ventana* Cargua = nullptr;  // of the options panel
-    void (*Termina)() = nullptr;
 };
 extern VentanasDeOrdenes VentanasOrdenes;
+// What command 7 does when the player has agreed; put here at start.
+extern void (*SalidaDelPrograma)();
 
 }  // namespace tessario

@@ -21,7 +21,7 @@ void MesaMontada::SetUp() {
     Gbl.Sonido = true;
     Gbl.FinLinea = "\r\n";
     ConectaMesa();
-    VentanasOrdenes.Termina = TerminaPrograma;
+    SalidaDelPrograma = TerminaPrograma;
     Inicializa();
     Mesa.Tamano(P().ancho + 2, P().alto + 2);
     QuitaBarras();
