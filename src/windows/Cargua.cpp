@@ -8,7 +8,6 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
-#include "panel/Adornos.h"
 #include "platform/Plataforma.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"

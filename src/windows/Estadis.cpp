@@ -4,7 +4,6 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
-#include "panel/Adornos.h"
 #include "platform/Plataforma.h"
 #include "records/Historial.h"
 #include "rules/PuzzBas.h"
@@ -28,8 +27,8 @@ namespace lugar {
 constexpr i32 Ancho = 420;
 constexpr i32 TextoIzq = 11, TextoArr = 30;
 constexpr i32 BajoTexto = 15;
-constexpr i32 NombreSobra = 4;  // the box is taller than its line, above and below
-constexpr i32 NombreAncho = 90, NombreAlto = 22;
+constexpr i32 NombreSobra = 2;  // by so much the box begins above its line
+constexpr i32 NombreAncho = 90, NombreAlto = 19;
 }  // namespace lugar
 
 // The window around the text, from the height that the lines reached.

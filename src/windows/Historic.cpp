@@ -125,7 +125,7 @@ void PintaTecla(i16 orden) {
 
 void PintaFondo() {
     Historic.Cls();
-    MarcoVentana(Historic);
+    EnmarcaVentana(Historic);
     TitulaVentana(Historic, lugar::TextoIzq + lugar::TextoAncho / 2,
                   TECLAS[Gbl.OrdenHistoricoActual - 1].titulo);
     HundeEn(Historic, Tex_Historic);

@@ -5,9 +5,9 @@
 
 #include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
-#include "panel/Adornos.h"
 #include "windows/Historic.h"
 #include "windows/Lineas.h"
+#include "windows/Marco.h"
 
 namespace tessario {
 
@@ -148,7 +148,7 @@ i32 BarraEn(const Cuadro& cuadro, float x) {
 }
 
 void DibujaAdeAtr(Cuadro& cuadro, i16 pulsado) {
-    cuadro.PonBackColor(FONDO_VENTANA);
+    cuadro.PonBackColor(CREMA_VENTANA);
     for (i32 i = 1; i <= BOTONES; ++i) PintaBoton(cuadro, i, i == pulsado);
 }
 

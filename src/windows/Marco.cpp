@@ -17,6 +17,7 @@ constexpr i32 TITULO_ARRIBA = 8;
 constexpr i32 LARGA_X = 102, LARGA_ANCHO = 131, LARGA_SUELTA = 30, LARGA_PULSADA = 54;
 constexpr Fuente LETRA_TITULO{Familia::Sans, 13, true, false};
 constexpr Color SOMBRA = 0x808080, LUZ = 0xFFFFFF;
+constexpr Color COBALTO = 0x9A3F1F, TERRACOTA = 0x3C51B2;
 
 }  // namespace
 
@@ -25,13 +26,26 @@ void PreparaVentana(Ventana& v, i32 ancho, i32 alto) {
     v.Tamano(ancho, alto);
     v.Left = (Gbl.AnchoPantalla - ancho) / 2;
     v.Top = (Gbl.AltoPantalla - alto) / 2;
-    v.PonBackColor(FONDO_VENTANA);
-    MarcoVentana(v);
+    v.PonBackColor(CREMA_VENTANA);
+    EnmarcaVentana(v);
+}
+
+void EnmarcaVentana(Ventana& v) {
+    constexpr int recta = pluma::Desde | pluma::ConColor;
+    const i32 der = v.Width() - 2;
+    const i32 aba = v.Height() - 2;
+    v.Line(recta | pluma::Caja, 0, 0, der + 1, aba + 1, TERRACOTA);
+    v.Line(recta | pluma::Caja, 1, 1, der, aba, LUZ);
+    v.Line(recta, der, 1, der, aba, SOMBRA);
+    v.Line(recta, 1, aba, der, aba, SOMBRA);
 }
 
 void TitulaVentana(Ventana& v, i32 x, const std::string& titulo) {
     v.Font = LETRA_TITULO;
-    TextoConSombra(v, x - v.TextWidth(titulo) / 2, TITULO_ARRIBA, titulo, true);
+    v.ForeColor = COBALTO;
+    v.CurrentX = x - v.TextWidth(titulo) / 2;
+    v.CurrentY = TITULO_ARRIBA;
+    v.Print(titulo);
 }
 
 void HundeEn(Ventana& v, const Control& c) {

@@ -16,8 +16,12 @@ inline constexpr i32 ENTRE_BOTONES = 15;
 inline constexpr i32 PIE_VENTANA = 17;  // below the buttons
 inline constexpr i16 SONIDO_BOTON_VENTANA = 9;
 
+inline constexpr Color CREMA_VENTANA = 0xD2E9F4;  // the ground, as in messages
+
 // Gives the window its size, the middle of the screen, and its ground with its frame.
 void PreparaVentana(Ventana& v, i32 ancho, i32 alto);
+// The frame alone, on a window that has been cleared.
+void EnmarcaVentana(Ventana& v);
 // The title, its middle at x.
 void TitulaVentana(Ventana& v, i32 x, const std::string& titulo);
 // A groove round a part of the window, for a control that lies there.
