@@ -24,21 +24,23 @@ constexpr i32 MARGEN = 4;          // free on each side of the bars, pixels
 constexpr i32 PASO_MAXIMO = 12;    // from bar to bar
 constexpr i32 PASO_CON_HUECO = 3;  // from here on a column stays free between two bars
 
-// How the records share the columns.
+// How the records share the columns, and the columns the width.
 struct Reparto {
     i32 registros = 0;
     i32 columnas = 0;  // bars drawn
-    i32 paso = 0;      // pixels from one to the next
+    i32 ancho = 0;     // pixels that they take together
 
     explicit Reparto(const Cuadro& c) : registros(Lis_Ordenar.ListCount()) {
-        const i32 ancho = std::max(c.Width() - 2 * MARGEN, 1);
-        columnas = std::min(registros, ancho);
-        if (columnas > 0) paso = std::min(ancho / columnas, PASO_MAXIMO);
+        const i32 libre = std::max(c.Width() - 2 * MARGEN, 1);
+        columnas = std::min(registros, libre);
+        ancho = std::min(libre, columnas * PASO_MAXIMO);
     }
     // The first record of a column; of the one behind the last, the number of records.
     i32 Primero(i32 columna) const {
         return static_cast<i32>(static_cast<std::int64_t>(columna) * registros / columnas);
     }
+    // Left edge of a column.
+    i32 X(i32 columna) const { return MARGEN + columna * ancho / columnas; }
 };
 
 const RegistroHistorico& RegistroEn(i32 posicion) {
@@ -58,11 +60,10 @@ void PintaBarra(Cuadro& c, const Reparto& r, i32 columna) {
     const i32 alto = c.Height() - 2 * MARGEN;
     const i32 pintado =
         std::max(1, static_cast<i32>(NivelDeColumna(r, columna) * static_cast<float>(alto) / 100));
-    const i32 x = MARGEN + columna * r.paso;
+    const i32 x = r.X(columna), paso = r.X(columna + 1) - x;
     const i32 aba = c.Height() - MARGEN - 1;
-    const i32 hueco = r.paso >= PASO_CON_HUECO ? 2 : 1;
-    c.Line(LLENA, x, aba - pintado + 1, x + r.paso - hueco, aba,
-           actual ? TERRACOTA : COBALTO_CLARO);
+    const i32 hueco = paso >= PASO_CON_HUECO ? 2 : 1;
+    c.Line(LLENA, x, aba - pintado + 1, x + paso - hueco, aba, actual ? TERRACOTA : COBALTO_CLARO);
 }
 
 // ---------------------------------------------------------------- the record to beat
@@ -141,10 +142,10 @@ void DibujaBarras(Cuadro& cuadro) {
 
 i32 BarraEn(const Cuadro& cuadro, float x) {
     const Reparto r(cuadro);
-    const float desde = x - static_cast<float>(MARGEN);
-    if (r.columnas == 0 || desde < 0) return -1;
-    const i32 columna = static_cast<i32>(desde) / r.paso;
-    return columna < r.columnas ? r.Primero(columna) : -1;
+    const i32 punto = static_cast<i32>(x);
+    for (i32 i = 0; i < r.columnas; ++i)
+        if (punto >= r.X(i) && punto < r.X(i + 1)) return r.Primero(i);
+    return -1;
 }
 
 void DibujaAdeAtr(Cuadro& cuadro, i16 pulsado) {

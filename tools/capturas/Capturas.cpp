@@ -123,8 +123,10 @@ PartidaGuardada Tangram(const Programa& programa, int modelo) {
     return p;
 }
 
+// `luego` opens what the picture is to show on top of the table.
 bool Toma(const char* nombre, Pantalla pantalla, int juego,
-          const std::function<PartidaGuardada(Programa&)>& partida) {
+          const std::function<PartidaGuardada(Programa&)>& partida,
+          const std::function<void(Escritorio&, Programa&)>& luego = nullptr) {
     Escritorio e(pantalla.ancho, pantalla.alto);
     Programa programa(e);
     programa.EscribeGlobal(juego, 100);
@@ -135,10 +137,44 @@ bool Toma(const char* nombre, Pantalla pantalla, int juego,
         std::fprintf(stderr, "the program did not come up for %s\n", nombre);
         return false;
     }
+    if (luego) luego(e, programa);
     e.Mueve(pantalla.ancho - 5, pantalla.alto - 5);
     e.EsperaQuieto();
     e.Mira().Guarda(nombre);
     return true;
+}
+
+// A year of solved puzzles, most of them of the jigsaw.
+std::string Historico() {
+    static constexpr const char* IMAGENES[] = {"Peces.jpg", "Ciudad.jpg", "Jardin.jpg",
+                                               "Puerto.jpg"};
+    static constexpr const char* JUGADORES[] = {"Eva", "I\xF1igo", "Ana"};
+    std::string todo;
+    for (int i = 0; i < 36; ++i) {
+        const int n = 3 + i * 7 % 6;
+        char linea[256];
+        std::snprintf(
+            linea, sizeof linea,
+            "\"%02d/%02d/2026\",\"%02d:%02d:00\",%d,\"%s\",\"/home/eva/Imagenes/\",\"\",640,"
+            "480,100,640,480,%d,1,1,%d,%d,%d,%d.%d,%d,20,1,0,\"%s\"\r\n",
+            1 + i * 5 % 28, 1 + i / 3, 9 + i % 12, i * 17 % 60, i % 9 == 4 ? 22 : 21,
+            IMAGENES[i % 4], n, n * n, 640 / n, 480 / n, 25 + (i * 37 + i * i) % 60, i % 10,
+            180 + i * 211 % 3000, JUGADORES[i * i % 3]);
+        todo += linea;
+    }
+    return todo;
+}
+
+PartidaGuardada AMedias(Programa& programa) {
+    programa.EscribeBytes("TESSA33.his", Historico());
+    for (const char* nombre :
+         {"El puerto", "Globos de Eva", "Jardín a medias", "Vidriera", "Ñandú", "Domingo"})
+        programa.EscribeBytes(std::string("Archivo/") + nombre + ".puz", "");
+    PartidaGuardada p = Rompecabezas("Globos.jpg", 640, 480, 5, 1, {2, 6, 9, 12},
+                                     {{715, 40, 0}, {730, 190, 1}, {700, 370, 0}, {40, 540, 2}});
+    p.archivable = true;
+    p.colorFondo = 0x385838;
+    return p;
 }
 
 }  // namespace
@@ -185,6 +221,21 @@ int main() {
                  p.colorFondo = 0x402848;
                  return p;
              }) &&
-        Toma("tangram", CHICA, 23, [](Programa& programa) { return Tangram(programa, 50); });
+        Toma("tangram", CHICA, 23, [](Programa& programa) { return Tangram(programa, 50); }) &&
+        Toma("historico", CHICA, 21, AMedias,
+             [](Escritorio& e, Programa& programa) {
+                 programa.PulsaBoton(5);
+                 e.EsperaQuieto();
+                 for (int i = 0; i < 7; ++i) e.Tecla("Next");
+             }) &&
+        Toma("estadisticas", CHICA, 21, AMedias,
+             [](Escritorio&, Programa& programa) { programa.PulsaBoton(4); }) &&
+        Toma("cargar", CHICA, 21, AMedias, [](Escritorio& e, Programa&) {
+            e.Pulsa(300, 560, 3);
+            e.EsperaQuieto();
+            e.Pulsa(330, 560);
+            e.EsperaQuieto();
+            e.Pulsa(300, 241);
+        });
     return bien ? 0 : 1;
 }
