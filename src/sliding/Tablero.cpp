@@ -150,6 +150,8 @@ bool TableroEntero() {
 }
 
 void AsientaTablero() {
+    if (Gbl.TipoFondo == FONDO_LETRAS && Gbl.NumPiezas > PIEZAS_CON_LETRA)
+        Gbl.TipoFondo = FONDO_NUMEROS;
     if (!MedidasPosibles()) return;
     for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
         Pieza& p = Gbl.Piezas[i];

@@ -29,6 +29,8 @@ bool CeldasEnRegla();
 // Do the pieces and the hole stand on the homes, one each, and each home in its own cell? Only a
 // damaged record gives a board of which this is not true.
 bool TableroEntero();
+// Pieces that a letter can name; a board of more has numbers instead.
+inline constexpr i16 PIEZAS_CON_LETRA = 24;
 // Gives every piece its own cell as its home, and, when pieces and hole stand on one cell each,
 // moves them exactly onto those. For boards from a record; a whole board is left as it is.
 void AsientaTablero();

@@ -14,6 +14,7 @@
 #include "session/Configuracion.h"
 #include "session/Montaje.h"
 #include "sliding/Tablero.h"
+#include "table/Ordenes.h"
 
 namespace tessario {
 
@@ -230,6 +231,16 @@ TEST_F(Reparacion, GridOfADamagedHomeRefusesNothing) {
     }
 }
 
+TEST_F(Reparacion, LettersGiveWayToNumbersOnBoardsThatHaveNotEnoughOfThem) {
+    for (const auto& [lado, fondo] : {std::pair{5, FONDO_LETRAS}, {6, FONDO_NUMEROS}}) {
+        Deslizantes(static_cast<i16>(lado));
+        Gbl.TipoFondo = FONDO_LETRAS;
+        Relee();
+        EXPECT_EQ(Gbl.TipoFondo, fondo) << lado;
+        EXPECT_EQ(ErrorPendiente(), 0);
+    }
+}
+
 TEST_F(Reparacion, HomeOfASlidingPieceIsItsOwnCell) {
     Deslizantes(4);
     TableroResuelto();
@@ -317,6 +328,28 @@ TEST_F(Reparacion, FinishedJigsawComesBackWithoutItsJoints) {
     Gbl.PuzzleTerminado = false;
     Relee();
     EXPECT_FALSE(sinJuntas()) << "the lines of the cut show while it is not finished";
+}
+
+TEST_F(Reparacion, ChangeOfColoursKeepsTheFinishedLook) {
+    Moviles(2, 330, 250);
+    for (i16 i = 1; i <= 4; ++i) {
+        Pieza& p = Gbl.Piezas[i];
+        p.X = p.XBien;
+        p.Y = p.YBien;
+        p.Giro = 0;
+    }
+    Gbl.PuzzleTerminado = true;
+    Ventana ajustes;
+    ajustes.Nombre = "Personal";
+    VentanasOrdenes.Personal = &ajustes;
+    P().ventanas["Personal"] = [](Ventana&) {
+        Gbl.ColorFondo = 0x204060;
+        Gbl.ColoresCambiados = true;
+    };
+    PulsaOrden(2);
+    EXPECT_EQ(Pic_Imagen.Point(Pic_Imagen.Width() - 1, 5), 0x204060U);
+    for (i32 x = 0; x < Gbl.AnchoPuzzle; ++x)
+        ASSERT_EQ(Pic_Trabajo.Point(x, Gbl.AltoCelda), Pic_FonTamModi.Point(x, Gbl.AltoCelda)) << x;
 }
 
 TEST_F(Reparacion, PuzzleWithAPieceOutOfItsPlaceIsNotFinished) {

@@ -142,8 +142,13 @@ TEST_F(Deshacer, NothingUnderThePointerIsTakenFromWhereItWas) {
     Arrastra(4, 450, 360);
     Pulsa();
     const Pieza p = Gbl.Piezas[4];
-    Puntero.Aprieta();  // the pointer has not moved since the drop
-    Puntero.Suelta();
+    // A press with no move of the pointer since the drop.
+    const Punto o = PunteroPrueba::Origen(Pic_Trabajo);
+    const auto x = static_cast<float>(Puntero.Lugar().x - o.x);
+    const auto y = static_cast<float>(Puntero.Lugar().y - o.y);
+    Pic_Trabajo.MouseDown(BOTON_IZQUIERDO, 0, x, y);
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    Pic_Trabajo.MouseUp(BOTON_IZQUIERDO, 0, x, y);
     EXPECT_EQ(Gbl.Piezas[4], p);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
 }

@@ -245,6 +245,15 @@ void Escritorio::Tecla(const char* nombre) {
     EsperaAtendido();
 }
 
+void Escritorio::TeclaConControl(const char* nombre) {
+    const KeyCode control = XKeysymToKeycode(d_, XStringToKeysym("Control_L"));
+    XTestFakeKeyEvent(d_, control, True, 0);
+    Tecla(nombre);
+    XTestFakeKeyEvent(d_, control, False, 0);
+    XSync(d_, False);
+    EsperaAtendido();
+}
+
 Foto Escritorio::Mira() {
     Foto f;
     const int pantalla = DefaultScreen(d_);
@@ -597,8 +606,12 @@ Programa::Lugar Programa::Boton(int indice, bool conBarras) const {
 }
 
 PartidaLeida Programa::LeePartida(int juego) const {
+    return LeeRecord("TsR" + std::to_string(juego) + "33.ini");
+}
+
+PartidaLeida Programa::LeeRecord(const std::string& nombre) const {
     PartidaLeida p;
-    std::ifstream f(carpeta_ + "TsR" + std::to_string(juego) + "33.ini", std::ios::binary);
+    std::ifstream f(carpeta_ + nombre, std::ios::binary);
     std::vector<std::string> lineas;
     for (std::string s; std::getline(f, s);) {
         if (!s.empty() && s.back() == '\r') s.pop_back();

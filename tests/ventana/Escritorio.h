@@ -47,6 +47,7 @@ public:
     // Press, several moves on the way, release.
     void Arrastra(int x0, int y0, int x1, int y1, int pasos = 8);
     void Tecla(const char* nombre);  // X name of the key: "Return", "v", "Escape", "space"
+    void TeclaConControl(const char* nombre);
     Foto Mira();
     // Is a window of this title on the screen? The table, which fills the screen, does not count.
     bool HayVentana(const std::string& titulo);
@@ -141,6 +142,7 @@ public:
     // Leaves through the exit button, answering yes.
     bool Sale();
     PartidaLeida LeePartida(int juego) const;
+    PartidaLeida LeeRecord(const std::string& nombre) const;  // in its folder
     const std::string& Carpeta() const { return carpeta_; }
     pid_t Pid() const { return pid_; }
 

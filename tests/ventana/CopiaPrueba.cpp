@@ -1,0 +1,69 @@
+// Undo and the safety copy in the real program: real keys, and a real signal that ends the session.
+#include <signal.h>
+
+#include "ventana/Escritorio.h"
+
+namespace tessario::ventana {
+namespace {
+
+constexpr int ANCHO = 1280, ALTO = 1024;
+constexpr int CELDA_ANCHO = 160, CELDA_ALTO = 120;  // 480 x 360 cut in 3 by 3
+constexpr const char* COPIA = "Archivo/Copia de seguridad.puz";
+
+// All at home but two, which lie apart on the free table.
+PartidaGuardada DosSueltas() {
+    PartidaGuardada p;
+    p.imagen = "cuadros.bmp";
+    p.anchoImagen = 480;
+    p.altoImagen = 360;
+    p.borde = false;
+    for (int celda = 0; celda < 9; ++celda) {
+        PiezaGuardada q;
+        q.x = q.xBien = celda % 3 * CELDA_ANCHO;
+        q.y = q.yBien = celda / 3 * CELDA_ALTO;
+        p.piezas.push_back(q);
+    }
+    p.piezas[0].x = 520;
+    p.piezas[0].y = 500;
+    p.piezas[1].x = 800;
+    p.piezas[1].y = 500;
+    return p;
+}
+
+TEST(CopiaVentana, ControlZTakesTheLastMoveBackAndASignalLeavesTheCopy) {
+    Escritorio e(ANCHO, ALTO);
+    Programa programa(e);
+    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(DosSueltas());
+    ASSERT_TRUE(programa.Arranca());
+    const auto muestra = [&](int x, int y, int pieza) {
+        return e.Espera([&] {
+            const Foto f = e.Mira();
+            return f.Cuenta(x, y, CELDA_ANCHO, CELDA_ALTO, Programa::ColorDeCuadro(pieza)) ==
+                   CELDA_ANCHO * CELDA_ALTO;
+        });
+    };
+    ASSERT_TRUE(muestra(520, 500, 0));
+    e.Arrastra(600, 560, 600, 760);
+    e.Arrastra(880, 560, 880, 860);
+    ASSERT_TRUE(muestra(520, 700, 0));
+    ASSERT_TRUE(muestra(800, 800, 1));
+    e.TeclaConControl("z");
+    EXPECT_TRUE(muestra(800, 500, 1)) << "back where it was";
+    EXPECT_TRUE(muestra(520, 700, 0)) << "the move before stands";
+    e.Mira().Guarda("deshacer");
+
+    ASSERT_EQ(kill(programa.Pid(), SIGTERM), 0);
+    EXPECT_EQ(programa.EsperaFin(), 0);
+    const PartidaLeida copia = programa.LeeRecord(COPIA);
+    ASSERT_EQ(copia.piezas.size(), 9U);
+    EXPECT_EQ(copia.movimientos, 1);
+    EXPECT_EQ(copia.piezas[0].x, 520);
+    EXPECT_EQ(copia.piezas[0].y, 700);
+    EXPECT_EQ(copia.piezas[1].y, 500);
+    EXPECT_EQ(programa.LeePartida(21).piezas[0].y, 500) << "the game's own file is left alone";
+}
+
+}  // namespace
+}  // namespace tessario::ventana
