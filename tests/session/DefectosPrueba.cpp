@@ -42,8 +42,6 @@ protected:
         Gbl.PermitirGiro = Gbl.DibujarBorde = Gbl.AtraccionPiezas = false;
         Gbl.PiezasPorCelda = 4;
     }
-    // What the record writes of a table, read on a block that another table has left.
-    static std::string Registro() { return EscribePuzzle(); }
 };
 
 }  // namespace
@@ -153,6 +151,27 @@ TEST_F(Defectos, FirstMoveAfterALoadGrowsTheLogByAHundred) {
     EXPECT_EQ(Gbl.Movimientos.Superior(), 104);
     EXPECT_EQ(Gbl.Movimientos[5].XDespues, 9);
     for (i16 n = 0; n < 4; ++n) EXPECT_EQ(Gbl.Movimientos[static_cast<i16>(n + 1)].XDespues, n);
+}
+
+TEST_F(Defectos, RefusedPictureIsHeardThenToldAndLeavesAnEmptyOneOfTheSmallestSize) {
+    Moviles(3, 1000, 700);
+    Gbl.RutaImagen = " ";
+    Gbl.ZoomImagen = 110;
+    const std::string bytes = EscribePuzzle();
+    Moviles(3, 360, 270, 1);
+    Gbl.ImagenValida = true;
+    std::vector<int> antesDelAviso;
+    P().ventanas["Mensajes"] = [&](Ventana&) {
+        if (antesDelAviso.empty()) antesDelAviso = Sonidos();
+    };
+    Sonidos();
+    LeePuzzle(bytes);
+    EXPECT_EQ(antesDelAviso, std::vector<int>{11});
+    EXPECT_EQ(Gbl.ZoomImagen, 100);
+    EXPECT_FALSE(Gbl.ImagenValida);
+    ASSERT_EQ(Pic_FonTamModi.Width(), 320);
+    ASSERT_EQ(Pic_FonTamModi.Height(), 240);
+    for (const Pixel p : Pic_FonTamModi.Dibujo().Pixeles) ASSERT_EQ(p, 0xFFFFFFU);
 }
 
 class AzarDelArranque : public PruebaBase {};
