@@ -1,5 +1,6 @@
 #include "apoyo/MesaMontada.h"
 
+#include "apoyo/Juegos.h"
 #include "apoyo/MesaMoviles.h"
 #include "panel/Botonera.h"
 #include "panel/Colocadas.h"
@@ -34,13 +35,7 @@ void MesaMontada::TearDown() {
 }
 
 void MesaMontada::Moviles(i16 lado, i32 ancho, i32 alto, i16 forma) {
-    Gbl.JuegoActual = JuegoMoviles;
-    Gbl.PiezasPorLado = lado;
-    Gbl.FormaPiezas = forma;
-    Gbl.PiezasPorCelda = PiezasDeCelda(forma);
-    Gbl.ZoomImagen = 100;
-    Gbl.AnchoImagen = ancho;
-    Gbl.AltoImagen = alto;
+    PonMoviles(forma, lado, ancho, alto);
     const Imagen mapa = ImagenDeMuestra(ancho, alto);
     for (Superficie* s : {&Pic_FonTamReal, &Pic_FonTamModi}) {
         s->Tamano(ancho, alto);
@@ -51,9 +46,7 @@ void MesaMontada::Moviles(i16 lado, i32 ancho, i32 alto, i16 forma) {
 }
 
 void MesaMontada::Deslizantes(i16 lado) {
-    Gbl.JuegoActual = JuegoDeslizantes;
-    Gbl.PiezasPorLado = lado;
-    Gbl.TipoFondo = FONDO_NUMEROS;
+    PonDeslizantes(lado);
     PreparaJuego(true);
     ColocaPiezas(1);
     P().sonidos.clear();
@@ -70,11 +63,7 @@ void MesaMontada::TableroResuelto() {
 }
 
 void MesaMontada::Tangram(i16 modo) {
-    Gbl.JuegoActual = JuegoTangram;
-    Gbl.ModoJuego = modo;
-    Gbl.NumPiezas = 7;
-    Gbl.Piezas.Redimensiona(7);
-    Gbl.OrdenPiezas.Redimensiona(7);
+    PonTangram(modo);
     constexpr Punto sitios[] = {{20, 100},  {230, 100}, {20, 220}, {160, 220},
                                 {260, 220}, {20, 320},  {160, 320}};
     for (i16 i = 1; i <= 7 && modo == MODO_RESOLVER; ++i) {

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "apoyo/Juegos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "jigsaw/Corte.h"
@@ -29,14 +30,9 @@ inline Imagen ImagenDeMuestra(i32 ancho, i32 alto) {
 class MesaMoviles : public PruebaBase {
 protected:
     void Monta(i16 forma, i16 lado, i32 ancho, i32 alto, bool borde = false) {
-        Gbl.JuegoActual = JuegoMoviles;
+        PonMoviles(forma, lado, ancho, alto);
         Gbl.AnchoPantalla = static_cast<i16>(P().ancho);
         Gbl.AltoPantalla = static_cast<i16>(P().alto);
-        Gbl.FormaPiezas = forma;
-        Gbl.PiezasPorLado = lado;
-        Gbl.PiezasPorCelda = PiezasDeCelda(forma);
-        Gbl.AnchoImagen = ancho;
-        Gbl.AltoImagen = alto;
         Gbl.DibujarBorde = borde;
         Pic_FonTamModi.Tamano(ancho, alto);
         Pic_FonTamModi.PonPicture(ImagenDeMuestra(ancho, alto));
@@ -54,13 +50,10 @@ protected:
     }
     // The seven pieces of the Tangram by the sizes of a screen, upright at (0, 0), nothing painted.
     void MontaTangram(i32 ancho, i32 alto) {
-        Gbl.JuegoActual = JuegoTangram;
+        PonTangram(Gbl.ModoJuego);
         Gbl.AnchoPantalla = static_cast<i16>(ancho);
         Gbl.AltoPantalla = static_cast<i16>(alto);
         CalculaTamanos();
-        Gbl.Piezas.Redimensiona(7);
-        Gbl.OrdenPiezas.Redimensiona(7);
-        for (i16 p = 1; p <= 7; ++p) Gbl.OrdenPiezas[p] = p;
         for (Superficie* s :
              {&Pic_Fondo, &Pic_Imagen, &Pic_Bitmap, static_cast<Superficie*>(&Pic_Trabajo)})
             s->Tamano(ancho, alto);

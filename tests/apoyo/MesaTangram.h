@@ -5,6 +5,7 @@
 #include <string>
 
 #include "apoyo/Datos.h"
+#include "apoyo/Juegos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "pieces/Formas.h"
 #include "platform/Region.h"
@@ -21,13 +22,10 @@ inline constexpr i16 PIEZAS_TANGRAM = 7;
 // A new game 23 on a screen of the platform's size.
 inline void AbreTangram(i16 modo) {
     Inicializa();
-    Gbl.JuegoActual = JuegoTangram;
-    Gbl.ModoJuego = modo;
+    PonTangram(modo);
     Gbl.ColorFondo = 0x800000;
     Gbl.ColorPiezas = 0x008000;
     Gbl.ColorContraste = 0xFFFFFF;
-    Gbl.Piezas.Redimensiona(PIEZAS_TANGRAM);
-    Gbl.OrdenPiezas.Redimensiona(PIEZAS_TANGRAM);
     PreparaJuego(true);
 }
 

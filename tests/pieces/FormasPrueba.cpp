@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "apoyo/Datos.h"
+#include "apoyo/Juegos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Fallos.h"
 #include "pieces/Formas.h"
@@ -58,16 +59,11 @@ protected:
         Gbl.AltoPantalla = 768;
     }
     void Tangram() {
-        Gbl.JuegoActual = JuegoTangram;
+        PonTangram(MODO_CREAR);
         CalculaTamanos();
     }
     void Moviles(i16 forma, i16 lado, i32 ancho, i32 alto) {
-        Gbl.JuegoActual = JuegoMoviles;
-        Gbl.FormaPiezas = forma;
-        Gbl.PiezasPorLado = lado;
-        Gbl.PiezasPorCelda = PiezasDeCelda(forma);
-        Gbl.AnchoImagen = ancho;
-        Gbl.AltoImagen = alto;
+        PonMoviles(forma, lado, ancho, alto);
         CalculaTamanos();
     }
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "apoyo/Juegos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "rules/Medidas.h"
@@ -26,10 +27,8 @@ protected:
 
     // A solved board of the sliding game on a screen 600 high.
     void Tablero(i16 lado, i16 fondo) {
-        Gbl.JuegoActual = JuegoDeslizantes;
+        PonDeslizantes(lado, fondo);
         Gbl.AltoPantalla = 600;
-        Gbl.PiezasPorLado = lado;
-        Gbl.TipoFondo = fondo;
         Pic_Botonera.Left = 659;
         CalculaTamanos();
         Gbl.Piezas.Redimensiona(Gbl.NumPiezas);

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <random>
 
+#include "apoyo/Juegos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Errores.h"
 #include "core/Superficies.h"
@@ -28,11 +29,7 @@ protected:
 
     // A jigsaw of 3 x 3 rectangles without an image file, the pieces in order at home.
     void Jigsaw(i32 ancho = 320, i32 alto = 240, i16 zoom = 100) {
-        Gbl.JuegoActual = JuegoMoviles;
-        Gbl.AnchoImagen = ancho;
-        Gbl.AltoImagen = alto;
-        Gbl.ZoomImagen = zoom;
-        Gbl.PiezasPorLado = 3;
+        PonMoviles(0, 3, ancho, alto, zoom);
         CalculaTamanos();
         Reparte([](Pieza& p, i32 i) {
             p.X = p.XBien = Corto((i - 1) % 3 * Gbl.AnchoCelda);
@@ -42,9 +39,7 @@ protected:
 
     // The sliding board, solved.
     void Tablero(i16 lado = 3) {
-        Gbl.JuegoActual = JuegoDeslizantes;
-        Gbl.PiezasPorLado = lado;
-        Gbl.TipoFondo = FONDO_NUMEROS;
+        PonDeslizantes(lado);
         CalculaTamanos();
         Reparte([lado](Pieza& p, i32 i) {
             p.X = p.XBien = Corto(Gbl.MargenX + (i - 1) % lado * Gbl.AnchoCelda);
@@ -55,9 +50,7 @@ protected:
     }
 
     void Tangram(i16 modo = MODO_CREAR) {
-        Gbl.JuegoActual = JuegoTangram;
-        Gbl.ModoJuego = modo;
-        Gbl.Piezas.Redimensiona(7);
+        PonTangram(modo);
         CalculaTamanos();
         Reparte([](Pieza& p, i32 i) {
             p = {static_cast<i16>(60 * i),

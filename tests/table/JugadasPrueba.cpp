@@ -2,6 +2,7 @@
 
 #include "apoyo/Azar.h"
 #include "apoyo/MesaMontada.h"
+#include "apoyo/MesaMoviles.h"
 #include "apoyo/MesaTangram.h"
 #include "panel/Barajado.h"
 #include "panel/Colocadas.h"
@@ -132,6 +133,18 @@ TEST_F(Jugadas, PressWithoutAMoveIsLoggedAndStillBringsThePieceIntoView) {
     EXPECT_TRUE((Ultimo() == Movimiento{4, 620, 200, 0, 0, 599, 200, 0, 0}));
 }
 
+TEST_F(Jugadas, PieceDroppedOnAnotherLiesThereWithItsOwnPixels) {
+    Casi({1, 4});
+    Gbl.FactorAtraccion = 0;
+    SubePieza(PosicionEnOrden(4));
+    ColocaPiezas(1);
+    Arrastra(4, 410, 290);
+    ASSERT_EQ((Punto{Gbl.Piezas[4].X, Gbl.Piezas[4].Y}), (Punto{410, 290}));
+    // The second row's first piece shows the picture from (0, 90) on.
+    for (const Superficie* s : {&Pic_Imagen, static_cast<Superficie*>(&Pic_Trabajo)})
+        EXPECT_EQ(s->Fila(290 + 50)[410 + 60], PixelDeMuestra(60, 90 + 50));
+}
+
 TEST_F(Jugadas, MiddleButtonTakesNothingTurnsNothingAndOpensNoOptions) {
     Casi({4});
     SubePieza(PosicionEnOrden(4));
@@ -188,6 +201,8 @@ TEST_F(Jugadas, ParallelogramTurnedOverOntoAPieceIsPushedOffAndLoggedWhereItEnds
     EXPECT_EQ(Gbl.Piezas[7].Giro, 3);
     EXPECT_GT(Gbl.TEmpujes, 0);
     EXPECT_EQ(Solapada(7), 0);
+    ASSERT_FALSE(P().sonidos.empty());
+    EXPECT_EQ(P().sonidos.back(), (std::pair<i16, bool>{52, false})) << "it is waited for";
     ASSERT_EQ(Gbl.NumMovimientos, 1);
     EXPECT_TRUE(
         (Ultimo() == Movimiento{7, 300, 200, 1, 0, Gbl.Piezas[7].X, Gbl.Piezas[7].Y, 3, 1}));
