@@ -318,8 +318,7 @@ const Region* ContextoMeta::RecorteVivo() {
     vivo_ = Region(limites_);
     for (const Region* r : {E.Recorte.get(), E.RecorteMeta.get()}) {
         if (!r) continue;
-        esfuerzo_.Gasta(static_cast<long long>(r->Rectangulos().size()) * GASTO_PUNTO);
-        CombineRgn(vivo_, vivo_, *r, RGN_AND);
+        CombinaConTino(vivo_, vivo_, *r, RGN_AND, esfuerzo_);
     }
     visto_ = E.Recorte.get();
     vistoMeta_ = E.RecorteMeta.get();
@@ -329,11 +328,8 @@ const Region* ContextoMeta::RecorteVivo() {
 
 void ContextoMeta::CombinaRecorte(const Region& r, int modo) {
     const Region todo = E.Recorte ? *E.Recorte : Region(limites_);
-    esfuerzo_.Gasta(static_cast<long long>(todo.Rectangulos().size() + r.Rectangulos().size()) *
-                    GASTO_PUNTO);
     auto nuevo = std::make_shared<Region>();
-    CombineRgn(*nuevo, modo == RGN_COPY ? r : todo, r, modo);
-    if (nuevo->Rectangulos().size() > PUNTOS_MAXIMOS) throw MetaficheroAgotado{};
+    CombinaConTino(*nuevo, modo == RGN_COPY ? r : todo, r, modo, esfuerzo_);
     E.Recorte = std::move(nuevo);
     vivoAlDia_ = false;
 }
@@ -356,8 +352,8 @@ Region ContextoMeta::RegionDe(std::span<const PuntoD> esquinas, const Matriz& m)
     while (partes.size() > 1) {
         std::vector<Region> mitad;
         for (std::size_t i = 0; i < partes.size(); i += 2) {
-            if (i + 1 < partes.size()) CombineRgn(partes[i], partes[i], partes[i + 1], RGN_OR);
-            esfuerzo_.Gasta(static_cast<long long>(partes[i].Rectangulos().size()) * GASTO_PUNTO);
+            if (i + 1 < partes.size())
+                CombinaConTino(partes[i], partes[i], partes[i + 1], RGN_OR, esfuerzo_);
             mitad.push_back(std::move(partes[i]));
         }
         partes = std::move(mitad);
@@ -386,7 +382,7 @@ void ContextoMeta::DesplazaRecorte(PuntoD d) {
 void ContextoMeta::FijaMetaRegion() {
     if (!E.Recorte) return;
     auto nuevo = std::make_shared<Region>(*E.Recorte);
-    if (E.RecorteMeta) CombineRgn(*nuevo, *nuevo, *E.RecorteMeta, RGN_AND);
+    if (E.RecorteMeta) CombinaConTino(*nuevo, *nuevo, *E.RecorteMeta, RGN_AND, esfuerzo_);
     E.RecorteMeta = std::move(nuevo);
     E.Recorte.reset();
     vivoAlDia_ = false;
@@ -414,11 +410,10 @@ void ContextoMeta::MarcoRegion(const Region& r, const Objeto& brocha, PuntoD gro
          {Punto{gx, 0}, {-gx, 0}, {0, gy}, {0, -gy}, {gx, gy}, {-gx, gy}, {gx, -gy}, {-gx, -gy}}) {
         Region otra = r;
         otra.Desplaza(d.x, d.y);
-        esfuerzo_.Gasta(static_cast<long long>(otra.Rectangulos().size()) * GASTO_PUNTO);
-        CombineRgn(dentro, dentro, otra, RGN_AND);
+        CombinaConTino(dentro, dentro, otra, RGN_AND, esfuerzo_);
     }
     Region marco;
-    CombineRgn(marco, r, dentro, RGN_DIFF);
+    CombinaConTino(marco, r, dentro, RGN_DIFF, esfuerzo_);
     RellenaRegion(marco, brocha);
 }
 

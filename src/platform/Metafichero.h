@@ -131,6 +131,11 @@ private:
     long long queda_;
 };
 
+// CombineRgn, but for regions that would become too many rectangles: then the reading ends.
+void CombinaConTino(Region& destino, const Region& a, const Region& b, int modo, Esfuerzo& e);
+// Runs of pixels kept at a time, at most.
+inline constexpr std::size_t TRAMOS_MAXIMOS = 2'000'000;
+
 // What a metafile is painted by. Coordinates are pixels of the picture and may lie far outside it.
 // A pixel belongs to a filled figure when its whole coordinates lie inside.
 class PintorMetafichero {
@@ -160,7 +165,7 @@ public:
 };
 
 // The largest picture that a metafile may ask for, and the largest file, in pixels and bytes.
-inline constexpr long long METAFICHERO_PIXELES = 24LL * 1024 * 1024;
+inline constexpr long long METAFICHERO_PIXELES = 16LL * 1024 * 1024;
 inline constexpr std::size_t METAFICHERO_BYTES = std::size_t{64} * 1024 * 1024;
 
 bool EsMetafichero(Bytes fichero);

@@ -178,8 +178,7 @@ void PintorRaster::Rellena(const Trazado& t, bool alterno, const BrochaMeta& b,
 
 void PintorRaster::RellenaRegion(const Region& r, const BrochaMeta& b, const ModosMeta& m) {
     Region visible;
-    esfuerzo_->Gasta(static_cast<long long>(r.Rectangulos().size()) * 20);
-    CombineRgn(visible, r, *m.Recorte, RGN_AND);
+    CombinaConTino(visible, r, *m.Recorte, RGN_AND, *esfuerzo_);
     for (const Rect& q : visible.Rectangulos())
         for (i32 y = q.Arr; y < q.Aba; ++y) Pinta(y, q.Izq, q.Der, b, m);
 }
@@ -188,6 +187,7 @@ Region PintorRaster::RegionDe(const Trazado& t, bool alterno) {
     std::vector<Rect> tramos;
     Barre(t, alterno, {0, 0, m_.Ancho, m_.Alto}, [&](i32 y, i32 izq, i32 der) {
         esfuerzo_->Gasta(20);
+        if (tramos.size() >= TRAMOS_MAXIMOS) throw MetaficheroAgotado{};
         tramos.push_back({izq, y, der, y + 1});
     });
     return RegionDeTramos(tramos);
@@ -221,6 +221,7 @@ void PintorRaster::Inunda(PuntoD p, Pixel color, bool hastaBorde, const BrochaMe
         while (a > izq && libre(a - 1, s.y)) --a;
         while (z < der && libre(z, s.y)) ++z;
         esfuerzo_->Gasta(40 + (z - a) * 20LL);
+        if (tramos.size() >= TRAMOS_MAXIMOS) throw MetaficheroAgotado{};
         tramos.push_back({a, s.y, z, s.y + 1});
         const auto inicio = static_cast<std::ptrdiff_t>(static_cast<std::size_t>(s.y) * ancho);
         std::fill(vista.begin() + inicio + a, vista.begin() + inicio + z, true);
@@ -283,16 +284,28 @@ void PintorRaster::Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios,
     }
 }
 
+// A font that has not been used before has to be found and opened.
+void PintorRaster::PagaFuente(const FuenteMeta& f, double cuerpo) {
+    constexpr long long GASTO_FUENTE = 3'000'000;
+    constexpr std::size_t FUENTES_RECORDADAS = 64;
+    if (!fuentes_.insert({f.Cara, f.Peso, f.Cursiva, std::lround(cuerpo)}).second) return;
+    esfuerzo_->Gasta(GASTO_FUENTE);
+    if (fuentes_.size() > FUENTES_RECORDADAS) fuentes_.clear();
+}
+
 PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
     constexpr double USUAL = 16, GRADOS = 3.14159265358979323846 / 1800;
     constexpr unsigned HORIZONTAL = 6, DERECHA = 2, CENTRO = 6;
     constexpr unsigned VERTICAL = 24, ABAJO = 8, BASE = 24;
     constexpr double SUBRAYA = 0.11, TACHA = -0.26, GRUESO = 0.07;
+    constexpr long long GASTO_TEXTO = 20'000, GASTO_LETRA = 2'000;
+    esfuerzo_->Gasta(GASTO_TEXTO + GASTO_LETRA * static_cast<long long>(t.Letras.size()));
     const LetrasMeta::Medidas med = letras_.Mide(t.Fuente);
     const double celda = med.Ascenso + med.Descenso;
     const double alto = t.Fuente.Alto == 0 ? USUAL : t.Fuente.Alto;
     const double cuerpo = std::min(alto < 0 ? -alto : alto / celda, 4000.0);
     if (cuerpo < 0.5) return {};
+    PagaFuente(t.Fuente, cuerpo);
     const double asc = std::round(cuerpo * med.Ascenso), desc = std::round(cuerpo * med.Descenso);
     const double estrecha =
         t.Fuente.Ancho > 0 ? std::min(t.Fuente.Ancho / (med.Media * cuerpo), 100.0) : 1;
@@ -303,7 +316,7 @@ PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
     m.Rop2 = COPIA;
     if (t.CajaOpaca) Rellena(t.Rectangulo, true, fondo, m);
     if (t.CajaRecorta) {
-        CombineRgn(recorte, RegionDe(t.Rectangulo, true), *m.Recorte, RGN_AND);
+        CombinaConTino(recorte, RegionDe(t.Rectangulo, true), *m.Recorte, RGN_AND, *esfuerzo_);
         m.Recorte = &recorte;
     }
     if (t.Letras.empty()) return {};

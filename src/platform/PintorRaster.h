@@ -3,6 +3,8 @@
 #pragma once
 
 #include <functional>
+#include <set>
+#include <tuple>
 
 #include "platform/Metafichero.h"
 
@@ -22,6 +24,12 @@ public:
     virtual Medidas Mide(const FuenteMeta& f) = 0;
     // A letter `cuerpo` pixels high; the result lives until the next call.
     virtual const Letra& De(const FuenteMeta& f, double cuerpo, char16_t letra, bool porIndice) = 0;
+};
+
+// A wide line in pieces, with the points of all of them.
+struct Piezas {
+    Trazado Lista;
+    std::size_t Puntos = 0;
 };
 
 class PintorRaster : public PintorMetafichero {
@@ -52,7 +60,7 @@ private:
     bool Tinta(i32 x, i32 y, const BrochaMeta& b, const ModosMeta& m, Pixel& p) const;
     void Linea(Punto a, Punto b, const PlumaMeta& p, const ModosMeta& m, long long& fase);
     Trazado Trocea(const Contorno& c, const PlumaMeta& p);
-    void Contornea(const Contorno& c, const PlumaMeta& p, Trazado& t);
+    void Contornea(const Contorno& c, const PlumaMeta& p, Piezas& t);
     Pixel Muestra(const CopiaMeta& c, double u, double v, double pasoU, double pasoV,
                   bool& hay) const;
     Pixel Combina(const CopiaMeta& c, Pixel s, Pixel d, i32 x, i32 y, bool dentro,
@@ -60,7 +68,10 @@ private:
     void Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios, double cuerpo,
                 double estrecha, const Matriz& forma, const ModosMeta& m);
 
+    void PagaFuente(const FuenteMeta& f, double cuerpo);
+
     LetrasMeta& letras_;
+    std::set<std::tuple<std::u16string, int, bool, long>> fuentes_;
     Mapa m_;
     Esfuerzo* esfuerzo_ = nullptr;
 };

@@ -10,7 +10,8 @@ namespace tessario {
 namespace {
 
 constexpr std::size_t PIEZAS_MAXIMAS = 400'000;
-constexpr double JUNTO = 1e-6;  // points nearer than this are one
+constexpr std::size_t PUNTOS_MAXIMOS = 1'500'000;  // of all pieces
+constexpr double JUNTO = 1e-6;                     // points nearer than this are one
 
 PuntoD Entre(PuntoD a, PuntoD b, double t) {
     return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
@@ -31,18 +32,19 @@ bool EnTrazo(const std::vector<double>& trazos, double donde) {
 }
 
 // A convex piece, always turned the same way, so that pieces add up by the winding rule.
-void Pieza(std::vector<PuntoD> p, Trazado& t) {
+void Pieza(std::vector<PuntoD> p, Piezas& t) {
     double area = 0;
     for (std::size_t i = 0; i < p.size(); ++i) {
         const PuntoD &a = p[i], &b = p[i + 1 < p.size() ? i + 1 : 0];
         area += a.x * b.y - b.x * a.y;
     }
     if (area < 0) std::reverse(p.begin(), p.end());
-    if (t.size() >= PIEZAS_MAXIMAS) throw MetaficheroAgotado{};
-    t.push_back({std::move(p), true});
+    t.Puntos += p.size();
+    if (t.Lista.size() >= PIEZAS_MAXIMAS || t.Puntos > PUNTOS_MAXIMOS) throw MetaficheroAgotado{};
+    t.Lista.push_back({std::move(p), true});
 }
 
-void Disco(PuntoD centro, double radio, Trazado& t) {
+void Disco(PuntoD centro, double radio, Piezas& t) {
     const int n = std::clamp(static_cast<int>(radio * 2) + 6, 8, 64);
     std::vector<PuntoD> p;
     for (int i = 0; i < n; ++i) {
@@ -62,7 +64,7 @@ Ejes EjesDe(PuntoD a, PuntoD b, double mitad) {
     return {u, {-u.y, u.x}};
 }
 
-void Esquina(PuntoD antes, PuntoD p, PuntoD luego, const PlumaMeta& pluma, Trazado& t) {
+void Esquina(PuntoD antes, PuntoD p, PuntoD luego, const PlumaMeta& pluma, Piezas& t) {
     constexpr double SUAVE = 0.35;  // radians: a corner of a curve, which needs no disc
     const double mitad = pluma.Ancho / 2;
     const Ejes a = EjesDe(antes, p, mitad), b = EjesDe(p, luego, mitad);
@@ -89,7 +91,7 @@ void Esquina(PuntoD antes, PuntoD p, PuntoD luego, const PlumaMeta& pluma, Traza
     Pieza(std::move(v), t);
 }
 
-void Tapa(PuntoD desde, PuntoD extremo, const PlumaMeta& pluma, Trazado& t) {
+void Tapa(PuntoD desde, PuntoD extremo, const PlumaMeta& pluma, Piezas& t) {
     const double mitad = pluma.Ancho / 2;
     if (pluma.Final == Extremo::Redondo) Disco(extremo, mitad, t);
     if (pluma.Final != Extremo::Cuadrado) return;
@@ -116,7 +118,7 @@ std::vector<PuntoD> Limpia(const Contorno& c) {
 
 // --- Wide lines.
 
-void PintorRaster::Contornea(const Contorno& c, const PlumaMeta& p, Trazado& t) {
+void PintorRaster::Contornea(const Contorno& c, const PlumaMeta& p, Piezas& t) {
     const std::vector<PuntoD> v = Limpia(c);
     esfuerzo_->Gasta(static_cast<long long>(v.size()) * 400 + 100);
     if (v.empty()) return;
@@ -177,7 +179,7 @@ Trazado PintorRaster::Trocea(const Contorno& c, const PlumaMeta& p) {
 }
 
 Trazado PintorRaster::Ensancha(const Trazado& t, const PlumaMeta& p) {
-    Trazado r;
+    Piezas r;
     for (const Contorno& c : t) {
         if (p.Trazos.empty()) {
             Contornea(c, p, r);
@@ -185,7 +187,7 @@ Trazado PintorRaster::Ensancha(const Trazado& t, const PlumaMeta& p) {
         }
         for (const Contorno& trozo : Trocea(c, p)) Contornea(trozo, p, r);
     }
-    return r;
+    return std::move(r.Lista);
 }
 
 // --- Lines of one pixel.

@@ -1,0 +1,6 @@
+// Fuzz target: WMF files.
+#include "Metaficheros.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* bytes, std::size_t n) {
+    return tessario::PruebaMetafichero(bytes, n);
+}
