@@ -158,9 +158,10 @@ bool PintorRaster::Tinta(i32 x, i32 y, const BrochaMeta& b, const ModosMeta& m, 
 
 // A run of pixels of the picture that the clip lets through.
 void PintorRaster::Pinta(i32 y, i32 izq, i32 der, const BrochaMeta& b, const ModosMeta& m) {
-    esfuerzo_->Gasta(10 + (der - izq) * (b.Tipo == BrochaMeta::Clase::Lisa ? 1LL : 8LL));
+    const bool lisa = b.Tipo == BrochaMeta::Clase::Lisa && m.Rop2 == COPIA;
+    esfuerzo_->Gasta(10 + (der - izq) * (lisa ? 1LL : 8LL));
     Pixel* const fila = m_.Fila(y);
-    if (b.Tipo == BrochaMeta::Clase::Lisa && m.Rop2 == COPIA) {
+    if (lisa) {
         std::fill(fila + izq, fila + der, b.Tinta);
         return;
     }
