@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 
+#include "platform/Metafichero.h"
 #include "platform/PintorRaster.h"
 
 namespace tessario {

@@ -57,18 +57,6 @@ double MilimetrosPorUnidad(int modo) {
 
 }  // namespace
 
-Matriz Matriz::Luego(const Matriz& m) const {
-    const PuntoD o = m.De({e, f});
-    return {m.a * a + m.c * b, m.b * a + m.d * b, m.a * c + m.c * d, m.b * c + m.d * d, o.x, o.y};
-}
-
-bool Matriz::Inversa(Matriz& m) const {
-    const double det = a * d - b * c;
-    if (!std::isfinite(det) || std::abs(det) < 1e-12) return false;
-    m = {d / det, -b / det, -c / det, a / det, (c * f - d * e) / det, (b * e - a * f) / det};
-    return true;
-}
-
 // --- Objects.
 
 Objeto BrochaLisa(u32 color) {

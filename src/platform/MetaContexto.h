@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "platform/Metafichero.h"
+#include "platform/PintorMetafichero.h"
 
 namespace tessario {
 

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "platform/MetaLectores.h"
-
 namespace tessario {
 
 namespace {

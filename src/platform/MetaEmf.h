@@ -1,4 +1,4 @@
-// The reader of an EMF's records, one at a time. Only for its own sources.
+// EMF: its walk, and the reader of its records one at a time. Only for Metafichero.
 #pragma once
 
 #include "platform/MetaRegistro.h"
@@ -43,5 +43,9 @@ private:
     ContextoMeta& c_;
     std::vector<Objeto> objetos_;
 };
+
+bool EsEmf(Bytes f);
+Lectura MideEmf(Bytes f, i32& ancho, i32& alto);
+Lectura PintaEmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo);
 
 }  // namespace tessario

@@ -1,8 +1,9 @@
 // WMF: the walk over its records. Parameters stand in them in the reverse order of the calls.
+#include "platform/MetaWmf.h"
+
 #include <cmath>
 #include <cstdlib>
 
-#include "platform/MetaLectores.h"
 #include "platform/MetaRegistro.h"
 
 namespace tessario {

@@ -6,7 +6,7 @@
 #include <set>
 #include <tuple>
 
-#include "platform/Metafichero.h"
+#include "platform/PintorMetafichero.h"
 
 namespace tessario {
 
