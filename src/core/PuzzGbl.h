@@ -230,22 +230,26 @@ struct DatosComposicion {
 };
 
 // ---------------------------------------------------------------- mouse machine
-// A mouse event of the table that waits for its turn.
+// Something that the player has done and that waits for its turn: what happens on the table, a key,
+// and what is asked of the strip and of the options panel.
+enum class Suceso : u8 { Aprieta, Mueve, Suelta, Click, Rueda, Tecla, Orden, Opcion, Mando };
 struct EntradaTabla {
-    i16 Suceso = 0;  // 0 press, 1 move, 2 release, 3 click
-    i16 Button = 0, Shift = 0;
-    float X = 0, Y = 0;  // table pixels
+    Suceso Que = Suceso::Mueve;
+    i16 Numero = 0;      // mouse button; notches of the wheel; character; command or option
+    float X = 0, Y = 0;  // pixels of the table or of the panel
+    bool operator==(const EntradaTabla&) const = default;
 };
 
 struct DatosRaton {
     Booleano TareaAutomatica;  // an automatic run shows the busy cursor
     Booleano Barajando;        // a shuffle runs
+    Booleano SinPausas;        // a request waits for it: the rest of it runs without pauses
     Booleano GirandoPieza;     // the right button is held on a piece
-    Booleano GiroTerminado;    // it was released, and the turn is still to be written down
+    Booleano GiroEnCurso;      // a turn by the player's hand is at work, its record included
+    Booleano PulsoGiro;        // the last press on the table turned a piece
     std::vector<EntradaTabla> EntradaAplazada;  // what came in meanwhile, oldest first
     i16 EventosAnidados = 0;         // depth of the calls that let events through; 0 none
     i16 ManejadoresEnCurso = 0;      // handlers of the table at work, one inside the other
-    i16 OrdenAplazada = 0;           // request that waits for them to end; 0 none
     i16 CursorDeseado = 0;           // cursor id that the hover wants
     i16 CursorActual = 0;            // cursor id last applied
     i16 BotonPulsado = 0;            // button of the last press

@@ -41,7 +41,7 @@ double FactorPausa(i16 velocidad) {
 
 void Pausa(i16 Milisegundos) {
     if (Gbl.MarcaPausa == 0) Gbl.MarcaPausa = Sistema().timeGetTime();
-    const double espera = Milisegundos * FactorPausa(Gbl.VelocidadJuego);
+    const double espera = Gbl.SinPausas ? 0 : Milisegundos * FactorPausa(Gbl.VelocidadJuego);
     bool presentado = false;
     for (;;) {
         // Unsigned difference: right also when the clock wraps.

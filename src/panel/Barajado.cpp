@@ -30,7 +30,7 @@ void BarajaPiezas() {
         MuestraColocadas();  // its pieces lie there already; only the counter is behind
     else
         ColocaPiezas(0);
-    Gbl.Barajando = false;
+    Gbl.Barajando = Gbl.SinPausas = false;
     AplicaCursor(CURSOR_NORMAL);
 }
 

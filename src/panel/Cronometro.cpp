@@ -207,6 +207,10 @@ void Pic_Cronome_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
         Gbl.CronoEnMarcha ? " Parar el cronómetro " : " Activar el cronómetro ";
 }
 
+std::vector<Rect> ZonasCronome() {
+    return {RectDe(INTERRUPTOR_LUGAR.x, INTERRUPTOR_LUGAR.y, INTERRUPTOR_ANCHO, INTERRUPTOR_ALTO)};
+}
+
 void Pic_Cronome_MouseDown(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
     if (!DentroDelInterruptor(X, Y)) return;
     const bool enMarcha = Gbl.CronoEnMarcha;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/Superficie.h"
 #include "platform/Tipos.h"
@@ -24,6 +25,7 @@ inline constexpr i16 VISOR_CONTADOR = 1, VISOR_RELOJ = 2;
 void DibujaVisor(Superficie& destino, const std::string& texto, i16 estilo);
 // Seconds as H:MM:SS, from 0 again after 24 hours.
 std::string TextoTiempo(i32 segundos);
+std::vector<Rect> ZonasCronome();  // its switch
 void Pic_Cronome_MouseDown(i16 Button, i16 Shift, float X, float Y);
 void Pic_Cronome_MouseMove(i16 Button, i16 Shift, float X, float Y);
 

@@ -8,10 +8,11 @@ namespace tessario {
 
 namespace {
 
-constexpr i32 GROSOR_BARRA = 17;      // pixels
-constexpr i32 MARGEN_LIBRE = 200;     // free table to the right of and below the picture
-constexpr i32 PASO_CORTO = 16;        // pixels of one click on a bar's arrow
-constexpr i32 RECORRIDO_MINIMO = 10;  // the long step is a tenth of the range, of this at least
+constexpr i32 GROSOR_BARRA = 17;         // pixels
+constexpr i32 MARGEN_LIBRE = 200;        // free table to the right of and below the picture
+constexpr i32 PASO_CORTO = 16;           // pixels of one click on a bar's arrow
+constexpr i32 RECORRIDO_MINIMO = 10;     // the long step is a tenth of the range, of this at least
+constexpr Color COLOR_CANAL = 0xC2DDEC;  // that of the tracks, in which the corner joins the bars
 // A picture smaller than this part of the screen on both sides leaves room enough without bars.
 constexpr float PARTE_SIN_BARRAS = 0.65F;
 
@@ -21,6 +22,7 @@ void PonRecorrido(BarraDesplazamiento& barra, i32 lado, i32 visible) {
     barra.Max = std::max(0, lado + MARGEN_LIBRE - visible);
     barra.LargeChange = std::max(barra.Max, RECORRIDO_MINIMO) / 10;
     barra.SmallChange = PASO_CORTO;
+    barra.Tramo = visible;
     barra.Value = std::clamp(barra.Value, barra.Min, barra.Max);
 }
 
@@ -48,6 +50,7 @@ void AjustaBarras() {
     BarraVer.Tamano(GROSOR_BARRA, altoVisible);
     Pic_Cuadrito.Mueve(anchoVisible, altoVisible);
     Pic_Cuadrito.Tamano(GROSOR_BARRA, GROSOR_BARRA);
+    Pic_Cuadrito.PonBackColor(COLOR_CANAL);
     PonRecorrido(BarraHor, Pic_Bitmap.Width(), anchoVisible);
     PonRecorrido(BarraVer, Pic_Bitmap.Height(), altoVisible);
     BarraHor.Visible = BarraVer.Visible = Pic_Cuadrito.Visible = true;

@@ -55,12 +55,6 @@ void PintaTecla(Tecla t, bool pulsada) {
     Sistema().Presenta();
 }
 
-// A move or a run of moves is under way and will still enter the log.
-bool HayTareaEnCurso() {
-    return Gbl.Barajando || Gbl.OrdenandoPiezas || Gbl.ResolviendoPuzzle || Gbl.TareaAutomatica ||
-           Gbl.GirandoPieza || Gbl.ArrastrandoPieza;
-}
-
 // Can the key be pressed now? This is what the hover shows.
 bool Activa(Tecla t) {
     const bool encendida = Gbl.GrabadoraEncendida;
@@ -69,7 +63,7 @@ bool Activa(Tecla t) {
     const bool hayAdelante = Gbl.NumMovimientos < Gbl.FinMovimientos;
     switch (t) {
         case Mando:
-            return encendida || !HayTareaEnCurso();
+            return true;
         case AtrasUno:
             return encendida && hayAtras && ninguno;
         case AdelanteUno:
@@ -228,6 +222,23 @@ void ApagaGrabadora() {
     Pausa(10);
     MuestraColocadas();
     PonPuntero(Mesa, PUNTERO_NORMAL);
+}
+
+bool EsMandoGrabadora(float X, float Y) {
+    return ZonaBajo(X, Y, &Zona::ancho) == Mando;
+}
+
+void PulsaMandoGrabadora() {
+    Pic_SelOpciones.Visible = false;
+    PulsaMando();
+}
+
+std::vector<Rect> ZonasGrabadora() {
+    std::vector<Rect> zonas;
+    for (i32 t = Mando; t < Ninguna; ++t)
+        if (Activa(static_cast<Tecla>(t)))
+            zonas.push_back(RectDe(ZONAS[t].x, ZONAS[t].y, ZONAS[t].ancho, ZONAS[t].alto));
+    return zonas;
 }
 
 void Pic_Grabadora_MouseDown(i16, i16, float X, float Y) {

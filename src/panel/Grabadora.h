@@ -1,6 +1,8 @@
 // The move recorder: the log of every move, its panel, and the walk back and forth.
 #pragma once
 
+#include <vector>
+
 #include "platform/Tipos.h"
 
 namespace tessario {
@@ -18,6 +20,12 @@ void ApagaGrabadora();
 // The finished look on and off.
 void EntraEnCompleto();
 void SaleDeCompleto();
+// Is this point of the panel on its switch?
+bool EsMandoGrabadora(float X, float Y);
+// The switch thrown.
+void PulsaMandoGrabadora();
+// The keys that can be pressed now, in the panel's pixels.
+std::vector<Rect> ZonasGrabadora();
 void Pic_Grabadora_MouseDown(i16 Button, i16 Shift, float X, float Y);
 void Pic_Grabadora_MouseMove(i16 Button, i16 Shift, float X, float Y);
 

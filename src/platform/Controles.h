@@ -22,6 +22,7 @@ inline constexpr i16 PUNTERO_PROPIO = 99;  // the cursor named in MouseIcon
 // Mouse buttons as events give them; Shift holds 1 shift, 2 control, 4 alt.
 inline constexpr i16 BOTON_IZQUIERDO = 1;
 inline constexpr i16 BOTON_DERECHO = 2;
+inline constexpr i16 BOTON_CENTRAL = 4;
 
 struct Control {
     virtual ~Control() = default;
@@ -52,6 +53,9 @@ struct Control {
     // 13 return, 27 escape; KeyCode the code of the key.
     std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
     std::function<void()> Click, DblClick;
+    // Notches of the wheel, away from the player positive. False: not used here, the window
+    // scrolls.
+    std::function<bool(i16 Pasos, float X, float Y)> MouseWheel;
     std::function<void(i16 KeyAscii)> KeyPress;
     std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
     std::function<void()> GotFocus, LostFocus;
@@ -67,6 +71,9 @@ struct Cuadro : Control, Superficie {
     void Tamano(i32 ancho, i32 alto) override { Superficie::Tamano(ancho, alto); }
 
     std::function<void()> Paint;  // asked to paint itself anew; the view needs no such call
+    // The parts that can be pressed now, each on its own: the keyboard stops at each of them. Not
+    // set: the whole picture is one.
+    std::function<std::vector<Rect>()> Zonas;
 };
 
 // A line or block of fixed text, wrapped at its width, runs of blanks kept.
@@ -83,6 +90,7 @@ struct BarraDesplazamiento : Control {
     bool Vertical = false;
     i32 Min = 0, Max = 0;
     i32 SmallChange = 1, LargeChange = 10;
+    i32 Tramo = 0;                 // what is in view, in units of Value: the handle shows its share
     i32 Value = 0;                 // the code may set it; Change is then not called
     std::function<void()> Change;  // Value has a new value by the player's hand
     void Pon(i32 v);               // as by the player: clamps, sets and calls Change
@@ -198,6 +206,7 @@ struct Ventana : Superficie {
     i16 MousePointer = PUNTERO_NORMAL;
     std::string MouseIcon;
     std::vector<Control*> Controles;  // from the bottom up
+    std::vector<Control*> OrdenTab;   // in which Tab goes through them; empty: that of Controles
     std::vector<Temporizador*> Temporizadores;
     Control* Foco = nullptr;  // the control that gets the keys when the window opens
 

@@ -35,7 +35,7 @@ public:
     // --- Events and painting.
     virtual void DejaPasarEventos() = 0;  // lets pending events run; also shows what was painted
     virtual void Presenta() = 0;          // shows what has been painted and the records' new fields
-    virtual bool BotonesApretados() = 0;  // is any mouse button held right now?
+    virtual i16 BotonesApretados() = 0;   // mouse buttons held right now: sum of their numbers
 
     // --- Windows. Muestra and MuestraModal call Load first; the modal form returns when the window
     // has been closed. Cierra calls Unload; closing a closed window does nothing.

@@ -27,17 +27,23 @@ void Anfitrion::OlvidaPulsadas(const QWidget* ventana) {
 }
 
 void Anfitrion::RevisaPulsadas() {
-    while (!pulsadas_.empty() && QGuiApplication::mouseButtons() == Qt::NoButton) {
-        const Pulsada p = pulsadas_.front();
-        if (!p.quien) {
-            pulsadas_.erase(pulsadas_.begin());
-            continue;
-        }
-        // Suelta takes the entry off before it delivers, so a nested call finds it gone.
-        if (auto* r = dynamic_cast<RecibeSuelta*>(p.quien.data()))
-            r->Suelta(p.boton, p.quien->mapFromGlobal(QPointF(QCursor::pos())));
-        TomaPulsada(p.quien, p.boton);
+    while (!pulsadas_.empty() && QGuiApplication::mouseButtons() == Qt::NoButton) SueltaPrimera();
+}
+
+void Anfitrion::SueltaTodas() {
+    while (!pulsadas_.empty()) SueltaPrimera();
+}
+
+void Anfitrion::SueltaPrimera() {
+    const Pulsada p = pulsadas_.front();
+    if (!p.quien) {
+        pulsadas_.erase(pulsadas_.begin());
+        return;
     }
+    // Suelta takes the entry off before it delivers, so a nested call finds it gone.
+    if (auto* r = dynamic_cast<RecibeSuelta*>(p.quien.data()))
+        r->Suelta(p.boton, p.quien->mapFromGlobal(QPointF(QCursor::pos())));
+    TomaPulsada(p.quien, p.boton);
 }
 
 }  // namespace tessario

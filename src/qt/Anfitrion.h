@@ -40,8 +40,14 @@ public:
     void OlvidaPulsadas(const QWidget* ventana);
     // Delivers the releases that never came: called when no button is held any more.
     void RevisaPulsadas();
+    // Delivers the releases of all that is held: the screen is lost to the window.
+    void SueltaTodas();
+    // Something has moved or gone from under the pointer, which may stand still: what is there now
+    // is told of it, once, when the running handlers have returned.
+    virtual void MiraBajoElPuntero() = 0;
 
 private:
+    void SueltaPrimera();
     struct Pulsada {
         QPointer<QWidget> quien;
         Qt::MouseButton boton;

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QMimeData>
 #include <QUrl>
+#include <algorithm>
 #include <array>
 
 #include "qt/Imagenes.h"
@@ -18,21 +19,28 @@ struct Par {
 };
 
 // Keys that are not letters, digits or function keys.
-constexpr std::array<Par, 38> TECLAS{{
+constexpr std::array<Par, 33> TECLAS{{
     {Qt::Key_Backspace, 8},    {Qt::Key_Tab, 9},          {Qt::Key_Backtab, 9},
-    {Qt::Key_Return, 13},      {Qt::Key_Enter, 13},       {Qt::Key_Shift, 16},
-    {Qt::Key_Control, 17},     {Qt::Key_Alt, 18},         {Qt::Key_AltGr, 18},
-    {Qt::Key_Pause, 19},       {Qt::Key_CapsLock, 20},    {Qt::Key_Escape, 27},
-    {Qt::Key_Space, 32},       {Qt::Key_PageUp, 33},      {Qt::Key_PageDown, 34},
-    {Qt::Key_End, 35},         {Qt::Key_Home, 36},        {Qt::Key_Left, 37},
-    {Qt::Key_Up, 38},          {Qt::Key_Right, 39},       {Qt::Key_Down, 40},
-    {Qt::Key_Insert, 45},      {Qt::Key_Delete, 46},      {Qt::Key_Asterisk, 106},
-    {Qt::Key_Plus, 107},       {Qt::Key_Minus, 109},      {Qt::Key_Period, 190},
-    {Qt::Key_Comma, 188},      {Qt::Key_Slash, 111},      {Qt::Key_NumLock, 144},
-    {Qt::Key_ScrollLock, 145}, {Qt::Key_Less, 226},       {Qt::Key_Ntilde, 192},
+    {Qt::Key_Return, 13},      {Qt::Key_Enter, 13},       {Qt::Key_Pause, 19},
+    {Qt::Key_Escape, 27},      {Qt::Key_Clear, 12},       {Qt::Key_Space, 32},
+    {Qt::Key_PageUp, 33},      {Qt::Key_PageDown, 34},    {Qt::Key_End, 35},
+    {Qt::Key_Home, 36},        {Qt::Key_Left, 37},        {Qt::Key_Up, 38},
+    {Qt::Key_Right, 39},       {Qt::Key_Down, 40},        {Qt::Key_Insert, 45},
+    {Qt::Key_Delete, 46},      {Qt::Key_Asterisk, 106},   {Qt::Key_Plus, 107},
+    {Qt::Key_Minus, 109},      {Qt::Key_Period, 190},     {Qt::Key_Comma, 188},
+    {Qt::Key_Slash, 111},      {Qt::Key_Less, 226},       {Qt::Key_Ntilde, 192},
     {Qt::Key_Apostrophe, 219}, {Qt::Key_exclamdown, 221}, {Qt::Key_Ccedilla, 191},
     {Qt::Key_masculine, 220},  {Qt::Key_Menu, 93},
 }};
+
+// Keys that only change what others mean: pressed alone they are no key of the game's.
+constexpr std::array<int, 15> SOLO_MODIFICAN{
+    Qt::Key_Shift,       Qt::Key_Control,     Qt::Key_Alt,         Qt::Key_AltGr,
+    Qt::Key_Meta,        Qt::Key_Super_L,     Qt::Key_Super_R,     Qt::Key_Hyper_L,
+    Qt::Key_Hyper_R,     Qt::Key_CapsLock,    Qt::Key_NumLock,     Qt::Key_ScrollLock,
+    Qt::Key_Mode_switch, Qt::Key_Direction_L, Qt::Key_Direction_R,
+};
+constexpr i16 OTRA_TECLA = 255;  // code of a key that has none of its own
 
 // The characters 0x80 to 0x9F of the game's one-byte code, by code point; 0 for none.
 constexpr std::array<char16_t, 32> ALTOS{
@@ -69,12 +77,14 @@ i16 ShiftDe(Qt::KeyboardModifiers m) {
 
 i16 KeyCodeDe(const QKeyEvent& e) {
     const int k = e.key();
+    if (std::find(SOLO_MODIFICAN.begin(), SOLO_MODIFICAN.end(), k) != SOLO_MODIFICAN.end())
+        return 0;
     if ((k >= Qt::Key_A && k <= Qt::Key_Z) || (k >= Qt::Key_0 && k <= Qt::Key_9))
         return static_cast<i16>(k);
     if (k >= Qt::Key_F1 && k <= Qt::Key_F16) return static_cast<i16>(k - Qt::Key_F1 + 112);
     for (const Par& p : TECLAS)
         if (p.qt == k) return p.codigo;
-    return static_cast<i16>(KeyAsciiDe(e) ? 255 : 0);
+    return OTRA_TECLA;
 }
 
 i16 KeyAsciiDe(const QKeyEvent& e) {

@@ -34,6 +34,9 @@ struct FinDelPrograma {};
 
 PlataformaQt::PlataformaQt() {
     reloj_.start();
+    mirada_.setSingleShot(true);
+    mirada_.setInterval(0);
+    QObject::connect(&mirada_, &QTimer::timeout, [this] { Mira(); });
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -114,8 +117,8 @@ void PlataformaQt::DejaPasarEventos() {
     ultimaVuelta_ = reloj_.nsecsElapsed();
 }
 
-bool PlataformaQt::BotonesApretados() {
-    return !terminando_ && QGuiApplication::mouseButtons() != Qt::NoButton;
+i16 PlataformaQt::BotonesApretados() {
+    return terminando_ ? i16{0} : BotonesDe(QGuiApplication::mouseButtons());
 }
 
 // --- Windows.
@@ -182,6 +185,7 @@ void PlataformaQt::Cierra(Ventana& v) {
     AnclaAyuda();
     // The widgets go when no event of theirs runs any more.
     vista->Termina();
+    MiraBajoElPuntero();
     if (VistaVentana* const otra = Cima(); otra && otra->Ensenada()) otra->activateWindow();
     if (abiertas_.empty() && enMarcha_) Termina();
 }
@@ -191,6 +195,21 @@ void PlataformaQt::PideCerrar(VistaVentana& vista) {
     bool cancela = false;
     if (v.QueryUnload) Entrega([&] { v.QueryUnload(cancela); });
     if (!cancela) Entrega([&] { Cierra(v); });
+}
+
+void PlataformaQt::MiraBajoElPuntero() {
+    if (!terminando_) mirada_.start();
+}
+
+void PlataformaQt::Mira() {
+    if (terminando_ || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    const QPoint p = QCursor::pos();
+    QWidget* w = QApplication::widgetAt(p);
+    while (w && !dynamic_cast<Vista*>(w)) w = w->parentWidget();
+    auto* const vista = dynamic_cast<Vista*>(w);
+    const QWidget* const modal = QApplication::activeModalWidget();
+    if (vista && (!modal || modal == vista->window()))
+        vista->Mira(vista->mapFromGlobal(QPointF(p)));
 }
 
 void PlataformaQt::Minimiza(Ventana& v) {
@@ -211,7 +230,8 @@ void PlataformaQt::PonFoco(Control& c) {
         (*i)->Sincroniza();
         if (Vista* const vista = (*i)->VistaDe(c)) {
             (*i)->ventana().Foco = (*i)->Ensenada() ? (*i)->ventana().Foco : &c;
-            vista->setFocus(Qt::OtherFocusReason);
+            // The keyboard is led to one part of a picture: it shows which.
+            vista->setFocus(vista->TieneZonas() ? Qt::TabFocusReason : Qt::OtherFocusReason);
             return;
         }
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -33,6 +34,7 @@ public:
     void Entrega(const std::function<void()>& manejador) override;
     void SuenaMando() override;
     void PideCerrar(VistaVentana& v) override;
+    void MiraBajoElPuntero() override;
     bool EstaCerrando() const override { return terminando_; }
 
     // --- Plataforma.
@@ -47,7 +49,7 @@ public:
     void Duerme(double milisegundos) override;
     void DejaPasarEventos() override;
     void Presenta() override;
-    bool BotonesApretados() override;
+    i16 BotonesApretados() override;
     void Muestra(Ventana& v) override;
     void MuestraModal(Ventana& v) override;
     void Cierra(Ventana& v) override;
@@ -79,6 +81,7 @@ private:
     VistaVentana* Cima() const;  // the window that is on top
     void Sincroniza(bool ya);
     void AnclaAyuda();
+    void Mira();
 
     std::vector<VistaVentana*> abiertas_;  // from the bottom up
     std::unique_ptr<VentanaAyuda> ayuda_;
@@ -87,6 +90,7 @@ private:
     long long ultimoPaso_ = 0;    // ns: events were let through
     long long ultimaVuelta_ = 0;  // ns: the last such call returned
     int seguidas_ = 0;            // calls that came at once after the one before
+    QTimer mirada_;               // a look under the pointer, on its way
     bool terminando_ = false, enMarcha_ = false, sincronizando_ = false;
 };
 

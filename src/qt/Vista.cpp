@@ -5,6 +5,8 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
 
 #include "qt/Entrada.h"
 #include "qt/Estilo.h"
@@ -15,6 +17,10 @@ namespace {
 
 QString Qs(const std::string& t) {
     return QString::fromStdString(t);
+}
+
+QPoint Medio(const QRect& r) {
+    return {r.left() + r.width() / 2, r.top() + r.height() / 2};
 }
 
 bool ReaccionaATeclas(const Control& c) {
@@ -45,37 +51,56 @@ i32 Vista::Sincroniza() {
     if (geometry() != sitio) {
         if (visible && visto_.Visible)
             area += geometry().width() * geometry().height() + sitio.width() * sitio.height();
-        setGeometry(sitio);
+        Coloca(sitio);
     }
     if (visto_.primera || visto_.Enabled != c.Enabled) {
         visto_.Enabled = c.Enabled;
         if (QWidget* i = Interior()) i->setEnabled(c.Enabled);
         update();
     }
-    const i16 puntero = c.MousePointer != PUNTERO_NORMAL || Interior()
-                            ? c.MousePointer
-                            : ventana_.ventana().MousePointer;
-    const std::string& icono =
-        c.MousePointer != PUNTERO_NORMAL ? c.MouseIcon : ventana_.ventana().MouseIcon;
-    if (visto_.puntero != puntero || visto_.icono != icono) {
-        visto_.puntero = puntero;
-        visto_.icono = icono;
-        setCursor(anfitrion().cursores().De(puntero, icono));
-        if (QWidget* i = Interior(); i && puntero != PUNTERO_NORMAL) {
-            const auto* rollo = qobject_cast<QAbstractScrollArea*>(i);
-            (rollo ? rollo->viewport() : i)->setCursor(cursor());
-        }
-    }
+    PonPunteroDe();
     PonEtiquetas();
     PonFocoPosible();
     area += SincronizaPropio();
     if (visto_.Visible != visible) {
         visto_.Visible = visible;
+        // The keyboard goes back to the window, not on to the next stop.
+        if (!visible && hasFocus()) ventana_.setFocus(Qt::OtherFocusReason);
         setVisible(visible);
         area += sitio.width() * sitio.height();
+        anfitrion().MiraBajoElPuntero();
     }
     visto_.primera = false;
     return area;
+}
+
+// The window system moves an opaque child by copying its pixels, and then paints what comes to
+// light in the parent without regard to the views that lie above it. A view that does not count as
+// opaque while it moves is moved by painting: both places, whatever lies there, in its order.
+void Vista::Coloca(const QRect& sitio) {
+    const bool opaca = testAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+    setGeometry(sitio);
+    setAttribute(Qt::WA_OpaquePaintEvent, opaca);
+    if (visto_.Visible) anfitrion().MiraBajoElPuntero();
+}
+
+// A pointer that the window itself sets, such as the hourglass, is to be seen all over it; else the
+// control's own one holds, and last that of the widget within.
+void Vista::PonPunteroDe() {
+    const Ventana& v = ventana_.ventana();
+    const bool manda = v.MousePointer != PUNTERO_NORMAL;
+    const i16 puntero = manda ? v.MousePointer : control_.MousePointer;
+    const std::string& icono = manda ? v.MouseIcon : control_.MouseIcon;
+    if (visto_.puntero == puntero && visto_.icono == icono) return;
+    visto_.puntero = puntero;
+    visto_.icono = icono;
+    setCursor(anfitrion().cursores().De(puntero, icono));
+    QWidget* const i = Interior();
+    if (!i) return;
+    auto* const rollo = qobject_cast<QAbstractScrollArea*>(i);
+    QWidget* const cara = rollo ? rollo->viewport() : i;
+    cara->setCursor(puntero != PUNTERO_NORMAL ? cursor() : punteroInterior_);
 }
 
 void Vista::PonEtiquetas() {
@@ -104,9 +129,11 @@ void Vista::PonFocoPosible() {
 
 void Vista::PonInterior(QWidget* w) {
     w->setMouseTracking(true);
+    punteroInterior_ = w->cursor();
     w->installEventFilter(this);
     setFocusProxy(w);
     if (auto* rollo = qobject_cast<QAbstractScrollArea*>(w)) {
+        punteroInterior_ = rollo->viewport()->cursor();
         rollo->viewport()->setMouseTracking(true);
         rollo->viewport()->installEventFilter(this);
     }
@@ -125,9 +152,12 @@ bool Vista::event(QEvent* e) {
         case QEvent::MouseButtonRelease:
         case QEvent::MouseMove:
             return EventoDeRaton(e, false);
+        case QEvent::Wheel:
+            return Rueda(static_cast<QWheelEvent&>(*e)) || QWidget::event(e);
         case QEvent::KeyPress: {
             auto& k = static_cast<QKeyEvent&>(*e);
             const bool tab = k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
+            if (CambiaDeZona(k)) return true;
             // What the standard widget within has not used comes up to here: it was delivered.
             if (Interior()) {
                 e->accept();
@@ -267,7 +297,8 @@ bool Vista::PulsaTecla() {
 }
 
 void Vista::PulsaConTeclado() {
-    const float x = static_cast<float>(width() / 2), y = static_cast<float>(height() / 2);
+    const QPoint medio = Medio(ZonaConFoco());
+    const auto x = static_cast<float>(medio.x()), y = static_cast<float>(medio.y());
     const auto entrega = [&](const auto& evento) {
         if (Viva() && control_.Enabled && evento)
             anfitrion().Entrega([&] { evento(BOTON_IZQUIERDO, 0, x, y); });
@@ -278,6 +309,72 @@ void Vista::PulsaConTeclado() {
     if (Viva() && control_.Enabled && control_.Click) anfitrion().Entrega(control_.Click);
 }
 
+// --- The parts of a picture that the keyboard reaches one by one.
+
+std::vector<QRect> Vista::Zonas() const {
+    std::vector<QRect> zonas;
+    const auto* const cuadro = dynamic_cast<const Cuadro*>(&control_);
+    if (cuadro && cuadro->Zonas)
+        for (const Rect& r : cuadro->Zonas()) zonas.emplace_back(r.Izq, r.Arr, r.Ancho(), r.Alto());
+    return zonas;
+}
+
+QRect Vista::ZonaConFoco() const {
+    const std::vector<QRect> zonas = Zonas();
+    return zonas.empty() ? rect() : zonas[std::min(zona_, zonas.size() - 1)];
+}
+
+// Hovering decides what a part does and says, so the keyboard hovers as well.
+void Vista::VeAZona(std::size_t cual) {
+    zona_ = cual;
+    Apunta(Qt::NoButton, {}, Medio(ZonaConFoco()));
+    if (!Viva()) return;
+    anillo_ = true;
+    update();
+}
+
+// Tab and the arrows go from part to part; Tab leaves the picture behind the last one.
+bool Vista::CambiaDeZona(const QKeyEvent& e) {
+    const std::size_t n = Zonas().size();
+    if (n == 0 || !hasFocus() || !AnilloVisible()) return false;
+    const std::size_t z = std::min(zona_, n - 1);
+    switch (e.key()) {
+        case Qt::Key_Tab:
+        case Qt::Key_Right:
+        case Qt::Key_Down:
+            if (z + 1 == n) return e.key() != Qt::Key_Tab;
+            VeAZona(z + 1);
+            return true;
+        case Qt::Key_Backtab:
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+            if (z == 0) return e.key() != Qt::Key_Backtab;
+            VeAZona(z - 1);
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Notches of a common wheel are 120 units; a finer one is added up.
+bool Vista::Rueda(const QWheelEvent& e) {
+    constexpr int MUESCA = 120;
+    if (!control_.MouseWheel || !control_.Enabled || !Viva()) return false;
+    const int avance = e.angleDelta().y();
+    if ((avance < 0) != (rueda_ < 0)) rueda_ = 0;
+    rueda_ += avance;
+    const int muescas = rueda_ / MUESCA;
+    if (muescas == 0) return false;
+    rueda_ %= MUESCA;
+    bool usada = false;
+    anfitrion().Entrega([&] {
+        usada = control_.MouseWheel(static_cast<i16>(std::clamp(muescas, -9, 9)),
+                                    static_cast<float>(e.position().x()),
+                                    static_cast<float>(e.position().y()));
+    });
+    return usada;
+}
+
 void Vista::Foco(bool entra, Qt::FocusReason razon) {
     if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason) {
         update();
@@ -286,6 +383,10 @@ void Vista::Foco(bool entra, Qt::FocusReason razon) {
     anillo_ = entra && (razon == Qt::TabFocusReason || razon == Qt::BacktabFocusReason);
     update();
     if (!Viva()) return;
+    if (const std::size_t n = Zonas().size(); anillo_ && n > 0) {
+        VeAZona(razon == Qt::BacktabFocusReason ? n - 1 : 0);
+        if (!Viva()) return;
+    }
     const auto& evento = entra ? control_.GotFocus : control_.LostFocus;
     if (evento) anfitrion().Entrega(evento);
 }
@@ -298,7 +399,11 @@ void Vista::MuestraAnillo() {
 }
 
 void Vista::PintaAnillo(QPainter& p, QRect r) const {
-    if (AnilloVisible()) estilo::Anillo(p, r);
+    if (AnilloVisible()) estilo::Anillo(p, r == rect() ? ZonaConFoco() : r);
+}
+
+void Vista::Mira(QPointF p) {
+    if (Viva() && control_.Enabled) Apunta(Qt::NoButton, {}, p);
 }
 
 }  // namespace tessario

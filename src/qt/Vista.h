@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/Controles.h"
 #include "qt/Anfitrion.h"
@@ -41,6 +42,9 @@ public:
     // Space or Enter: presses a control that acts as a button; false if it is none.
     bool PulsaTecla();
     void Suelta(Qt::MouseButton boton, QPointF punto) override;
+    // The pointer stands here, at this point of the view, though it has not moved.
+    void Mira(QPointF punto);
+    bool TieneZonas() const { return !Zonas().empty(); }
     bool AnilloVisible() const { return anillo_ && hasFocus(); }
 
 protected:
@@ -67,6 +71,13 @@ private:
     void Apunta(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
     void Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool doble);
     void Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p);
+    void Coloca(const QRect& sitio);
+    void PonPunteroDe();
+    std::vector<QRect> Zonas() const;  // empty: the view is one part
+    QRect ZonaConFoco() const;
+    void VeAZona(std::size_t cual);
+    bool CambiaDeZona(const QKeyEvent& e);
+    bool Rueda(const QWheelEvent& e);
     void Foco(bool entra, Qt::FocusReason razon);
     void MuestraAnillo();
     void PonEtiquetas();
@@ -75,6 +86,9 @@ private:
     Control& control_;
     MarcoDeVistas& ventana_;
     bool anillo_ = false;
+    std::size_t zona_ = 0;     // the part that has the keyboard
+    int rueda_ = 0;            // what the wheel has turned short of a notch
+    QCursor punteroInterior_;  // that of the widget within, as it came
 
     // The record as it was last seen.
     struct Visto {

@@ -113,7 +113,6 @@ void VistaVentana::RehaceVistas() {
     viejas.swap(vistas_);
     enOrden_.clear();
     orden_ = ventana_.Controles;
-    Vista* anterior = nullptr;
     for (Control* c : orden_) {
         const auto v = viejas.find(c);
         const auto padre = c->Contenedor ? vistas_.find(c->Contenedor) : vistas_.end();
@@ -125,8 +124,12 @@ void VistaVentana::RehaceVistas() {
         }
         vistas_[c] = vista;
         enOrden_.push_back(vista);
-        if (anterior) setTabOrder(anterior, vista);
-        anterior = vista;
+    }
+    Vista* anterior = nullptr;
+    for (const Control* c : ventana_.OrdenTab.empty() ? orden_ : ventana_.OrdenTab) {
+        Vista* const vista = VistaDe(*c);
+        if (anterior && vista) setTabOrder(anterior, vista);
+        if (vista) anterior = vista;
     }
     for (const auto& [c, vista] : viejas) {
         vista->hide();
@@ -245,6 +248,11 @@ bool VistaVentana::event(QEvent* e) {
             e->accept();
             return true;
         }
+        case QEvent::Hide:
+        case QEvent::WindowStateChange:
+            // Who loses the screen with a button held gets the release now, not from elsewhere.
+            if (viva_ && (e->type() == QEvent::Hide || isMinimized())) anfitrion_.SueltaTodas();
+            return QWidget::event(e);
         default:
             return QWidget::event(e);
     }
@@ -294,13 +302,18 @@ void VistaVentana::closeEvent(QCloseEvent* e) {
     if (viva_) anfitrion_.PideCerrar(*this);
 }
 
-// The wheel moves the vertical bar that is in view.
+// The wheel moves the vertical bar that is in view, three short steps for each notch.
 void VistaVentana::wheelEvent(QWheelEvent* e) {
+    constexpr int UNIDADES_PASO = 40;
     if (!viva_ || anfitrion_.HayPulsadas()) return;
     for (Control* c : orden_) {
         auto* const barra = dynamic_cast<BarraDesplazamiento*>(c);
         if (!barra || !barra->Vertical || !barra->Visible || barra->Max <= barra->Min) continue;
-        const i32 pasos = e->angleDelta().y() / 40;
+        const int avance = e->angleDelta().y();
+        if ((avance < 0) != (rueda_ < 0)) rueda_ = 0;
+        rueda_ += avance;
+        const i32 pasos = rueda_ / UNIDADES_PASO;
+        rueda_ %= UNIDADES_PASO;
         if (pasos)
             anfitrion_.Entrega([&] { barra->Pon(barra->Value - pasos * barra->SmallChange); });
         e->accept();

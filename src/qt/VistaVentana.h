@@ -77,6 +77,7 @@ private:
     i16 puntero_ = -1;
     std::string icono_, titulo_;
     QRect sitio_;
+    int rueda_ = 0;  // what the wheel has turned short of a step
     long long areaPendiente_ = 0;
     long long ultimaGrande_ = 0;  // ms of the steady clock
 };

@@ -23,6 +23,12 @@ VistaBarra::VistaBarra(BarraDesplazamiento& c, MarcoDeVistas& v, QWidget* padre)
       c_(c),
       barra_(new QScrollBar(c.Vertical ? Qt::Vertical : Qt::Horizontal, this)) {
     PonInterior(barra_);
+    connect(barra_, &QScrollBar::actionTriggered, this, [this](int accion) {
+        const int sentido = accion == QAbstractSlider::SliderPageStepAdd   ? 1
+                            : accion == QAbstractSlider::SliderPageStepSub ? -1
+                                                                           : 0;
+        if (sentido) barra_->setSliderPosition(barra_->value() + sentido * c_.LargeChange);
+    });
     connect(barra_, &QScrollBar::valueChanged, this, [this](int valor) {
         if (Viva() && valor != c_.Value) anfitrion().Entrega([&] { c_.Pon(valor); });
     });
@@ -36,7 +42,10 @@ i32 VistaBarra::SincronizaPropio() {
     if (barra_->minimum() != c_.Min || barra_->maximum() != maximo)
         barra_->setRange(c_.Min, maximo);
     if (barra_->singleStep() != c_.SmallChange) barra_->setSingleStep(c_.SmallChange);
-    if (barra_->pageStep() != c_.LargeChange) barra_->setPageStep(c_.LargeChange);
+    // The page is what is in view, which gives the handle its length; a click beside it goes the
+    // record's own long step, below.
+    const int pagina = c_.Tramo > 0 ? c_.Tramo : c_.LargeChange;
+    if (barra_->pageStep() != pagina) barra_->setPageStep(pagina);
     if (barra_->value() != c_.Value) barra_->setValue(c_.Value);
     return 0;
 }

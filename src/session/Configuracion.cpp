@@ -8,6 +8,7 @@
 #include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "panel/Alcance.h"
 #include "panel/Barajado.h"
 #include "panel/Colocadas.h"
 #include "records/Texto.h"
@@ -166,7 +167,10 @@ void LeeAjustesJuego(const std::string& Fichero) {
     else
         Sigue([&] { LeePuzzle(bytes); });
     Gbl.MovidoSinCopia = false;  // what lies on the table now is in a file, or about to be
-    if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) return;
+    if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) {
+        if (!Gbl.SoloLeerAjustes) Sigue([] { TraeLoInalcanzable(); });
+        return;
+    }
 
     if (Gbl.ErrorApertura == 0) AvisaImagenPerdida(ErrorPendiente());
     // A damaged file of a game is replaced by that game's defaults, whatever game it names.

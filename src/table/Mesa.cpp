@@ -23,33 +23,61 @@ namespace {
 
 constexpr i32 INTERVALO_TIC = 1000;  // ms
 constexpr i16 BOTON_SALIR = 7;
+constexpr i16 TECLA_MENU = 93, TECLA_F10 = 121, SHIFT_SOLO = 1;
 constexpr i32 SUGERENCIA_ANCHO = 423, SUGERENCIA_ALTO = 64;
 
-// The work that a request waited for may have left it forbidden.
-void Cumple(i16 aplazada) {
-    if (aplazada > APLAZADA_OPCION)
-        CumpleOpcion(Corto(aplazada - APLAZADA_OPCION));
-    else if (!OrdenProhibida(aplazada))
-        CumpleOrden(aplazada);
+// The work that a request waited for may have left it forbidden; a piece that came into hand since
+// is dropped first.
+void CumplePedido(i16 orden) {
+    SueltaLoQueHaya(Gbl.XRaton, Gbl.YRaton);
+    if (!OrdenProhibida(orden)) CumpleOrden(orden);
 }
 
-// The table's mouse events in the order of EntradaTabla::Suceso.
-void EntregaEntrada(const EntradaTabla& e) {
-    static constexpr void (*MANEJADORES[])(i16, i16, float, float) = {
-        Pic_Trabajo_MouseDown, Pic_Trabajo_MouseMove, Pic_Trabajo_MouseUp,
-        [](i16, i16, float, float) { Pic_Trabajo_Click(); }};
-    MANEJADORES[e.Suceso](e.Button, e.Shift, e.X, e.Y);
+void CumpleMando() {
+    SueltaLoQueHaya(Gbl.XRaton, Gbl.YRaton);
+    PulsaMandoGrabadora();
+}
+
+void Entrega(const EntradaTabla& e) {
+    switch (e.Que) {
+        case Suceso::Aprieta:
+            Pic_Trabajo_MouseDown(e.Numero, 0, e.X, e.Y);
+            break;
+        case Suceso::Mueve:
+            Pic_Trabajo_MouseMove(e.Numero, 0, e.X, e.Y);
+            break;
+        case Suceso::Suelta:
+            Pic_Trabajo_MouseUp(e.Numero, 0, e.X, e.Y);
+            break;
+        case Suceso::Click:
+            Pic_Trabajo_Click();
+            break;
+        case Suceso::Rueda:
+            Pic_Trabajo_MouseWheel(e.Numero, e.X, e.Y);
+            break;
+        case Suceso::Tecla:
+            Pic_Trabajo_KeyPress(e.Numero);
+            break;
+        case Suceso::Orden:
+            CumplePedido(e.Numero);
+            break;
+        case Suceso::Opcion:
+            CumpleOpcion(e.Numero);
+            break;
+        case Suceso::Mando:
+            CumpleMando();
+            break;
+    }
 }
 
 // Every event of the window is handled through here. An error that no routine below has dealt with
-// ends the handler, not the program; what was asked for meanwhile is done when the outermost
-// handler has ended.
+// ends the handler, not the program; what came in meanwhile is handled when the outermost handler
+// has ended, oldest first.
 template <class F>
 void Atiende(F&& manejador) {
     const ManejadorEnCurso este;
     Sigue(manejador);
-    while (const i16 aplazada = este.TomaAplazada()) Sigue([&] { Cumple(aplazada); });
-    while (const auto entrada = este.TomaEntrada()) Sigue([&] { EntregaEntrada(*entrada); });
+    while (const auto entrada = este.TomaEntrada()) Sigue([&] { Entrega(*entrada); });
 }
 
 template <class F>
@@ -58,12 +86,38 @@ auto Raton(F manejador) {
         Atiende([&] { manejador(Button, Shift, X, Y); });
     };
 }
-auto EntradaDeTabla(i16 suceso) {
-    return [suceso](i16 Button, i16 Shift, float X, float Y) {
-        const EntradaTabla entrada{suceso, Button, Shift, X, Y};
-        if (!GuardaEntrada(entrada)) Atiende([&] { EntregaEntrada(entrada); });
-    };
+void Recibe(const EntradaTabla& entrada) {
+    if (!GuardaEntrada(entrada)) Atiende([&] { Entrega(entrada); });
 }
+auto EntradaDeTabla(Suceso que) {
+    return [que](i16 Button, i16 /*Shift*/, float X, float Y) { Recibe({que, Button, X, Y}); };
+}
+
+// Over a piece the wheel turns it, elsewhere it scrolls.
+bool RuedaDeTabla(i16 Pasos, float X, float Y) {
+    const EntradaTabla entrada{Suceso::Rueda, Pasos, X, Y};
+    if (GuardaEntrada(entrada)) return true;
+    bool usada = false;
+    Atiende([&] { usada = Pic_Trabajo_MouseWheel(Pasos, X, Y); });
+    return usada;
+}
+
+// The recorder's switch answers always: it ends the work under way and is thrown after it. The
+// automatic runs of the recorder itself know how to deal with it.
+void Grabadora_MouseDown(i16 Button, i16 Shift, float X, float Y) {
+    if (!EsMandoGrabadora(X, Y) || DentroDeAvance()) {
+        Atiende([&] { Pic_Grabadora_MouseDown(Button, Shift, X, Y); });
+    } else if (DentroDeTarea()) {
+        TerminaTareas();
+        Aplaza(Suceso::Mando);
+    } else {
+        Atiende([&] {
+            SueltaLoQueHaya(Gbl.XRaton, Gbl.YRaton);
+            Pic_Grabadora_MouseDown(Button, Shift, X, Y);
+        });
+    }
+}
+
 template <class F>
 auto Aviso(F manejador) {
     return [manejador] { Atiende(manejador); };
@@ -85,11 +139,26 @@ void LlenaControles() {
     Pic_CroTime.Contenedor = &Pic_Cronome;
 }
 
+// Tab goes by the place on the strip, row by row, down to the recorder; then over the table.
+void OrdenaTab() {
+    constexpr i16 FILAS[] = {2, 6, 3, 4, 5, 7, 1, 8, 11, 10, 9, 12};
+    for (const i16 i : FILAS) Mesa.OrdenTab.push_back(&Pic_Boton(i));
+    for (Control* c :
+         {&Pic_Cronome, &Pic_Grabadora, &Pic_SugeMasAyuda, &Pic_SugeBotCerrar, &Pic_SelOpciones}) {
+        c->TabStop = true;
+        Mesa.OrdenTab.push_back(c);
+    }
+    Pic_SugeMasAyuda.NombreAccesible = "Más ayuda";
+    Pic_SugeBotCerrar.NombreAccesible = "Cerrar la ventana de información";
+    Pic_SelOpciones.NombreAccesible = "Opciones del puzzle";
+}
+
 void ConectaTabla() {
-    Pic_Trabajo.MouseDown = EntradaDeTabla(0);
-    Pic_Trabajo.MouseMove = EntradaDeTabla(1);
-    Pic_Trabajo.MouseUp = EntradaDeTabla(2);
-    Pic_Trabajo.Click = [] { EntradaDeTabla(3)(0, 0, 0, 0); };
+    Pic_Trabajo.MouseDown = EntradaDeTabla(Suceso::Aprieta);
+    Pic_Trabajo.MouseMove = EntradaDeTabla(Suceso::Mueve);
+    Pic_Trabajo.MouseUp = EntradaDeTabla(Suceso::Suelta);
+    Pic_Trabajo.Click = [] { Recibe({Suceso::Click}); };
+    Pic_Trabajo.MouseWheel = RuedaDeTabla;
     Pic_Trabajo.Paint = Aviso(Pic_Trabajo_Paint);
     Pic_Muestra.MouseDown = Raton(Pic_Muestra_MouseDown);
     Pic_Muestra.MouseMove = Raton(Pic_Muestra_MouseMove);
@@ -100,6 +169,7 @@ void ConectaTabla() {
     Pic_SelOpciones.Paint = MuestraOpcionesSelec;
     Pic_SelOpciones.MouseMove = Raton(Pic_SelOpciones_MouseMove);
     Pic_SelOpciones.MouseUp = Raton(Pic_SelOpciones_MouseUp);
+    Pic_SelOpciones.Zonas = ZonasOpciones;
     BarraHor.Change = Aviso(BarraHor_Change);
     BarraVer.Change = Aviso(BarraVer_Change);
 }
@@ -124,11 +194,13 @@ void ConectaTira() {
     // The display covers part of the clock's panel and passes the mouse on to it.
     Pic_Cronome.MouseDown = Raton(Pic_Cronome_MouseDown);
     Pic_Cronome.MouseMove = Raton(Pic_Cronome_MouseMove);
+    Pic_Cronome.Zonas = ZonasCronome;
     Pic_CroTime.MouseMove = [](i16 Button, i16 Shift, float X, float Y) {
         Pic_Cronome_MouseMove(Button, Shift, X + static_cast<float>(Pic_CroTime.Left),
                               Y + static_cast<float>(Pic_CroTime.Top));
     };
-    Pic_Grabadora.MouseDown = Raton(Pic_Grabadora_MouseDown);
+    Pic_Grabadora.MouseDown = Grabadora_MouseDown;
+    Pic_Grabadora.Zonas = ZonasGrabadora;
     Pic_Grabadora.MouseMove = Raton(Pic_Grabadora_MouseMove);
 }
 
@@ -139,7 +211,11 @@ void ConectaVentana() {
         Gbl.AutoAtras = false;
         Gbl.AutoAdelante = false;
     };
-    Mesa.KeyPress = [](i16 KeyAscii) { Atiende([&] { Pic_Trabajo_KeyPress(KeyAscii); }); };
+    Mesa.KeyPress = [](i16 KeyAscii) { Recibe({Suceso::Tecla, KeyAscii}); };
+    Mesa.KeyDown = [](i16 KeyCode, i16 Shift) {
+        const bool menu = KeyCode == TECLA_MENU || (KeyCode == TECLA_F10 && Shift == SHIFT_SOLO);
+        if (menu && !DentroDeTarea()) Atiende(AbreOpcionesConTeclado);
+    };
     // Closing the window from outside asks like the exit button does; when the answer is yes, that
     // has closed the window already.
     Mesa.QueryUnload = [](bool& Cancela) {
@@ -159,6 +235,7 @@ void ConectaVentana() {
 
 void ConectaMesa() {
     LlenaControles();
+    OrdenaTab();
     // Where the panel will appear counts before its first hint is shown.
     Pic_Sugerencia.Tamano(SUGERENCIA_ANCHO, SUGERENCIA_ALTO);
     Pic_Sugerencia.Mueve(0, Sistema().AltoPantalla() - SUGERENCIA_ALTO);

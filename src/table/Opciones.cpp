@@ -8,7 +8,9 @@
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"
 #include "platform/Plataforma.h"
+#include "rules/PuzzBas.h"
 #include "table/Ordenes.h"
+#include "table/Raton.h"
 #include "table/Tareas.h"
 #include "table/VentanasOrdenes.h"
 
@@ -106,6 +108,23 @@ void MuestraOpcionesSelec() {
     if (activas > 0) Pic_SelOpciones.Visible = true;
 }
 
+std::vector<Rect> ZonasOpciones() {
+    std::vector<Rect> filas;
+    for (i32 j = 0; j < OpcionesEnPanel(); ++j)
+        filas.push_back(
+            RectDe(2, j * ALTO_FILA + BORDE - 2, Pic_SelOpciones.Width() - 4, ALTO_FILA));
+    return filas;
+}
+
+void AbreOpcionesConTeclado() {
+    if (Gbl.GrabadoraEncendida || Gbl.ArrastrandoPieza) return;
+    Gbl.XPulsado = Corto(BarraHor.Value + (Pic_Botonera.Left - ANCHO_PANEL) / 2);
+    Gbl.YPulsado = Corto(BarraVer.Value + BarraHor.Top / 3);
+    Gbl.OpcionResaltada = 1;
+    ActivaOpciones();
+    Sistema().PonFoco(Pic_SelOpciones);
+}
+
 void Pic_SelOpciones_MouseMove(i16, i16, float, float Y) {
     const i16 fila = Corto((EnteroLargo(static_cast<double>(Y)) + 16) / ALTO_FILA);
     if (fila == Gbl.OpcionResaltada) return;
@@ -117,13 +136,13 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
     if (Gbl.OpcionResaltada == 0) return;
     Pic_SelOpciones.Visible = false;
     const i16 opcion = OpcionDeFila(Gbl.OpcionResaltada);
-    if (opcion < 1 || opcion > OPCION_MODELO || Gbl.Barajando) return;
+    if (opcion < 1 || opcion > OPCION_MODELO) return;
     if (!DentroDeTarea()) {
         CumpleOpcion(opcion);
         return;
     }
     TerminaTareas();
-    Aplaza(Corto(APLAZADA_OPCION + opcion));
+    Aplaza(Suceso::Opcion, opcion);
 }
 
 void CumpleOpcion(i16 opcion) {

@@ -26,8 +26,8 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10, ORDEN_ORDENAR = 11,
-              ORDEN_RESOLVER = 12;
+constexpr i16 ORDEN_BARAJAR = 1, ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10,
+              ORDEN_ORDENAR = 11, ORDEN_RESOLVER = 12;
 constexpr i16 SONIDO_BOTON = 9;
 constexpr i16 SUGERENCIA_TUTOR = 52;
 constexpr i16 PAUSA_ANTES_MUESTRA = 5, PAUSA_TRAS_MUESTRA = 35, PAUSA_OCULTA = 15;
@@ -239,9 +239,10 @@ void TerminaOtrasOrdenes(i16 Index) {
 // The work under way ends. A press of the button that began it asks for nothing else.
 void PulsaDentroDeTarea(i16 Index) {
     const bool laSuya = (Index == ORDEN_RESOLVER && Gbl.ResolviendoPuzzle) ||
-                        (Index == ORDEN_ORDENAR && Gbl.OrdenandoPiezas);
+                        (Index == ORDEN_ORDENAR && Gbl.OrdenandoPiezas) ||
+                        (Index == ORDEN_BARAJAR && Gbl.Barajando);
     TerminaTareas();
-    Aplaza(laSuya ? i16{0} : Index);
+    if (!laSuya) Aplaza(Suceso::Orden, Index);
 }
 
 // Another command while the pieces are being set up by hand. True: it may go on.
@@ -273,10 +274,11 @@ void Pic_Boton_MouseMove(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
 
 void Pic_Boton_MouseDown(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, float /*Y*/) {
     Pic_SelOpciones.Visible = false;
-    if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO || Gbl.Barajando) return;
+    if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO) return;
     Gbl.TutorEsperando = false;
     SonidoJuego(0, SONIDO_BOTON);
-    if (DentroDeTarea()) {
+    // What the recorder allows leaves the pieces alone: an automatic replay goes on after it.
+    if (DentroDeTarea() && !DentroDeAvance()) {
         PulsaDentroDeTarea(Index);
         return;
     }

@@ -5,6 +5,7 @@
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
+#include "panel/Alcance.h"
 #include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/CursorMesa.h"
@@ -97,29 +98,77 @@ void PulsaIzquierdo() {
     CogePieza();
 }
 
+// One turn of PiezaActual, of one step or of more, and its record. XOrigen, YOrigen are left at the
+// place before it.
+template <class F>
+void ConRegistroDeGiro(F&& gira) {
+    const i16 piece = Gbl.PiezaActual;
+    const Pieza antes = Gbl.Piezas[piece];
+    Gbl.XOrigen = antes.X;
+    Gbl.YOrigen = antes.Y;
+    gira();
+    const Pieza& p = Gbl.Piezas[piece];
+    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+}
+
+void PasoDeGiro() {
+    GiraPieza();
+    SonidoJuego(0, SONIDO_GIRO);
+}
+
+// Until the right button is released. Whatever else comes in meanwhile is kept.
+void GiraHastaSoltar() {
+    const GiroAMano giro;
+    Gbl.GirandoPieza = true;
+    while (Gbl.GirandoPieza && Gbl.PiezaActual != 0) {
+        PasoDeGiro();
+        Pausa(PAUSA_GIRO);
+        DejaPasarEventos();
+        // A release that went astray, to another window for example, never comes in.
+        if (TomaSueltaDelGiro() || !(Sistema().BotonesApretados() & BOTON_DERECHO))
+            Gbl.GirandoPieza = false;
+    }
+}
+
+// An automatic run turns a piece in one step.
+void GiraUnaVez() {
+    Gbl.GirandoPieza = true;
+    PasoDeGiro();
+    Pausa(PAUSA_GIRO);
+    Gbl.GirandoPieza = false;
+    DejaPasarEventos();
+}
+
 // The right button on a piece: it turns step by step until the button is released.
 void GiraMientrasPulsado() {
     if ((Gbl.BotonPulsado != BOTON_DERECHO || Gbl.GrabadoraEncendida) && !Gbl.ResolviendoPuzzle)
         return;
     TerminaColocadas();
     if (Gbl.PiezaActual == 0 || JuegoEnCurso().Giros == 1) return;
+    ConRegistroDeGiro(Gbl.ResolviendoPuzzle ? GiraUnaVez : GiraHastaSoltar);
+}
+
+// ---------------------------------------------------------------- turning in hand
+bool EnMano() {
+    return Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle && !DentroDeTarea();
+}
+
+// The piece in hand turns as one on the table does: no drop, no test of its place, no end of the
+// game. The way so far, the turn and the way from here are three moves of the log. The drag goes on
+// if the left button is still held, or if its release waits its turn.
+template <class F>
+void GiraEnMano(F&& gira) {
+    if (!Gbl.PermitirGiro || JuegoEnCurso().Giros == 1) return;
     const i16 piece = Gbl.PiezaActual;
     const Pieza antes = Gbl.Piezas[piece];
-    Gbl.GirandoPieza = true;
-    Gbl.XOrigen = antes.X;
-    Gbl.YOrigen = antes.Y;
-    while (Gbl.GirandoPieza && Gbl.PiezaActual != 0) {
-        GiraPieza();
-        SonidoJuego(0, SONIDO_GIRO);
-        Pausa(PAUSA_GIRO);
-        if (Gbl.ResolviendoPuzzle) Gbl.GirandoPieza = false;
-        DejaPasarEventos();
-        // A release that went astray, to another window for example, brings no Click.
-        if (!Sistema().BotonesApretados()) Gbl.GirandoPieza = false;
-    }
-    Gbl.GiroTerminado = false;
-    const Pieza& p = Gbl.Piezas[piece];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    if (antes.X != Gbl.XOrigen || antes.Y != Gbl.YOrigen)
+        RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, antes.Volteo, antes.X, antes.Y,
+                           antes.Giro, antes.Volteo);
+    ConRegistroDeGiro(gira);
+    Gbl.XOrigen = Gbl.Piezas[piece].X;
+    Gbl.YOrigen = Gbl.Piezas[piece].Y;
+    const bool sujeta = Sistema().BotonesApretados() & BOTON_IZQUIERDO;
+    if (sujeta || EsperaSuelta(BOTON_IZQUIERDO)) TomaPieza(Gbl.XRaton, Gbl.YRaton, piece);
 }
 
 // ---------------------------------------------------------------- move
@@ -187,29 +236,10 @@ void BuscaPieza(i32 x, i32 y) {
 }
 
 // ---------------------------------------------------------------- release
-// Keeps the centre of a dropped piece where the player can take it again: in the view, and clear
-// of the strip and the hint panel.
+// Keeps a dropped piece where the player can take it again.
 void MantieneALaVista(i16 piece) {
     BorraPieza(piece);
-    Pieza& p = Gbl.Piezas[piece];
-    const double w = AnchoDePieza(piece, p.Giro, p.Volteo);
-    const double h = AltoDePieza(piece, p.Giro, p.Volteo);
-    const i32 valorV = BarraVer.Value;
-    const i32 valorH = BarraHor.Value;
-    i32 limiteY = BarraHor.Top;
-    i32 limiteX = BarraVer.Left;
-    if (Pic_Botonera.Height() + valorV > p.Y + h / 2) limiteX = Pic_Botonera.Left;
-    // Deliberate: the panel's Top holds the scroll already, and it is added once more below.
-    if (Pic_Sugerencia.Width() + valorH > p.X && Gbl.VentanaInformacion)
-        limiteY = Pic_Sugerencia.Top;
-    const Pieza antes = p;
-    const double sx = Gbl.SalienteX;
-    const double sy = Gbl.SalienteY;
-    if (p.Y - sy + h / 2 < valorV) p.Y = Entero(valorV + sy - h / 2);
-    if (p.Y + h / 2 - sy > limiteY + valorV) p.Y = Entero(limiteY + valorV - h / 2 + sy);
-    if (p.X - sx + w / 2 < valorH) p.X = Entero(valorH + sx - w / 2);
-    if (p.X + w / 2 - sx > limiteX + valorH) p.X = Entero(limiteX + valorH - w / 2 + sx);
-    if (!(p == antes)) Pic_Trabajo_Paint();
+    if (LlevaALaVista(piece)) Pic_Trabajo_Paint();
 }
 
 void AsientaPieza(i16 piece) {
@@ -287,11 +317,16 @@ void SueltaLoQueHaya(i16 X, i16 Y) {
 }
 
 void Pic_Trabajo_MouseDown(i16 Button, i16 /*Shift*/, float X, float Y) {
+    if (EnMano() && Button != BOTON_IZQUIERDO) {
+        if (Button == BOTON_DERECHO) GiraEnMano(GiraHastaSoltar);
+        return;
+    }
     Gbl.XPulsado = Entero(X);
     Gbl.YPulsado = Entero(Y);
     Gbl.BotonPulsado = Button;
     Pic_SelOpciones.Visible = false;
     Gbl.TutorEsperando = false;
+    Gbl.PulsoGiro = false;
     if (DentroDeTarea()) return;
     SueltaLoQueHaya(Gbl.XPulsado, Gbl.YPulsado);
     if (Button == BOTON_IZQUIERDO && PulsoIzquierdoManda())
@@ -314,23 +349,43 @@ void Pic_Trabajo_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
     if (!HoverParado()) BuscaPieza(x, y);
 }
 
-void Pic_Trabajo_MouseUp(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
+void Pic_Trabajo_MouseUp(i16 Button, i16 /*Shift*/, float X, float Y) {
+    if (EnMano() && Button > BOTON_IZQUIERDO) return;  // that one does not hold the piece
     if (Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle) Sigue([] { SueltaPieza(); });
     Gbl.ArrastrandoPieza = false;
     Gbl.SoltandoPieza = false;
     Pic_Trabajo_MouseMove(0, 0, X, Y);
 }
 
-void Pic_Trabajo_Click() {
-    const bool derecho =
-        Gbl.BotonPulsado == BOTON_DERECHO && !Gbl.GrabadoraEncendida && !Gbl.GirandoPieza;
-    if ((derecho || Gbl.ResolviendoPuzzle) && Gbl.PiezaActual == 0) {
-        // Deliberate: an option that has become active stays so until the program ends.
-        for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
-        if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
-        Sigue([] { PintaOpciones(); });
+bool Pic_Trabajo_MouseWheel(i16 Pasos, float X, float Y) {
+    if (EnMano()) {
+        for (i16 i = 0; i < std::abs(Pasos); ++i) GiraEnMano(PasoDeGiro);
+        return true;
     }
-    if (Gbl.GirandoPieza && DentroDeTarea()) Gbl.GiroTerminado = true;
+    const bool puede = Gbl.PermitirGiro && JuegoEnCurso().Giros != 1 &&
+                       !Gbl.PuzzleTerminado && !Gbl.GrabadoraEncendida && !DentroDeTarea();
+    if (!puede) return false;
+    BuscaPieza(EnteroLargo(X), EnteroLargo(Y));
+    if (Gbl.PiezaActual == 0) return false;
+    Gbl.XPulsado = Entero(X);
+    Gbl.YPulsado = Entero(Y);
+    TerminaColocadas();
+    for (i16 i = 0; i < std::abs(Pasos); ++i) ConRegistroDeGiro(PasoDeGiro);
+    BuscaPieza(EnteroLargo(X), EnteroLargo(Y));
+    return true;
+}
+
+void ActivaOpciones() {
+    // Deliberate: an option that has become active stays so until the program ends.
+    for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
+    if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
+    Sigue([] { PintaOpciones(); });
+}
+
+void Pic_Trabajo_Click() {
+    const bool derecho = Gbl.BotonPulsado == BOTON_DERECHO && !Gbl.GrabadoraEncendida &&
+                         !Gbl.GirandoPieza && !Gbl.PulsoGiro;
+    if ((derecho || Gbl.ResolviendoPuzzle) && Gbl.PiezaActual == 0) ActivaOpciones();
     Gbl.GirandoPieza = false;
 }
 
@@ -339,12 +394,17 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii) {
         case 27:  // Esc
         case 'Q':
         case 'q':
+            if (KeyAscii == 27 && Pic_SelOpciones.Visible) {
+                Pic_SelOpciones.Visible = false;
+                break;
+            }
+            SueltaLoQueHaya(Gbl.XRaton, Gbl.YRaton);
             Sistema().Minimiza(Mesa);
             break;
         case 'V':
         case 'v':
-            // With the recorder on, the table is only looked at.
-            // Nor does it change in the middle of other work.
+            // With the recorder on, the table is only looked at, and in the middle of other work
+            // it does not change: only behind a turn does the key wait.
             if (JuegoEnCurso().PiezaQueVoltea != 0 && !Gbl.GrabadoraEncendida && !DentroDeTarea())
                 VolteaPieza();
             break;

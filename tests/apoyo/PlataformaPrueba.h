@@ -40,7 +40,7 @@ public:
     bool hayPortapapeles = false;
     Mapa portapapeles;
     std::vector<std::string> portapapelesFicheros;
-    bool botones = false;
+    i16 botones = 0;  // mouse buttons held: 1 left, 2 right, 4 middle
 
     // --- What a test looks at.
     struct Aviso {
@@ -84,7 +84,7 @@ public:
         ++presentaciones;
         if (alPresentar) alPresentar();
     }
-    bool BotonesApretados() override { return botones; }
+    i16 BotonesApretados() override { return botones; }
     void Muestra(Ventana& v) override;
     void MuestraModal(Ventana& v) override;
     void Cierra(Ventana& v) override;

@@ -379,7 +379,8 @@ private:
         if (apretado_) return;
         if (!Una(4)) Mueve(Lugar());
         ultimo_ += boton == BOTON_DERECHO ? " right press" : " left press";
-        apretado_ = p_->botones = true;
+        apretado_ = true;
+        p_->botones = boton;
         ++pulsos_;
         puntero_->Aprieta(boton);
     }
@@ -387,7 +388,8 @@ private:
     void Suelta() {
         if (!apretado_) return;
         ultimo_ += " release";
-        apretado_ = p_->botones = false;
+        apretado_ = false;
+        p_->botones = 0;
         puntero_->Suelta();
     }
 
@@ -449,7 +451,7 @@ private:
         Exige(!Gbl.ArrastrandoPieza || apretado_, "no piece in hand without a press");
         Exige(!Gbl.SoltandoPieza, "no drop under way between events");
         Exige(!Gbl.GirandoPieza || apretado_, "no turning without a press");
-        Exige(!Gbl.GiroTerminado && Gbl.EntradaAplazada.empty(), "nothing is left waiting");
+        Exige(!Gbl.GiroEnCurso && Gbl.EntradaAplazada.empty(), "nothing is left waiting");
         Exige(!Gbl.Barajando, "no shuffle under way between events");
         Exige(!Gbl.ResolviendoPuzzle, "no solving under way between events");
         Exige(!Gbl.OrdenandoPiezas, "no arrangement under way between events");
@@ -457,7 +459,6 @@ private:
         Exige(!Gbl.AutoAtras && !Gbl.AutoAdelante, "no replay under way between events");
         Exige(Gbl.MarcaPausa == 0, "no pause under way between events");
         Exige(Gbl.EventosAnidados == 0 && Gbl.ManejadoresEnCurso == 0, "no handler still at work");
-        Exige(Gbl.OrdenAplazada == 0, "no request left waiting");
         Exige(Mesa.MousePointer == PUNTERO_NORMAL, "no busy pointer between events");
         // A piece in hand is counted when it is dropped.
         Exige(Gbl.ArrastrandoPieza || Gbl.PiezasColocadas == CuentaColocadas(),

@@ -203,18 +203,29 @@ TEST_F(PanelGrabadora, PowerOffDuringAnAutomaticRunEndsBoth) {
     EXPECT_FALSE(Gbl.AutoAtras);
 }
 
-TEST_F(PanelGrabadora, CannotBeSwitchedOnWhileMovesAreStillBeingMade) {
+TEST_F(PanelGrabadora, SwitchAnswersWhateverElseIsUnderWay) {
     Juega(1, 10, 20);
     for (Booleano* bandera : {&Gbl.Barajando, &Gbl.OrdenandoPiezas, &Gbl.ResolviendoPuzzle,
                               &Gbl.TareaAutomatica, &Gbl.GirandoPieza, &Gbl.ArrastrandoPieza}) {
         *bandera = true;
-        EXPECT_EQ(LetreroEn(MANDO), "");
-        Pulsa(MANDO);
-        EXPECT_FALSE(Gbl.GrabadoraEncendida);
+        EXPECT_EQ(LetreroEn(MANDO), " Encender mando ");
+        EXPECT_EQ(Pic_Grabadora.MouseIcon, "ManoIndice");
+        EXPECT_TRUE(EsMandoGrabadora(MANDO[0], MANDO[1]));
         *bandera = false;
     }
+    EXPECT_FALSE(EsMandoGrabadora(ATRAS[0], ATRAS[1]));
     Pulsa(MANDO);
     EXPECT_TRUE(Gbl.GrabadoraEncendida);
+}
+
+TEST_F(PanelGrabadora, KeyboardStopsAtTheKeysThatCanBePressed) {
+    EXPECT_EQ(ZonasGrabadora(), (std::vector<Rect>{RectDe(6, 6, 38, 13)}));
+    Juega(1, 10, 20);
+    Juega(1, 40, 20);
+    Pulsa(MANDO);
+    EXPECT_EQ(ZonasGrabadora().size(), 3U) << "switch, one back, back to the start";
+    Pulsa(ATRAS);
+    EXPECT_EQ(ZonasGrabadora().size(), 6U);
 }
 
 TEST_F(PanelGrabadora, TooltipsTellWhatEachKeyCanDo) {

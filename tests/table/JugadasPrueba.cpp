@@ -102,7 +102,7 @@ TEST_F(Jugadas, TurnIsLoggedFromWhereThePieceLay) {
     Pon(4, 430, 300, 1);
     SubePieza(PosicionEnOrden(4));
     const Punto p = PuntoDe(4);
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     P().alDejarPasar = [this, n = 0]() mutable {
         if (++n == 3) Puntero.Suelta();
     };

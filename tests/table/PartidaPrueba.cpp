@@ -29,9 +29,9 @@ protected:
     }
     // A short press of the right button: its release comes in while the piece turns.
     void Gira(Punto p) {
-        P().botones = true;
+        P().botones = BOTON_DERECHO;
         P().eventos.push_back([this] {
-            P().botones = false;
+            P().botones = 0;
             Puntero.Suelta();
         });
         Puntero.Mueve(p.x, p.y);

@@ -405,12 +405,12 @@ TEST_F(RatonMesa, HeldRightButtonKeepsTurningUntilItsClick) {
     Pon(2, 400, 100);
     Puntero.Mueve(450, 150);
     Gbl.VelocidadJuego = 50;
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     const double antes = P().dormido;
     P().eventos.push_back([] {});
     P().eventos.push_back([] {});
     P().eventos.push_back([this] {
-        P().botones = false;
+        P().botones = 0;
         Puntero.Suelta();
     });
     Puntero.Aprieta(BOTON_DERECHO);
@@ -426,7 +426,7 @@ TEST_F(RatonMesa, ClickThatComesWhileTheButtonStillReadsHeldEndsTheTurning) {
     Rompecabezas();
     Pon(2, 400, 100);
     Puntero.Mueve(450, 150);
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     P().eventos.push_back([] { Pic_Trabajo_Click(); });
     Puntero.Aprieta(BOTON_DERECHO);
     EXPECT_EQ(Gbl.Piezas[2].Giro, 1);
@@ -437,9 +437,9 @@ TEST_F(RatonMesa, LostReleaseEndsTheTurningToo) {
     Rompecabezas();
     Pon(2, 400, 100);
     Puntero.Mueve(450, 150);
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     P().eventos.push_back([] {});
-    P().eventos.push_back([this] { P().botones = false; });  // no release comes
+    P().eventos.push_back([this] { P().botones = 0; });  // no release comes
     Puntero.Aprieta(BOTON_DERECHO);
     EXPECT_EQ(Gbl.Piezas[2].Giro, 2);
     EXPECT_FALSE(Gbl.GirandoPieza);
@@ -488,7 +488,7 @@ TEST_F(RatonMesa, AutomaticRunTurnsThePieceInOneStepWithAnyButton) {
     Pon(2, 400, 100, 1);
     Gbl.ResolviendoPuzzle = true;
     Gbl.PiezaActual = 2;
-    P().botones = true;  // even if the player holds a button
+    P().botones = BOTON_DERECHO;  // even if the player holds a button
     Pic_Trabajo_MouseDown(BOTON_DERECHO, 0, 400, 100);
     EXPECT_EQ(Gbl.Piezas[2].Giro, 0);  // straight to where it is right
     EXPECT_FALSE(Gbl.GirandoPieza);

@@ -81,14 +81,15 @@ TEST_F(Tareas, ClockIsAsItWasAfterACommandInsideAnother) {
     EXPECT_TRUE(Gbl.CronoEnMarcha);
 }
 
-TEST_F(Tareas, LastOfSeveralCommandsCounts) {
+TEST_F(Tareas, CommandsPressedDuringWorkComeInTheOrderOfTheirPressesAndOnceEach) {
     Monton();
     EnElPaso(1, [this] {
         PulsaOrden(5);
         PulsaOrden(4);
+        PulsaOrden(5);
     });
     PulsaOrden(11);
-    EXPECT_EQ(abiertas, (std::vector<std::string>{"Estadis"}));
+    EXPECT_EQ(abiertas, (std::vector<std::string>{"Historic", "Estadis"}));
     EXPECT_FALSE(dentro);
     EXPECT_EQ(Gbl.NumMovimientos, 1);
 }
@@ -146,27 +147,55 @@ TEST_F(Tareas, SlidingTutorPlaysAloneWhateverIsPressedOnTheTable) {
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
 }
 
-TEST_F(Tareas, ShuffleIsDeafToCommandsAndTable) {
+TEST_F(Tareas, RequestsDuringAShuffleComeWhenItHasEnded) {
     Deslizantes(3);
     Sonidos();
-    P().alDejarPasar = [this] {
+    Gbl.VelocidadJuego = 50;
+    double alPedir = 0;
+    std::vector<std::string> sucesos;
+    P().ventanas["Mensajes"] = [&](Ventana&) {
+        dentro = dentro || Gbl.Barajando || DentroDeTarea();
+        sucesos.push_back(Gbl.TextoMensaje);
+        Gbl.RespuestaMensaje = false;
+    };
+    P().alDejarPasar = [&] {
         ++pasos;
-        for (const int orden : {6, 11, 12, 1}) PulsaOrden(static_cast<i16>(orden));
         const Punto p = PuntoDe(static_cast<i16>(1 + pasos % 8));
         Puntero.Pulsa(p.x, p.y);
+        if (pasos != 3) return;
+        alPedir = P().dormido;
+        PulsaOrden(6);
+        PulsaOrden(1);  // its own button: it is at work already
         bool cancela = false;
         Mesa.QueryUnload(cancela);
         EXPECT_TRUE(cancela);
+        EXPECT_TRUE(P().ayudas.empty() && sucesos.empty());
     };
     PulsaOrden(1);
     EXPECT_EQ(pasos, 31) << "four moves for each of eight pieces, events between them";
-    EXPECT_TRUE(P().ayudas.empty());
-    EXPECT_TRUE(P().avisos.empty());
+    EXPECT_GT(alPedir, 0);
+    EXPECT_EQ(P().dormido, alPedir) << "who waits behind the shuffle does not wait for its pauses";
+    EXPECT_EQ(P().ayudas.size(), 1U);
+    EXPECT_EQ(sucesos, (std::vector<std::string>{"¿Desea abandonar el programa?"}));
+    EXPECT_FALSE(dentro);
+    EXPECT_FALSE(Gbl.SinPausas);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
     EXPECT_FALSE(Gbl.PuzzleTerminado);
-    const auto sonidos = Sonidos();
-    EXPECT_EQ(std::count(sonidos.begin(), sonidos.end(), 9), 1) << "the shuffle's own button";
     EXPECT_TRUE(TieneSolucion());
+}
+
+TEST_F(Tareas, OptionChosenDuringAShuffleComesAfterIt) {
+    Deslizantes(3);
+    Gbl.OpcionesActivas[1] = Gbl.OpcionesActivas[2] = true;
+    EnElPaso(2, [] {
+        MuestraOpcionesSelec();
+        Pic_SelOpciones.MouseMove(0, 0, 20, 30);
+        Pic_SelOpciones.MouseUp(BOTON_IZQUIERDO, 0, 20, 30);
+        EXPECT_EQ(Gbl.ModoCargua, 0);
+    });
+    PulsaOrden(1);
+    EXPECT_EQ(Gbl.ModoCargua, 1);
+    EXPECT_FALSE(Gbl.Barajando);
 }
 
 TEST_F(Tareas, WindowClosedDuringTheSolverAsksWhenItHasEnded) {
@@ -188,25 +217,37 @@ TEST_F(Tareas, WindowClosedDuringTheSolverAsksWhenItHasEnded) {
     EXPECT_LT(Gbl.PiezasColocadas, 9);
 }
 
-TEST_F(Tareas, CommandDuringAReplayEndsIt) {
+TEST_F(Tareas, ReplayGoesOnAfterTheCommandsThatItAllows) {
     Monton();
     PulsaOrden(11);
     ASSERT_EQ(Gbl.NumMovimientos, 9);
     EnciendeGrabadora();
-    EnElPaso(3, [this] { PulsaOrden(5); });
+    Gbl.MostrarMuestra = false;
+    EnElPaso(3, [this] {
+        PulsaOrden(5);
+        PulsaOrden(6);
+        PulsaOrden(8);
+        PulsaOrden(7);
+        PulsaOrden(1);  // forbidden
+        EXPECT_EQ(Gbl.NumMovimientos, 6);
+        EXPECT_TRUE(Gbl.AutoAtras);
+    });
     const Punto o = PunteroPrueba::Origen(Pic_Grabadora);
     Puntero.Pulsa(o.x + 14, o.y + 47);  // back to the start
-    EXPECT_EQ(Gbl.NumMovimientos, 6);
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
     EXPECT_FALSE(Gbl.AutoAtras);
     EXPECT_EQ(abiertas, (std::vector<std::string>{"Historic"}));
-    EXPECT_FALSE(dentro);
+    EXPECT_EQ(P().ayudas.size(), 1U);
+    EXPECT_TRUE(Gbl.MostrarMuestra);
+    ASSERT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(P().avisos[0].titulo, "Salir del programa");
 }
 
 TEST_F(Tareas, CommandWhileAPieceTurnsEndsTheTurning) {
     Moviles(3, 300, 300);
     Pon(5, 400, 200, 0);
     const Punto p = PuntoDe(5);
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     EnElPaso(2, [] { Pulsa(Pic_Boton(5)); });  // with the space bar: the mouse is busy
     Puntero.Mueve(p.x, p.y);
     Puntero.Aprieta(BOTON_DERECHO);
@@ -221,7 +262,7 @@ TEST_F(Tareas, DragMadeDuringATurnsPauseComesAfterTheTurn) {
     Pon(5, 400, 200, 0);
     Pon(6, 400, 400, 0);
     const Punto p = PuntoDe(5), q = PuntoDe(6);
-    P().botones = true;
+    P().botones = BOTON_DERECHO;
     // All of it was in the queue when the pause ended: the release, then a whole drag.
     EnElPaso(1, [&] {
         Puntero.Suelta();
@@ -237,7 +278,7 @@ TEST_F(Tareas, DragMadeDuringATurnsPauseComesAfterTheTurn) {
     EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{5, 400, 200, 0, 0, 400, 200, 1, 0}));
     EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{6, 400, 400, 0, 0, 430, 420, 0, 0}));
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
-    EXPECT_FALSE(Gbl.GiroTerminado);
+    EXPECT_FALSE(Gbl.GiroEnCurso);
     EXPECT_TRUE(Gbl.EntradaAplazada.empty());
 }
 
@@ -259,39 +300,6 @@ TEST_F(Tareas, CommandByKeyboardDropsThePieceInHandFirst) {
     Puntero.Suelta();
     EXPECT_EQ(Gbl.NumMovimientos, 1);
     EXPECT_EQ(Gbl.Piezas[5].X, 460);
-}
-
-TEST_F(Tareas, SecondButtonDropsThePieceInHandBeforeItTurns) {
-    Moviles(3, 300, 300);
-    Pon(5, 400, 200);
-    const Punto p = PuntoDe(5);
-    Puntero.Mueve(p.x, p.y);
-    Puntero.Aprieta();
-    Puntero.Mueve(p.x + 60, p.y + 40);
-    P().botones = false;  // one step
-    const Punto o = PunteroPrueba::Origen(Pic_Trabajo);
-    Pic_Trabajo.MouseDown(BOTON_DERECHO, 0, static_cast<float>(p.x + 60 - o.x),
-                          static_cast<float>(p.y + 40 - o.y));
-    ASSERT_EQ(Gbl.NumMovimientos, 2);
-    EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{5, 400, 200, 0, 0, 460, 240, 0, 0}));
-    EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{5, 460, 240, 0, 0, 460, 240, 1, 0}));
-    EXPECT_FALSE(Gbl.ArrastrandoPieza);
-}
-
-TEST_F(Tareas, ParallelogramIsNotTurnedOverInTheMiddleOfOtherWork) {
-    Tangram(MODO_CREAR);
-    const Punto p = PuntoDe(3);
-    P().botones = true;
-    P().alDejarPasar = [this] {
-        Mesa.KeyPress('V');
-        if (++pasos == 2) P().botones = false;
-    };
-    Puntero.Mueve(p.x, p.y);
-    Puntero.Aprieta(BOTON_DERECHO);
-    EXPECT_EQ(Gbl.Piezas[7].Volteo, 0);
-    EXPECT_EQ(Gbl.Piezas[3].Giro, 2);
-    ASSERT_EQ(Gbl.NumMovimientos, 1);
-    EXPECT_EQ(Gbl.Movimientos[1].Pieza, 3);
 }
 
 TEST_F(Tareas, OptionChosenDuringTheSolverWaitsForItsEnd) {
