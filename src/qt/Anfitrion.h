@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <Qt>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "qt/Cursores.h"
@@ -42,9 +43,15 @@ public:
     void RevisaPulsadas();
     // Delivers the releases of all that is held: the screen is lost to the window.
     void SueltaTodas();
-    // Something has moved or gone from under the pointer, which may stand still: what is there now
-    // is told of it, once, when the running handlers have returned.
-    virtual void MiraBajoElPuntero() = 0;
+    // The pointer may stand still while something moves, comes or goes beneath it: what lies there
+    // now is told of it, once, when the running handlers have returned. Forced, it is told though
+    // nothing has changed places: what it shows may be new.
+    virtual void MiraBajoElPuntero(bool forzada) = 0;
+    // The last point that a view was told of.
+    void AnotaMirada(const QWidget* quien, QPointF punto) { mirada_ = {quien, punto}; }
+    bool YaMirado(const QWidget* quien, QPointF punto) const {
+        return mirada_.first == quien && mirada_.second == punto;
+    }
 
 private:
     void SueltaPrimera();
@@ -53,6 +60,7 @@ private:
         Qt::MouseButton boton;
     };
     std::vector<Pulsada> pulsadas_;
+    std::pair<const QWidget*, QPointF> mirada_;
     Textos textos_;
     Cursores cursores_;
 };

@@ -10,6 +10,7 @@
 #include <QThread>
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "core/Errores.h"
 #include "qt/Entrada.h"
@@ -34,9 +35,9 @@ struct FinDelPrograma {};
 
 PlataformaQt::PlataformaQt() {
     reloj_.start();
-    mirada_.setSingleShot(true);
-    mirada_.setInterval(0);
-    QObject::connect(&mirada_, &QTimer::timeout, [this] { Mira(); });
+    espera_.setSingleShot(true);
+    espera_.setInterval(0);
+    QObject::connect(&espera_, &QTimer::timeout, [this] { Mira(); });
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -185,7 +186,7 @@ void PlataformaQt::Cierra(Ventana& v) {
     AnclaAyuda();
     // The widgets go when no event of theirs runs any more.
     vista->Termina();
-    MiraBajoElPuntero();
+    MiraBajoElPuntero(true);
     if (VistaVentana* const otra = Cima(); otra && otra->Ensenada()) otra->activateWindow();
     if (abiertas_.empty() && enMarcha_) Termina();
 }
@@ -197,8 +198,9 @@ void PlataformaQt::PideCerrar(VistaVentana& vista) {
     if (!cancela) Entrega([&] { Cierra(v); });
 }
 
-void PlataformaQt::MiraBajoElPuntero() {
-    if (!terminando_) mirada_.start();
+void PlataformaQt::MiraBajoElPuntero(bool forzada) {
+    forzada_ = forzada_ || forzada;
+    if (!terminando_) espera_.start();
 }
 
 void PlataformaQt::Mira() {

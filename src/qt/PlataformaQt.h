@@ -34,7 +34,7 @@ public:
     void Entrega(const std::function<void()>& manejador) override;
     void SuenaMando() override;
     void PideCerrar(VistaVentana& v) override;
-    void MiraBajoElPuntero() override;
+    void MiraBajoElPuntero(bool forzada) override;
     bool EstaCerrando() const override { return terminando_; }
 
     // --- Plataforma.
@@ -90,7 +90,8 @@ private:
     long long ultimoPaso_ = 0;    // ns: events were let through
     long long ultimaVuelta_ = 0;  // ns: the last such call returned
     int seguidas_ = 0;            // calls that came at once after the one before
-    QTimer mirada_;               // a look under the pointer, on its way
+    QTimer espera_;               // until the next look under the pointer
+    bool forzada_ = false;        // it tells though nothing has changed places
     bool terminando_ = false, enMarcha_ = false, sincronizando_ = false;
 };
 

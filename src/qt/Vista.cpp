@@ -68,7 +68,7 @@ i32 Vista::Sincroniza() {
         if (!visible && hasFocus()) ventana_.setFocus(Qt::OtherFocusReason);
         setVisible(visible);
         area += sitio.width() * sitio.height();
-        anfitrion().MiraBajoElPuntero();
+        anfitrion().MiraBajoElPuntero(false);
     }
     visto_.primera = false;
     return area;
@@ -82,7 +82,7 @@ void Vista::Coloca(const QRect& sitio) {
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setGeometry(sitio);
     setAttribute(Qt::WA_OpaquePaintEvent, opaca);
-    if (visto_.Visible) anfitrion().MiraBajoElPuntero();
+    if (visto_.Visible) anfitrion().MiraBajoElPuntero(false);
 }
 
 // A pointer that the window itself sets, such as the hourglass, is to be seen all over it; else the
@@ -215,6 +215,7 @@ bool Vista::EventoDeRaton(QEvent* e, bool interior) {
     e->accept();
     const auto* m = static_cast<QMouseEvent*>(e);
     if (!Viva()) return true;
+    anfitrion().AnotaMirada(this, m->position());
     if (!control_.Enabled && e->type() != QEvent::MouseButtonRelease) return true;
     switch (e->type()) {
         case QEvent::MouseMove:
@@ -270,6 +271,7 @@ void Vista::Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p) {
 void Vista::Suelta(Qt::MouseButton b, QPointF p) {
     if (!anfitrion().TomaPulsada(this, b) || !Viva()) return;
     if (b == Qt::LeftButton) AlSoltar(p);
+    anfitrion().MiraBajoElPuntero(true);
     if (!Viva() || !control_.Enabled) return;
     const i16 boton = BotonDe(b);
     if (control_.MouseUp)
