@@ -201,7 +201,10 @@ void ReproduceMovimiento(i16 sentido) {
 }
 
 bool PuedeEncenderGrabadora() {
-    return !CreandoFiguras() && !HayTareaEnCurso() && Gbl.NumMovimientos >= 1;
+    // A move or a run of moves under way will still enter the log.
+    const bool enCurso = Gbl.Barajando || Gbl.OrdenandoPiezas || Gbl.ResolviendoPuzzle ||
+                         Gbl.TareaAutomatica || Gbl.GirandoPieza || Gbl.ArrastrandoPieza;
+    return !CreandoFiguras() && !enCurso && Gbl.NumMovimientos >= 1;
 }
 
 void EnciendeGrabadora() {
