@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
     Q_UNUSED(argc)
     QApplication aplicacion(sinArgumentos, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tessario"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessario"));
+    // No display name of the application: it would be put behind each window's title.
     QGuiApplication::setDesktopFileName(QStringLiteral("tessario"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/imagenes/icono.png")));
     VisteAplicacion();

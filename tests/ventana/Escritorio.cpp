@@ -115,11 +115,6 @@ std::string Propiedad(Display* d, Window w, const char* nombre) {
     return texto;
 }
 
-// The window library puts the program's name after a title that lacks it.
-bool EsTitulo(const std::string& nombre, const std::string& titulo) {
-    return nombre == titulo || nombre.rfind(titulo + " \u2014 ", 0) == 0;
-}
-
 bool ContestaPing(Display* d, Window w) {
     Atom* protocolos = nullptr;
     int n = 0;
@@ -276,7 +271,7 @@ bool Escritorio::BuscaVentana(const std::string& titulo, Marco& marco) {
     const Window raiz = DefaultRootWindow(d_);
     const int todo = DisplayWidth(d_, DefaultScreen(d_));
     return Recorre(d_, raiz, [&](Window w, const XWindowAttributes& a) {
-        if (a.width >= todo || !EsTitulo(Propiedad(d_, w, "_NET_WM_NAME"), titulo)) return false;
+        if (a.width >= todo || Propiedad(d_, w, "_NET_WM_NAME") != titulo) return false;
         Window hija = 0;
         marco = {0, 0, a.width, a.height};
         XTranslateCoordinates(d_, w, raiz, 0, 0, &marco.x, &marco.y, &hija);
