@@ -5,11 +5,14 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -25,6 +28,7 @@ namespace {
 constexpr QSize TAMANO{780, 560};
 constexpr int ANCHO_INDICE = 230;
 constexpr int RUTA = Qt::UserRole;
+const QColor MARCA{0xF6, 0xD0, 0x7A};  // ground of a word that was looked for
 
 const QString CARPETA = QStringLiteral(":/ayuda/");
 const QString INICIO = QStringLiteral("inicio");
@@ -39,6 +43,21 @@ QString Llano(const QString& t) {
     for (const QChar c : t.normalized(QString::NormalizationForm_D).toLower())
         if (c.category() != QChar::Mark_NonSpacing) salida += c;
     return salida;
+}
+
+// The same, letter for letter at the same places.
+QString LlanoEnSuSitio(const QString& t) {
+    QString salida;
+    salida.reserve(t.size());
+    for (const QChar c : t) {
+        const QString l = Llano(QString(c));
+        salida += l.isEmpty() ? QChar(u' ') : l.at(0);
+    }
+    return salida;
+}
+
+QStringList Palabras(const QString& buscado) {
+    return Llano(buscado).split(u' ', Qt::SkipEmptyParts);
 }
 
 QToolButton* Boton(const QString& texto, const QString& nombre) {
@@ -57,7 +76,8 @@ VentanaAyuda::VentanaAyuda()
     : QWidget(nullptr, Qt::Window),
       hojas_(new QTextBrowser),
       indice_(new QListWidget),
-      busca_(new QLineEdit) {
+      busca_(new QLineEdit),
+      nada_(new QLabel) {
     setWindowTitle(QStringLiteral("Ayuda de Tessario"));
     auto* atras = Boton(QStringLiteral(" ◀  Atrás "), QStringLiteral("Página anterior"));
     auto* adelante = Boton(QStringLiteral(" Adelante  ▶ "), QStringLiteral("Página siguiente"));
@@ -78,6 +98,11 @@ VentanaAyuda::VentanaAyuda()
     hojas_->setFont(letra);
     hojas_->setOpenExternalLinks(false);
 
+    nada_->setWordWrap(true);
+    nada_->setFixedWidth(ANCHO_INDICE);
+    nada_->setMargin(6);
+    nada_->setText(QStringLiteral("Ninguna página de la ayuda contiene lo que busca."));
+
     auto* barra = new QHBoxLayout;
     for (QWidget* w : {atras, adelante, inicio}) barra->addWidget(w);
     barra->addStretch(1);
@@ -86,6 +111,7 @@ VentanaAyuda::VentanaAyuda()
     busca_->setFixedWidth(ANCHO_INDICE);
     indice_->setFixedWidth(ANCHO_INDICE);
     lado->addWidget(busca_);
+    lado->addWidget(nada_);
     lado->addWidget(indice_, 1);
     auto* cuerpo = new QHBoxLayout;
     cuerpo->addLayout(lado);
@@ -105,6 +131,8 @@ VentanaAyuda::VentanaAyuda()
     connect(hojas_, &QTextBrowser::sourceChanged, this, [this](const QUrl& u) {
         actual_ = u.toString(QUrl::RemoveFragment);
         MarcaEnIndice();
+        // The page's text is there once the browser is done.
+        QTimer::singleShot(0, this, [this] { MarcaHalladas(); });
     });
     connect(busca_, &QLineEdit::textChanged, this, [this](const QString& t) { RellenaIndice(t); });
     connect(busca_, &QLineEdit::returnPressed, this, [this] { Abre(indice_->item(0)); });
@@ -113,6 +141,7 @@ VentanaAyuda::VentanaAyuda()
     const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
     resize(TAMANO.boundedTo(pantalla - QSize(20, 40)));
     LeeHojas();
+    LeeGrupos();
     RellenaIndice({});
 }
 
@@ -134,26 +163,92 @@ void VentanaAyuda::LeeHojas() {
     });
 }
 
+// The groups of the start page, a heading before each list of links, and the pages of each.
+void VentanaAyuda::LeeGrupos() {
+    QFile f(CARPETA + INICIO + QStringLiteral(".html"));
+    if (!f.open(QIODevice::ReadOnly)) return;
+    static const QRegularExpression PARTES(
+        QStringLiteral("<h2>([^<]*)</h2>|<li><a href=\"([^\"]*)\">"));
+    auto i = PARTES.globalMatch(QString::fromUtf8(f.readAll()));
+    while (i.hasNext()) {
+        const QRegularExpressionMatch m = i.next();
+        if (!m.captured(1).isEmpty())
+            grupos_.append({m.captured(1), {}});
+        else if (!grupos_.isEmpty())
+            grupos_.last().rutas.append(QStringLiteral("qrc") + CARPETA + m.captured(2));
+    }
+}
+
+void VentanaAyuda::PonHoja(const Hoja& h) {
+    auto* const i = new QListWidgetItem(h.titulo, indice_);
+    i->setData(RUTA, h.ruta);
+}
+
+// All pages as the start page has them, each group under its heading; what it does not name comes
+// before the groups.
+void VentanaAyuda::RellenaConGrupos() {
+    const auto agrupada = [&](const Hoja& h) {
+        return std::any_of(grupos_.begin(), grupos_.end(),
+                           [&](const Grupo& g) { return g.rutas.contains(h.ruta); });
+    };
+    for (const Hoja& h : hojasTodas_)
+        if (!agrupada(h)) PonHoja(h);
+    for (const Grupo& g : grupos_) {
+        auto* const cabeza = new QListWidgetItem(g.titulo, indice_);
+        cabeza->setFlags(Qt::NoItemFlags);
+        QFont letra = indice_->font();
+        letra.setBold(true);
+        cabeza->setFont(letra);
+        cabeza->setForeground(estilo::TERRACOTA_OSCURA);
+        for (const QString& ruta : g.rutas)
+            for (const Hoja& h : hojasTodas_)
+                if (h.ruta == ruta) PonHoja(h);
+    }
+}
+
 // Pages with all the words; those that have them in the title come first.
-void VentanaAyuda::RellenaIndice(const QString& buscado) {
-    const QStringList palabras = Llano(buscado).split(u' ', Qt::SkipEmptyParts);
+void VentanaAyuda::RellenaConHalladas(const QStringList& palabras) {
     const auto todas = [&](const QString& texto) {
         return std::all_of(palabras.begin(), palabras.end(),
                            [&](const QString& p) { return texto.contains(p); });
     };
+    for (const bool enTitulo : {true, false})
+        for (const Hoja& h : hojasTodas_)
+            if (todas(Llano(h.titulo)) == enTitulo && todas(h.texto)) PonHoja(h);
+}
+
+void VentanaAyuda::RellenaIndice(const QString& buscado) {
+    const QStringList palabras = Palabras(buscado);
     indice_->clear();
-    for (const bool enTitulo : {true, false}) {
-        for (const Hoja& h : hojasTodas_) {
-            if (todas(Llano(h.titulo)) != enTitulo || !todas(h.texto)) continue;
-            auto* i = new QListWidgetItem(h.titulo, indice_);
-            i->setData(RUTA, h.ruta);
+    if (palabras.isEmpty())
+        RellenaConGrupos();
+    else
+        RellenaConHalladas(palabras);
+    nada_->setVisible(indice_->count() == 0);
+    MarcaEnIndice();
+    MarcaHalladas();
+}
+
+// What is looked for is marked in the page on show.
+void VentanaAyuda::MarcaHalladas() {
+    QList<QTextEdit::ExtraSelection> marcas;
+    QTextDocument* const d = hojas_->document();
+    const QString texto = LlanoEnSuSitio(d->toPlainText());
+    for (const QString& p : Palabras(busca_->text())) {
+        for (auto i = texto.indexOf(p); i >= 0; i = texto.indexOf(p, i + p.size())) {
+            QTextEdit::ExtraSelection marca;
+            marca.cursor = QTextCursor(d);
+            marca.cursor.setPosition(static_cast<int>(i));
+            marca.cursor.setPosition(static_cast<int>(i + p.size()), QTextCursor::KeepAnchor);
+            marca.format.setBackground(MARCA);
+            marcas.append(marca);
         }
     }
-    MarcaEnIndice();
+    hojas_->setExtraSelections(marcas);
 }
 
 void VentanaAyuda::Abre(const QListWidgetItem* i) {
-    if (i) hojas_->setSource(QUrl(i->data(RUTA).toString()));
+    if (i && i->data(RUTA).isValid()) hojas_->setSource(QUrl(i->data(RUTA).toString()));
 }
 
 void VentanaAyuda::MarcaEnIndice() {

@@ -6,6 +6,7 @@
 
 #include "platform/Tipos.h"
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -23,6 +24,7 @@ public:
     QTextBrowser& Hojas() const { return *hojas_; }
     QListWidget& Indice() const { return *indice_; }
     QLineEdit& Busqueda() const { return *busca_; }
+    QLabel& SinHallazgos() const { return *nada_; }  // shown when a search finds nothing
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
@@ -31,16 +33,27 @@ private:
     struct Hoja {
         QString ruta, titulo, texto;  // texto: in lower case, for the search
     };
+    struct Grupo {
+        QString titulo;
+        QStringList rutas;
+    };
     void LeeHojas();
+    void LeeGrupos();
+    void PonHoja(const Hoja& h);
+    void RellenaConGrupos();
+    void RellenaConHalladas(const QStringList& palabras);
     void RellenaIndice(const QString& buscado);
+    void MarcaHalladas();
     void MarcaEnIndice();
     void Abre(const QListWidgetItem* i);
 
     QList<Hoja> hojasTodas_;
+    QList<Grupo> grupos_;
     QString actual_;  // page on show
     QTextBrowser* hojas_;
     QListWidget* indice_;
     QLineEdit* busca_;
+    QLabel* nada_;
 };
 
 }  // namespace tessario

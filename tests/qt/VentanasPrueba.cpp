@@ -1,5 +1,7 @@
 // Windows: modal ones, closing from outside, events nested in handlers, releases that get lost,
 // errors, sleeping, the end of the program, the help beside a message.
+#include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
@@ -317,6 +319,55 @@ TEST_F(VistaDeVentanas, TheIndexOfTheHelpMarksThePageOnShow) {
     ayuda.Hojas().backward();
     EXPECT_EQ(titulo(), primera);
     EXPECT_EQ(marcada(), primera);
+}
+
+TEST_F(VistaDeVentanas, HelpSaysWhenASearchFindsNothing) {
+    P().Ayuda(0);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    EXPECT_FALSE(ayuda.SinHallazgos().isVisible());
+    ayuda.Busqueda().setText("palabraquenoexiste");
+    EXPECT_TRUE(ayuda.SinHallazgos().isVisible());
+    EXPECT_FALSE(ayuda.SinHallazgos().text().isEmpty());
+    ayuda.Busqueda().setText("piezas");
+    EXPECT_FALSE(ayuda.SinHallazgos().isVisible());
+}
+
+TEST_F(VistaDeVentanas, HelpMarksTheWordsThatWereFoundAccentsOrNot) {
+    P().Ayuda(2200);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    EXPECT_TRUE(ayuda.Hojas().extraSelections().isEmpty());
+    ayuda.Busqueda().setText("AUTOMATICO");
+    const auto marcas = ayuda.Hojas().extraSelections();
+    ASSERT_FALSE(marcas.isEmpty());
+    for (const auto& m : marcas)
+        EXPECT_EQ(m.cursor.selectedText().toLower().toStdString(), "automático");
+    // The next page is marked as it is opened.
+    ayuda.Busqueda().setText("girar");
+    P().Ayuda(4040);
+    Eventos();
+    ASSERT_FALSE(ayuda.Hojas().extraSelections().isEmpty());
+    EXPECT_EQ(ayuda.Hojas().extraSelections().first().cursor.selectedText().toLower(), "girar");
+    ayuda.Busqueda().clear();
+    EXPECT_TRUE(ayuda.Hojas().extraSelections().isEmpty());
+}
+
+TEST_F(VistaDeVentanas, HelpsListHasTheGroupsOfTheStartPage) {
+    P().Ayuda(0);
+    VentanaAyuda& ayuda = *P().AyudaAbierta();
+    QStringList cabezas, enGrupo;
+    for (int i = 0; i < ayuda.Indice().count(); ++i) {
+        const QListWidgetItem* const fila = ayuda.Indice().item(i);
+        if (fila->flags() & Qt::ItemIsSelectable)
+            enGrupo << fila->text();
+        else
+            cabezas << fila->text();
+    }
+    EXPECT_EQ(cabezas.first(), "Primeros pasos");
+    EXPECT_TRUE(cabezas.contains("Los tres juegos"));
+    EXPECT_TRUE(cabezas.contains("Guardar y cargar"));
+    EXPECT_EQ(enGrupo.first(), "Ayuda de Tessario");
+    EXPECT_EQ(enGrupo.removeDuplicates(), 0);
+    EXPECT_EQ(enGrupo.size(), QDir(":/ayuda").entryList({"*.html"}).size()) << "every page once";
 }
 
 TEST_F(VistaDeVentanas, TheSearchPutsPagesWithTheWordsInTheTitleFirstAndReturnOpensThem) {
