@@ -2,6 +2,7 @@
 // and the piece that turns in the player's hand.
 #include "apoyo/MesaMontada.h"
 #include "core/PuzzGbl.h"
+#include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
