@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <climits>
 
 #include "core/PuzzGbl.h"
 #include "pieces/Formas.h"
@@ -11,9 +10,10 @@ namespace tessario::modelos {
 
 namespace {
 
-constexpr i32 CONTACTO = 3;  // pixels between pieces that count as touching
-constexpr i32 ALCANCE_RENDIJA = 2;
-constexpr i32 VUELTAS = 6;  // rounds of the adjustment
+constexpr i32 CONTACTO = 3;        // pixels between pieces that count as touching
+constexpr i32 MENOR_HUECO = 400;   // enclosed ground, pixels
+constexpr i32 MAYOR_RENDIJA = 12;  // narrow ground; the sharpest notch between two sides has less
+constexpr i32 VUELTAS = 6;         // rounds of the adjustment
 
 // The smallest table: 800 x 600, the strip at the right kept free, margins of a fortieth of the
 // width all around.
@@ -46,11 +46,12 @@ Rect CajaDe(const Reparto& reparto) {
 }
 
 // Points of a closed polygon, edges included: what its outline and its fill paint.
-void PintaPieza(Sombra& s, const Colocada& c, Punto origen) {
-    const auto v = Vertices(c);
+Sombra Mascara(const Colocada& c) {
+    const auto v = Vertices({c.pieza, c.giro, c.volteo, 0, 0});
     const Rect caja = CajaDe(c);
-    for (i32 y = caja.Arr; y < caja.Aba; ++y)
-        for (i32 x = caja.Izq; x < caja.Der; ++x) {
+    Sombra s(caja.Ancho(), caja.Alto());
+    for (i32 y = 0; y < s.alto; ++y)
+        for (i32 x = 0; x < s.ancho; ++x) {
             i32 mas = 0, menos = 0;
             for (std::size_t i = 0; i < v.size(); ++i) {
                 const Punto a = v[i], b = v[(i + 1) % v.size()];
@@ -58,51 +59,101 @@ void PintaPieza(Sombra& s, const Colocada& c, Punto origen) {
                 mas += cruz > 0;
                 menos += cruz < 0;
             }
-            if (mas == 0 || menos == 0)
-                s.pixeles[static_cast<std::size_t>((y - origen.y) * s.ancho + x - origen.x)] = 1;
+            s.Fila(y)[x] = mas == 0 || menos == 0;
         }
+    return s;
 }
 
-i32 Solape(const Reparto& reparto) {
-    std::vector<Region> regiones;
-    for (const Colocada& c : reparto) regiones.push_back(RegionDe(c));
-    i32 area = 0;
-    for (std::size_t i = 0; i < regiones.size(); ++i)
-        for (std::size_t j = i + 1; j < regiones.size(); ++j) {
-            Region comun;
-            CombineRgn(comun, regiones[i], regiones[j], RGN_AND);
-            area += comun.Area();
-        }
-    return area;
+void PintaPieza(Sombra& s, const Sombra& mascara, i32 izq, i32 arr) {
+    for (i32 y = 0; y < mascara.alto; ++y) {
+        const u8* desde = mascara.Fila(y);
+        u8* hasta = s.Fila(y + arr) + izq;
+        for (i32 x = 0; x < mascara.ancho; ++x) hasta[x] |= desde[x];
+    }
 }
 
-// Is there something painted within reach in this direction?
-bool Cerca(const Sombra& s, i32 x, i32 y, i32 dx, i32 dy) {
-    for (i32 n = 1; n <= ALCANCE_RENDIJA; ++n)
-        if (s.En(x + n * dx, y + n * dy) != 0) return true;
-    return false;
+// Ground with the figure on two opposite sides of it, close by: one pixel of a row, 1 or 0.
+static_assert(Sombra::BORDE == 2, "as far as the sum looks");
+u8 Estrecho(const u8* p, i32 paso) {
+    const auto lado = [p](i32 d) { return p[d] | p[2 * d]; };
+    const auto entre = [&lado](i32 d) { return lado(d) & lado(-d); };
+    return static_cast<u8>((p[0] ^ 1) &
+                           (entre(1) | entre(paso) | entre(paso + 1) | entre(paso - 1)));
 }
 
-i32 Rendija(const Reparto& reparto) {
-    const Sombra s = PintaSombra(reparto);
+i32 Rendija(const Sombra& s) {
     i32 n = 0;
-    for (i32 y = 0; y < s.alto; ++y)
-        for (i32 x = 0; x < s.ancho; ++x) {
-            if (s.En(x, y) != 0) continue;
-            const bool cerrada = (Cerca(s, x, y, -1, 0) && Cerca(s, x, y, 1, 0)) ||
-                                 (Cerca(s, x, y, 0, -1) && Cerca(s, x, y, 0, 1)) ||
-                                 (Cerca(s, x, y, -1, -1) && Cerca(s, x, y, 1, 1)) ||
-                                 (Cerca(s, x, y, 1, -1) && Cerca(s, x, y, -1, 1));
-            n += cerrada;
-        }
+    for (i32 y = 0; y < s.alto; ++y) {
+        const u8* fila = s.Fila(y);
+        for (i32 x = 0; x < s.ancho; ++x) n += Estrecho(fila + x, s.Paso());
+    }
     return n;
 }
 
-// The seams are looked for only where the overlap alone is not already as bad as the limit.
-Defectos Mide(const Reparto& reparto, i32 limite) {
-    Defectos d{Solape(reparto), 0};
-    if (d.Peso() < limite) d.rendija = Rendija(reparto);
-    return d;
+i32 Comun(const Region& a, const Region& b) {
+    Region comun;
+    CombineRgn(comun, a, b, RGN_AND);
+    return comun.Area();
+}
+
+i32 Solape(const Reparto& reparto) {
+    i32 area = 0;
+    for (std::size_t i = 0; i < reparto.size(); ++i)
+        for (std::size_t j = i + 1; j < reparto.size(); ++j)
+            area += Comun(RegionDe(reparto[i]), RegionDe(reparto[j]));
+    return area;
+}
+
+// A patch of the picture: how many pixels, how long its box is, whether it reaches the rim.
+struct Mancha {
+    i32 pixeles = 0;
+    Rect caja;
+    bool orilla = false;
+};
+
+// The patches, joined in eight directions, of the pixels marked 1.
+std::vector<Mancha> Manchas(Sombra marcas) {
+    std::vector<Mancha> manchas;
+    std::vector<Punto> cola;
+    const auto toma = [&](i32 x, i32 y, Mancha& m) {
+        if (marcas.Fila(y)[x] == 0) return;
+        marcas.Fila(y)[x] = 0;
+        cola.push_back({x, y});
+        ++m.pixeles;
+        m.caja = Union(m.caja, RectDe(x, y, 1, 1));
+        m.orilla = m.orilla || x == 0 || y == 0 || x == marcas.ancho - 1 || y == marcas.alto - 1;
+    };
+    for (i32 y = 0; y < marcas.alto; ++y)
+        for (i32 x = 0; x < marcas.ancho; ++x) {
+            Mancha m;
+            toma(x, y, m);
+            while (!cola.empty()) {
+                const Punto p = cola.back();
+                cola.pop_back();
+                for (i32 dy = -1; dy <= 1; ++dy)
+                    for (i32 dx = -1; dx <= 1; ++dx) toma(p.x + dx, p.y + dy, m);
+            }
+            if (m.pixeles > 0) manchas.push_back(m);
+        }
+    return manchas;
+}
+
+std::string ReparoDeFondo(const Reparto& reparto) {
+    const Sombra s = PintaSombra(reparto);
+    Sombra fondo(s.ancho, s.alto), estrechos(s.ancho, s.alto);
+    for (i32 y = 0; y < s.alto; ++y)
+        for (i32 x = 0; x < s.ancho; ++x) {
+            fondo.Fila(y)[x] = s.Fila(y)[x] ^ 1;
+            estrechos.Fila(y)[x] = Estrecho(s.Fila(y) + x, s.Paso());
+        }
+    for (const Mancha& m : Manchas(fondo))
+        if (!m.orilla && m.pixeles < MENOR_HUECO)
+            return "a hole of " + std::to_string(m.pixeles) + " pixels";
+    for (const Mancha& m : Manchas(estrechos)) {
+        const i32 largo = std::max(m.caja.Ancho(), m.caja.Alto());
+        if (largo > MAYOR_RENDIJA) return "a seam of " + std::to_string(largo) + " pixels";
+    }
+    return "";
 }
 
 bool SeTocan(const Colocada& una, const Colocada& otra) {
@@ -134,35 +185,99 @@ bool TodasUnidas(const Reparto& reparto) {
 
 }  // namespace
 
+Reparto EnPixeles(const Plan& plan) {
+    Reparto reparto;
+    for (const Sitio& s : plan)
+        reparto.push_back(
+            {s.pieza, s.giro, s.volteo, s.esquina.x.Pixeles(), s.esquina.y.Pixeles()});
+    return reparto;
+}
+
 Sombra PintaSombra(const Reparto& reparto) {
     const Rect caja = CajaDe(reparto);
-    Sombra s{caja.Ancho(), caja.Alto(), {}};
-    s.pixeles.resize(static_cast<std::size_t>(s.ancho * s.alto));
-    for (const Colocada& c : reparto) PintaPieza(s, c, {caja.Izq, caja.Arr});
+    Sombra s(caja.Ancho(), caja.Alto());
+    for (const Colocada& c : reparto) PintaPieza(s, Mascara(c), c.x - caja.Izq, c.y - caja.Arr);
     return s;
 }
 
-Defectos Ajusta(Reparto& reparto) {
-    Defectos mejor = Mide(reparto, INT_MAX);
-    for (i32 vuelta = 0; vuelta < VUELTAS && mejor.Peso() > 0; ++vuelta) {
-        const i32 antes = mejor.Peso();
-        for (Colocada& c : reparto) {
-            const Colocada inicio = c;
-            Colocada elegida = c;
-            for (i32 dy = -1; dy <= 1; ++dy)
-                for (i32 dx = -1; dx <= 1; ++dx) {
-                    c.x = inicio.x + dx;
-                    c.y = inicio.y + dy;
-                    const Defectos d = Mide(reparto, mejor.Peso());
-                    if (d.Peso() >= mejor.Peso()) continue;
-                    mejor = d;
-                    elegida = c;
-                }
-            c = elegida;
-        }
-        if (mejor.Peso() == antes) break;
+namespace {
+
+// The pieces while they are nudged. What does not move is measured and painted once.
+class Ajustador {
+public:
+    explicit Ajustador(Reparto& reparto) : reparto_(reparto) {
+        for (const Colocada& c : reparto) mascaras_.push_back(Mascara(c));
+        const Rect caja = CajaDe(reparto);
+        // Room for pieces to be nudged outwards.
+        constexpr i32 HOLGURA = VUELTAS + 1;
+        origen_ = {caja.Izq - HOLGURA, caja.Arr - HOLGURA};
+        ancho_ = caja.Ancho() + 2 * HOLGURA;
+        alto_ = caja.Alto() + 2 * HOLGURA;
     }
-    return mejor;
+
+    Defectos Haz() {
+        Defectos mejor = Todos();
+        for (i32 vuelta = 0; vuelta < VUELTAS && mejor.Peso() > 0; ++vuelta) {
+            const i32 antes = mejor.Peso();
+            for (std::size_t i = 0; i < reparto_.size(); ++i) Mueve(i, mejor);
+            if (mejor.Peso() == antes) break;
+        }
+        return mejor;
+    }
+
+private:
+    void Pinta(Sombra& s, std::size_t i) const {
+        PintaPieza(s, mascaras_[i], reparto_[i].x - origen_.x, reparto_[i].y - origen_.y);
+    }
+    Defectos Todos() const {
+        Sombra s(ancho_, alto_);
+        for (std::size_t i = 0; i < reparto_.size(); ++i) Pinta(s, i);
+        return {Solape(reparto_), Rendija(s)};
+    }
+
+    // The best of the nine places around.
+    void Mueve(std::size_t i, Defectos& mejor) {
+        Sombra resto(ancho_, alto_);
+        std::vector<Region> otras;
+        i32 solapeAjeno = Solape(reparto_);
+        const Region mia = RegionDe(reparto_[i]);
+        for (std::size_t j = 0; j < reparto_.size(); ++j) {
+            if (j == i) continue;
+            Pinta(resto, j);
+            otras.push_back(RegionDe(reparto_[j]));
+            solapeAjeno -= Comun(mia, otras.back());
+        }
+        const Colocada inicio = reparto_[i];
+        Colocada elegida = inicio;
+        for (i32 dy = -1; dy <= 1; ++dy)
+            for (i32 dx = -1; dx <= 1; ++dx) {
+                reparto_[i].x = inicio.x + dx;
+                reparto_[i].y = inicio.y + dy;
+                Defectos d{solapeAjeno, 0};
+                const Region aqui = RegionDe(reparto_[i]);
+                for (const Region& otra : otras) d.solape += Comun(aqui, otra);
+                // Seams are looked for only where the overlap alone is not already as bad.
+                if (d.Peso() >= mejor.Peso()) continue;
+                Sombra s = resto;
+                Pinta(s, i);
+                d.rendija = Rendija(s);
+                if (d.Peso() >= mejor.Peso()) continue;
+                mejor = d;
+                elegida = reparto_[i];
+            }
+        reparto_[i] = elegida;
+    }
+
+    Reparto& reparto_;
+    std::vector<Sombra> mascaras_;
+    Punto origen_;
+    i32 ancho_ = 0, alto_ = 0;
+};
+
+}  // namespace
+
+Defectos Ajusta(Reparto& reparto) {
+    return Ajustador(reparto).Haz();
 }
 
 std::string Reparo(const Reparto& reparto) {
@@ -170,7 +285,7 @@ std::string Reparo(const Reparto& reparto) {
     if (!TodasUnidas(reparto)) return "pieces are not in contact";
     const Rect caja = CajaDe(reparto);
     if (caja.Ancho() > ANCHO_UTIL || caja.Alto() > ALTO_UTIL) return "too large for the table";
-    return "";
+    return ReparoDeFondo(reparto);
 }
 
 void LlevaAlMargen(Reparto& reparto) {

@@ -10,17 +10,21 @@
 #include <climits>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
+#include <map>
 #include <set>
 #include <stdexcept>
+#include <string_view>
+#include <tuple>
 
 #include "Ajuste.h"
+#include "Estudio.h"
+#include "Reparto.h"
+#include "Tablas.h"
 #include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"
-#include "rules/Medidas.h"
 
 namespace fs = std::filesystem;
 
@@ -34,6 +38,8 @@ constexpr int MAX_REPARTOS = 4;  // fillings of one figure that are compared
 struct Modelo {
     std::string nombre;
     Reparto reparto;
+    Figura figura;
+    i32 dadas = 0;  // pieces that the silhouette gives away
 };
 
 std::vector<Descripcion> LeeCarpeta(const std::string& carpeta) {
@@ -47,27 +53,47 @@ std::vector<Descripcion> LeeCarpeta(const std::string& carpeta) {
     return figuras;
 }
 
-// The best of the first fillings. Throws when there is none or it is no good.
-Modelo Construye(const Descripcion& figura) {
+// The best of the first fillings. Throws when there is none.
+Plan Rellena(const Descripcion& figura, Reparto& reparto) {
     if (Area(figura) != 16)
         throw std::runtime_error("area " + std::to_string(Area(figura)) + " instead of 16");
-    Modelo mejor{figura.nombre, {}};
+    Plan mejor;
     i32 menor = INT_MAX;
     int vistos = 0;
-    Reparte(figura, [&](const Reparto& r) {
-        Reparto ajustado = r;
+    Reparte(figura, [&](const Plan& plan) {
+        Reparto ajustado = EnPixeles(plan);
         const i32 peso = Ajusta(ajustado).Peso();
         if (peso < menor) {
             menor = peso;
-            mejor.reparto = ajustado;
+            mejor = plan;
+            reparto = ajustado;
         }
         return ++vistos < MAX_REPARTOS && peso > 0;
     });
     if (vistos == 0) throw std::runtime_error("the seven pieces do not fill it");
-    LlevaAlMargen(mejor.reparto);
-    const std::string reparo = Reparo(mejor.reparto);
-    if (!reparo.empty()) throw std::runtime_error(reparo);
     return mejor;
+}
+
+// Throws when it is no good.
+Modelo Construye(const Descripcion& figura) {
+    Modelo modelo{figura.nombre, {}, {}, 0};
+    Plan plan = figura.plan;
+    if (plan.empty()) {
+        plan = Rellena(figura, modelo.reparto);
+    } else {
+        modelo.reparto = EnPixeles(plan);
+        Ajusta(modelo.reparto);
+    }
+    modelo.figura = EnSuSitio(plan);
+    std::string reparo = ReparoExacto(modelo.figura);
+    if (!reparo.empty()) throw std::runtime_error(reparo);
+    LlevaAlMargen(modelo.reparto);
+    reparo = Reparo(modelo.reparto);
+    if (!reparo.empty()) throw std::runtime_error(reparo);
+    modelo.dadas = PiezasDadas(modelo.figura);
+    if (modelo.dadas != figura.dadas)
+        throw std::runtime_error("gives away " + std::to_string(modelo.dadas));
+    return modelo;
 }
 
 void CompruebaNombre(const std::string& nombre, std::set<std::string>& usados) {
@@ -77,20 +103,64 @@ void CompruebaNombre(const std::string& nombre, std::set<std::string>& usados) {
     if (!usados.insert(nombre).second) throw std::runtime_error("name used twice");
 }
 
+// Two figures may be the same only when one stands in a pair that makes a paradox.
+bool EsParadoja(const Modelo& m) {
+    return m.nombre.starts_with("Paradoja");
+}
+
 // Every figure that is good; the number of those that are not is added to `malas`.
 std::vector<Modelo> ConstruyeTodas(const std::vector<Descripcion>& figuras, int& malas) {
     std::vector<Modelo> modelos;
+    std::vector<Semejanza> semejanzas;
     std::set<std::string> usados;
     for (const Descripcion& figura : figuras) {
         try {
             CompruebaNombre(figura.nombre, usados);
-            modelos.push_back(Construye(figura));
+            const Modelo m = Construye(figura);
+            const Semejanza s(m.figura);
+            for (std::size_t i = 0; i < modelos.size(); ++i)
+                if (s.Igual(semejanzas[i]) && !EsParadoja(m) && !EsParadoja(modelos[i]))
+                    throw std::runtime_error("the same figure as " + modelos[i].nombre);
+            modelos.push_back(m);
+            semejanzas.push_back(s);
         } catch (const std::runtime_error& e) {
             std::cerr << figura.origen << ": " << figura.nombre << ": " << e.what() << "\n";
             ++malas;
         }
     }
     return modelos;
+}
+
+// Letters as a Spanish list sorts them: marks and case aside, the n with tilde after the n.
+std::string ClaveDeOrden(const std::string& texto) {
+    static const std::map<std::string, std::string, std::less<>> MARCAS = {
+        {"á", "a"}, {"é", "e"}, {"í", "i"}, {"ó", "o"}, {"ú", "u"}, {"ü", "u"}, {"ñ", "n~"},
+        {"Á", "a"}, {"É", "e"}, {"Í", "i"}, {"Ó", "o"}, {"Ú", "u"}, {"Ñ", "n~"}};
+    std::string clave;
+    for (std::size_t i = 0; i < texto.size();) {
+        const auto marca = MARCAS.find(std::string_view(texto).substr(i, 2));
+        if (marca != MARCAS.end()) {
+            clave += marca->second;
+            i += 2;
+        } else {
+            const char c = texto[i++];
+            clave += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        }
+    }
+    return clave;
+}
+
+// By the first word of the title, and within one from easy to hard: what gives away the most pieces
+// first, of equals what has the most corners. The two of a paradox stay together.
+void Ordena(std::vector<Modelo>& modelos) {
+    const auto clave = [](const Modelo& m) {
+        const std::string nombre = ClaveDeOrden(m.nombre);
+        const bool junta = EsParadoja(m);
+        return std::tuple(nombre.substr(0, nombre.find(' ')), junta ? 0 : -m.dadas,
+                          junta ? 0 : -Esquinas(m.figura), nombre);
+    };
+    std::sort(modelos.begin(), modelos.end(),
+              [&](const Modelo& a, const Modelo& b) { return clave(a) < clave(b); });
 }
 
 // Lays the pieces on the table and stores them as a player would.
@@ -105,24 +175,6 @@ void Guarda(const Modelo& modelo) {
     GuardaModelo(modelo.nombre);
 }
 
-void Dibuja(const Modelo& modelo, const fs::path& carpeta, int numero) {
-    const Sombra s = PintaSombra(modelo.reparto);
-    char orden[16];
-    std::snprintf(orden, sizeof orden, "%03d ", numero);
-    std::ofstream salida(carpeta / (orden + modelo.nombre + ".pgm"), std::ios::binary);
-    salida << "P5\n" << s.ancho << " " << s.alto << "\n255\n";
-    for (const u8 p : s.pixeles) salida.put(static_cast<char>(p != 0 ? 40 : 255));
-}
-
-void PreparaTablas() {
-    Gbl.JuegoActual = JuegoTangram;
-    Gbl.ModoJuego = MODO_CREAR;
-    Gbl.AnchoPantalla = 800;
-    Gbl.AltoPantalla = 600;
-    CalculaTamanos();
-    Gbl.Piezas.Redimensiona(Gbl.NumPiezas);
-}
-
 int Ejecuta(int argc, char** argv) {
     if (argc < 3) {
         std::cerr << "usage: tessario_modelos <descriptions> <model file> [pictures]\n";
@@ -130,11 +182,16 @@ int Ejecuta(int argc, char** argv) {
     }
     PreparaTablas();
     int malas = 0;
-    const auto modelos = ConstruyeTodas(LeeCarpeta(argv[1]), malas);
+    auto modelos = ConstruyeTodas(LeeCarpeta(argv[1]), malas);
+    Ordena(modelos);
     if (argc > 3) {
         fs::create_directories(argv[3]);
         int numero = 0;
-        for (const Modelo& m : modelos) Dibuja(m, argv[3], ++numero);
+        for (const Modelo& m : modelos) {
+            char orden[16];
+            std::snprintf(orden, sizeof orden, "%03d ", ++numero);
+            Dibuja(m.reparto, fs::path(argv[3]) / (orden + m.nombre + ".pgm"));
+        }
     }
     std::cout << modelos.size() << " models, " << malas << " refused\n";
     if (malas != 0) return 1;

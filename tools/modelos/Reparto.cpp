@@ -8,6 +8,7 @@
 #include <optional>
 #include <tuple>
 
+#include "Exacto.h"
 #include "core/PuzzGbl.h"
 #include "pieces/Formas.h"
 
@@ -25,10 +26,6 @@ constexpr std::array<std::size_t, PIEZAS + 1> CUARTOS = {0, 8, 8, 4, 2, 2, 4, 4}
 struct Postura {
     i16 pieza = 0, giro = 0, volteo = 0;
     std::vector<Cuarto> cuartos;
-};
-
-struct Vertice {
-    double x = 0, y = 0;
 };
 
 std::optional<i32> EnRejilla(i32 pixeles, i32 lado) {
@@ -96,11 +93,11 @@ using Clave = std::tuple<std::size_t, i32, i32, i32>;  // silhouette, x, y, quar
 // The search: the first free quarter must be covered by some piece, in some way.
 class Buscador {
 public:
-    Buscador(const Descripcion& figura, const std::function<bool(const Reparto&)>& visita)
+    Buscador(const Descripcion& figura, const std::function<bool(const Plan&)>& visita)
         : figura_(figura), visita_(visita) {
         for (std::size_t s = 0; s < figura.siluetas.size(); ++s)
             for (const Cuarto& c : figura.siluetas[s].cuartos) libre_[{s, c.x, c.y, c.lado}] = true;
-        reparto_.resize(PIEZAS);
+        plan_.resize(PIEZAS);
     }
 
     bool Busca() {
@@ -108,7 +105,7 @@ public:
             std::find_if(libre_.begin(), libre_.end(), [](const auto& par) { return par.second; });
         if (primero == libre_.end())
             return !std::all_of(usada_.begin() + 1, usada_.end(), [](bool b) { return b; }) ||
-                   visita_(reparto_);
+                   visita_(plan_);
         const auto [s, x, y, lado] = primero->first;
         for (const Postura& p : posturas_[figura_.siluetas[s].girada])
             for (const Cuarto& c : p.cuartos)
@@ -124,8 +121,11 @@ private:
         if ((n == 2 || n == 5) && !usada_[n - 1]) return true;  // twins in order
         const Silueta& silueta = figura_.siluetas[s];
         Marca(p, s, dx, dy, false);
-        reparto_[n - 1] = {p.pieza, p.giro, p.volteo, silueta.izq + dx * silueta.Lado(),
-                           silueta.arr + dy * silueta.Lado()};
+        plan_[n - 1] = {
+            p.pieza,
+            p.giro,
+            p.volteo,
+            {silueta.esquina.x + silueta.Celdas(dx), silueta.esquina.y + silueta.Celdas(dy)}};
         const bool sigue = Busca();
         Marca(p, s, dx, dy, true);
         return sigue;
@@ -144,11 +144,11 @@ private:
     }
 
     const Descripcion& figura_;
-    const std::function<bool(const Reparto&)>& visita_;
+    const std::function<bool(const Plan&)>& visita_;
     const std::array<std::vector<Postura>, 2> posturas_ = {PosturasDe(false), PosturasDe(true)};
     std::map<Clave, bool> libre_;
     std::array<bool, PIEZAS + 1> usada_{};
-    Reparto reparto_;
+    Plan plan_;
 };
 
 }  // namespace
@@ -160,7 +160,7 @@ double Area(const Descripcion& figura) {
     return area;
 }
 
-void Reparte(const Descripcion& figura, const std::function<bool(const Reparto&)>& visita) {
+void Reparte(const Descripcion& figura, const std::function<bool(const Plan&)>& visita) {
     Buscador(figura, visita).Busca();
 }
 
