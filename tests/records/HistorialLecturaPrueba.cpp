@@ -119,6 +119,13 @@ TEST_F(LecturaHistorial, DamagedLinesLoseNothingOfTheOthers) {
     EXPECT_EQ(R(5).Segundos, 3723) << "the last line has no end";
 }
 
+TEST_F(LecturaHistorial, LineWithoutAGameIsNoRecord) {
+    RegistroHistorico r;
+    for (const char* linea : {"", "\"d\",\"h\"", "\"d\",\"h\",x,\"a\"", "\"d\",\"h\",99999"})
+        EXPECT_FALSE(LeeLineaHistorico(linea, r)) << linea;
+    EXPECT_TRUE(LeeLineaHistorico("\"d\",\"h\",21", r));
+}
+
 TEST_F(LecturaHistorial, NumbersInQuotesAndWithAForeignSeparatorAreNumbers) {
     RegistroHistorico r;
     ASSERT_TRUE(

@@ -227,6 +227,22 @@ TEST_F(VentanaCargua, LoadOnAScrolledTableBeginsAtItsOrigin) {
     EXPECT_FALSE(BarraVer.Visible);
 }
 
+TEST_F(VentanaCargua, LoadOfAnotherJigsawBeginsAtItsOriginToo) {
+    Gbl.RutaImagen = PonImagen("lago.bmp", 900, 700);
+    Moviles(4, 900, 700);
+    Guarda("lago.puz");
+    BarraHor.Pon(40);
+    BarraVer.Pon(60);
+    ASSERT_EQ(Pic_Trabajo.Top, -60);
+    Abre(1, [&] { DobleClic(0); });
+    EXPECT_TRUE(P().avisos.empty());
+    EXPECT_TRUE(BarraVer.Visible);
+    EXPECT_EQ(BarraHor.Value, 0);
+    EXPECT_EQ(BarraVer.Value, 0);
+    EXPECT_EQ(Pic_Trabajo.Left, 0);
+    EXPECT_EQ(Pic_Trabajo.Top, 0);
+}
+
 TEST_F(VentanaCargua, FileThatVanishedMeanwhileGoesTheWayOfEveryGameFile) {
     Deslizantes(3);
     Guarda("se va.puz");
