@@ -11,6 +11,7 @@ namespace {
 constexpr std::string_view TITULO_MODO = "Cambio de resolución de pantalla";
 constexpr std::string_view TITULO_HISTORICO = "Histórico de puzzles resueltos";
 constexpr std::string_view TITULO_LECTURA = "Error leyendo el fichero histórico";
+constexpr std::string_view TITULO_IMAGEN = "Imagen no válida";
 constexpr std::string_view TITULO_CARGA = "Error en la carga de datos iniciales";
 }  // namespace
 
@@ -58,7 +59,7 @@ const Aviso SIN_AJUSTES{
 const Aviso ERROR_CONFIGURACION{TITULO_CARGA, "IDC ERROR %1", 3, 1, 0, {"75"}};
 const Aviso ERROR_AJUSTES{TITULO_CARGA, "CID ERROR %1", 3, 1, 0, {"75"}};
 
-const Aviso IMAGEN_NO_VALIDA{"Imagen no válida",
+const Aviso IMAGEN_NO_VALIDA{TITULO_IMAGEN,
                              "El  tamaño  de  la  imagen   que   está  intentando  cargar\r\n"
                              "( %1 x %2 pixels )  no está dentro de los límites permitidos:\r\n"
                              "\r\n"
@@ -68,11 +69,85 @@ const Aviso IMAGEN_NO_VALIDA{"Imagen no válida",
                              1,
                              2115,
                              {"1100", "770"}};
-const Aviso SIN_IMAGENES{
-    "Imagen del puzzle",
-    "No se ha encontrado en la carpeta  Imagenes  ninguna imagen que sirva de fondo para el "
-    "puzzle.  Se va a mostrar una imagen vacía.",
-    3, 1, 2115};
+const Aviso IMAGEN_RECHAZADA{TITULO_IMAGEN,
+                             "La  imagen  que  acaba  de  seleccionar  ( %1 x %2 pixels)\r\n"
+                             "no puede ser utilizada en Tessario.  Aunque se le aplique el máximo  "
+                             " valor   del   Zoom   no  "
+                             "entra  dentro  de  los  límites permitidos:\r\n"
+                             "\r\n"
+                             "                 Entre  320  y  1.024  pixels de ancho.\r\n"
+                             "                 Entre  240  y  768  pixels de alto.\r\n"
+                             "\r\n"
+                             "Seleccione otra imagen que sirva de fondo para el puzzle.",
+                             9,
+                             1,
+                             2115,
+                             {"2000", "700"}};
+const Aviso IMAGEN_ADAPTADA{"Imagen fuera de límites",
+                            "El   tamaño   de   la   imagen   que   acaba  de   seleccionar\r\n"
+                            " ( %1 x %2 pixels ) no está dentro de los límites permitidos:\r\n"
+                            "\r\n"
+                            "                 Entre  320  y  1.024  pixels de ancho.\r\n"
+                            "                 Entre  240  y  768  pixels de alto.\r\n"
+                            "\r\n"
+                            "Se ha modificado el Zoom para adaptar la imagen a dichos límites.",
+                            8,
+                            1,
+                            2115,
+                            {"2000", "1000"}};
+const Aviso ZOOM_EXCESIVO{"Imagen fuera de límites",
+                          "Si  se  aplica este zoom  a  la  imagen  que  ha  seleccionado\r\n"
+                          "se superan los límites permitidos:\r\n"
+                          "\r\n"
+                          "                 Entre  320  y  1.024  pixels de ancho\r\n"
+                          "                 Entre  240  y  768  pixels de alto",
+                          6, 1, 2115};
+const Aviso NO_ES_IMAGEN{TITULO_IMAGEN,
+                         "Lo que ha soltado o pegado no es una imagen que pueda servir de fondo "
+                         "para el puzzle.",
+                         2, 1, 2115};
+const Aviso IMAGEN_SIN_USO{TITULO_IMAGEN,
+                           "El juego actual no utiliza imágenes.  Para usar ésta como fondo del "
+                           "puzzle,  elija antes otro juego.",
+                           2, 1, 2112};
+const Aviso IMAGEN_SIN_GUARDAR{TITULO_IMAGEN,
+                               "No se ha podido guardar la imagen en el disco,  por lo que no se "
+                               "puede utilizar.",
+                               2, 1, 2115};
+
+const Aviso CAMBIO_JUEGO{
+    "Lista 'JUEGO ACTUAL'",
+    "Cuando se modifica  el  valor  de esta lista,  finaliza  el  juego actual  y  se  inicia la "
+    "modalidad de juego  seleccionada.  Si pulsa  el botón Aceptar comenzará el nuevo juego.  Si "
+    "pulsa el botón Cancelar no se modificará ningún valor y continuará el juego actual.",
+    5, 2, 2112};
+const Aviso CAMBIO_PARAMETROS{
+    "Parámetros del puzzle",
+    "Ha modificado algún parámetro  que  afecta  a  la resolución del  puzzle actual,  por lo  que "
+    " "
+    "finalizará  y  se  barajarán  las piezas. Pulse el botón  Aceptar  para comenzar nuevamente "
+    "el puzzle. Si pulsa el botón Cancelar no se modificará ningún parámetro y podrá continuar "
+    "resolviendo el puzzle actual.",
+    5, 2, 0};
+const Aviso CAMBIO_MODELO{
+    "Nuevo modelo de Tangram",
+    "Ha cambiado el modelo de Tangram, por lo que finalizará la resolución  del  modelo actual  y  "
+    "se  barajarán las piezas.  Si pulsa el botón Aceptar comenzará el nuevo modelo. Si pulsa el "
+    "botón Cancelar no se modificará ningún parámetro y podrá continuar resolviendo el puzzle "
+    "actual.",
+    5, 2, 2117};
+const Aviso BORRA_MODELO{
+    "Borrar modelo de Tangram",
+    "Va a borrar el modelo de Tangram con el nombre:\r\n"
+    "\r\n"
+    "%1\r\n"
+    "\r\n"
+    "Pulse el botón   Aceptar   para borrar este modelo.   Si pulsa el botón  Cancelar  no se "
+    "borrará ninguno.",
+    6,
+    2,
+    4010,
+    {"Barco de vela con bandera"}};
 
 const Aviso IMAGEN_PERDIDA{
     "Imagen del puzzle",
@@ -152,7 +227,16 @@ std::span<const Aviso* const> Avisos() {
                                              &aviso::ERROR_CONFIGURACION,
                                              &aviso::ERROR_AJUSTES,
                                              &aviso::IMAGEN_NO_VALIDA,
-                                             &aviso::SIN_IMAGENES,
+                                             &aviso::IMAGEN_RECHAZADA,
+                                             &aviso::IMAGEN_ADAPTADA,
+                                             &aviso::ZOOM_EXCESIVO,
+                                             &aviso::NO_ES_IMAGEN,
+                                             &aviso::IMAGEN_SIN_USO,
+                                             &aviso::IMAGEN_SIN_GUARDAR,
+                                             &aviso::CAMBIO_JUEGO,
+                                             &aviso::CAMBIO_PARAMETROS,
+                                             &aviso::CAMBIO_MODELO,
+                                             &aviso::BORRA_MODELO,
                                              &aviso::IMAGEN_PERDIDA,
                                              &aviso::SIN_SOLUCION,
                                              &aviso::YA_RESUELTO,

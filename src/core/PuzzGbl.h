@@ -9,6 +9,7 @@
 
 #include "core/Numeros.h"
 #include "platform/Region.h"
+#include "platform/Superficie.h"
 #include "platform/Tipos.h"
 
 namespace tessario {
@@ -295,6 +296,37 @@ struct DatosCargua {
     Booleano AvisoExiste;      // the player was told that this name is taken
 };
 
+// ---------------------------------------------------------------- settings window
+// A puzzle and its settings as they stood when the window opened: what changes are told by, and
+// what a cancelled change goes back to.
+struct FotoPartida : DatosJuego, DatosAjustes, DatosColores, DatosTamanos, DatosPiezas, DatosRutas {
+    std::string NombrePuzzle;
+    Booleano MostrarMuestra, ImagenValida;
+};
+
+// A picture that the player brought from elsewhere and that is to become the puzzle's.
+struct ImagenTraida_ {
+    Imagen Dibujo;       // null: none waits
+    std::string Nombre;  // of the file to make from it, without folder and extension
+    std::string Ruta;    // of the file it came from; empty when it came from none
+    Booleano Unica;      // takes the place of the last one of its name
+};
+
+struct DatosPersonal {
+    FotoPartida AlEntrar;
+    // Guard flags: code, not the player, changes a control; no click sounds, no handler re-enters.
+    Booleano Cargando;           // the panels are being built
+    Booleano CargandoArchivo;    // a file of the list is being shown without a choice
+    Booleano CambiandoSelector;  // one of the game's switches
+    Booleano CambiandoModo;      // the list of models
+    Booleano RepintandoPiezas;   // the shapes
+    Booleano CambiandoForma;     // a shape that the picture forbids gives way
+    float ProporcionImagen = 0;  // width over height of the picture on show
+    std::string ImagenLeida;     // which file's picture Pic_FonTamReal holds: path, size, time
+    ImagenTraida_ ImagenTraida;
+    Booleano FactorCambiado;  // left with a restart and another FactorAtraccion
+};
+
 // ---------------------------------------------------------------- random numbers
 struct DatosAzar {
     u32 Azar[4] = {0x9E3779B9U, 0x243F6A88U, 0xB7E15162U, 0x1U};  // generator state
@@ -320,6 +352,7 @@ struct Bloque : DatosJuego,
                 DatosOrdenar,
                 DatosHistorico,
                 DatosCargua,
+                DatosPersonal,
                 DatosAzar {};
 
 extern Bloque Gbl;

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Superficie.h"
@@ -36,6 +37,7 @@ struct Control {
     std::string ToolTipText;
     std::string NombreAccesible;    // what a screen reader says; empty: the trimmed tooltip
     bool TabStop = false;           // reached with Tab; Space or Enter then presses it
+    bool Resalta = false;           // a picture that lights up under the pointer, as buttons do
     Control* Contenedor = nullptr;  // a picture box that holds it, or null: the window itself
 
     virtual i32 Width() const { return ancho_; }
@@ -163,7 +165,9 @@ struct Spin : Control {
 // The three lists through which a file is chosen. Their rows come from the file system each time
 // the path changes; the shell or the test reads them through the same routines.
 struct ListaUnidades : Control {
-    std::string Drive;
+    std::string Drive;  // path of the chosen place, with a trailing "/"
+    // Places that the game offers beside those of the machine: what the player reads, and the path.
+    std::vector<std::pair<std::string, std::string>> Propias;
     std::function<void()> Change;
 };
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <fstream>
 #include <string_view>
 
 #include "platform/Controles.h"
@@ -88,15 +89,46 @@ void Montajes(const std::string& base, int hondura, std::vector<Unidad>& salida)
     }
 }
 
+std::string ConBarra(std::string ruta) {
+    if (!ruta.empty() && ruta.back() != '/') ruta += '/';
+    return ruta;
+}
+
+// The player's own folder; empty when there is none.
+std::string CarpetaPersonal() {
+    const passwd* const yo = getpwuid(getuid());
+    return yo && yo->pw_dir && yo->pw_dir[0] == '/' ? ConBarra(yo->pw_dir) : std::string();
+}
+
+// Where the desktop keeps the player's pictures: what its own list of folders says, else one of the
+// usual names. Empty when there is none.
+std::string CarpetaDeFotos(const std::string& casa) {
+    constexpr std::string_view clave = "XDG_PICTURES_DIR=\"", hogar = "$HOME/";
+    std::vector<std::string> candidatas;
+    std::ifstream lista(casa + ".config/user-dirs.dirs");
+    for (std::string linea; std::getline(lista, linea);) {
+        if (!linea.starts_with(clave)) continue;
+        std::string ruta = linea.substr(clave.size(), linea.rfind('"') - clave.size());
+        if (ruta.starts_with(hogar)) ruta = casa + ruta.substr(hogar.size());
+        candidatas.push_back(ruta);
+    }
+    for (const char* nombre : {"Imágenes", "Pictures"}) candidatas.push_back(casa + nombre);
+    std::error_code e;
+    for (const std::string& ruta : candidatas)
+        if (ruta.starts_with('/') && fs::is_directory(ruta, e)) return ConBarra(ruta);
+    return {};
+}
+
 }  // namespace
 
 std::vector<Unidad> Unidades() {
-    std::vector<Unidad> u{{"Equipo ( / )", "/"}};
-    if (const passwd* yo = getpwuid(getuid()); yo && yo->pw_dir && yo->pw_dir[0] == '/') {
-        std::string casa = yo->pw_dir;
-        if (casa.back() != '/') casa += '/';
-        if (casa != "/") u.push_back({"Carpeta personal", casa});
+    std::vector<Unidad> u;
+    if (const std::string casa = CarpetaPersonal(); casa.size() > 1) {
+        u.push_back({"Personal", casa});
+        if (const std::string fotos = CarpetaDeFotos(casa); !fotos.empty() && fotos != casa)
+            u.push_back({"Imágenes", fotos});
     }
+    u.push_back({"Equipo ( / )", "/"});
     // The media that the desktop mounts lie one level below the player's name.
     Montajes("/media/", 2, u);
     Montajes("/run/media/", 2, u);

@@ -12,7 +12,7 @@ struct Unidad {
     std::string Ruta;    // with a trailing "/"
 };
 
-// The root, the player's own folder, and the media that are mounted.
+// The player's own folder, that of the player's pictures, the root, and the media that are mounted.
 std::vector<Unidad> Unidades();
 // Names of the folders in a folder, in text order without regard to case; hidden ones are left out.
 std::vector<std::string> CarpetasDe(const std::string& ruta);

@@ -215,9 +215,10 @@ bool VistaCarpetas::TeclaPropia(const QKeyEvent& e) {
 // --- Drives.
 
 VistaUnidades::VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre)
-    : Vista(c, v, padre), c_(c), caja_(new QComboBox(this)) {
+    : Vista(c, v, padre), c_(c), caja_(new CajaViva(this)) {
     PonInterior(caja_);
     caja_->setFont(FuenteQt(Fuente{}));
+    caja_->AntesDeAbrir = [this] { Llena(); };
     connect(caja_, &QComboBox::activated, this, [this](int fila) {
         QTimer::singleShot(0, this, [this, fila] {
             if (!Viva() || fila >= caja_->count()) return;
@@ -227,17 +228,24 @@ VistaUnidades::VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre)
     });
 }
 
+void VistaUnidades::Llena() {
+    const QSignalBlocker sin(caja_);
+    caja_->clear();
+    const auto pon = [this](const std::string& nombre, const std::string& ruta) {
+        if (caja_->findData(Qs(ruta)) >= 0) return;
+        caja_->addItem(Qs(nombre), Qs(ruta));
+        caja_->setItemData(caja_->count() - 1, Qs(ruta), Qt::ToolTipRole);
+    };
+    for (const auto& [nombre, ruta] : c_.Propias) pon(nombre, ruta);
+    for (const Unidad& u : Unidades()) pon(u.Nombre, u.Ruta);
+    if (!c_.Drive.empty()) pon(c_.Drive, c_.Drive);
+    caja_->setCurrentIndex(caja_->findData(Qs(c_.Drive)));
+}
+
 i32 VistaUnidades::SincronizaPropio() {
     if (visto_ == c_.Drive) return 0;
     visto_ = c_.Drive;
-    caja_->clear();
-    for (const Unidad& u : Unidades()) caja_->addItem(Qs(u.Nombre), Qs(u.Ruta));
-    int fila = caja_->findData(Qs(c_.Drive));
-    if (fila < 0 && !c_.Drive.empty()) {
-        caja_->addItem(Qs(c_.Drive), Qs(c_.Drive));
-        fila = caja_->count() - 1;
-    }
-    caja_->setCurrentIndex(fila);
+    Llena();
     return width() * height();
 }
 

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
+#include <functional>
 
 #include "qt/Vista.h"
 
@@ -106,6 +107,18 @@ private:
     std::vector<std::string> rutas_;  // one for each row
 };
 
+// A box whose rows are made anew each time that it opens: media come and go.
+class CajaViva : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+    std::function<void()> AntesDeAbrir;
+    void showPopup() override {
+        if (AntesDeAbrir) AntesDeAbrir();
+        QComboBox::showPopup();
+    }
+};
+
+// The places that the game offers, then those of the machine.
 class VistaUnidades : public Vista {
 public:
     VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre);
@@ -115,8 +128,9 @@ protected:
     QWidget* Interior() override { return caja_; }
 
 private:
+    void Llena();
     ListaUnidades& c_;
-    QComboBox* caja_;
+    CajaViva* caja_;
     std::string visto_ = "\1";
 };
 

@@ -25,6 +25,7 @@ constexpr int CIFRAS_ANCHO = 28;
 constexpr double ESFERA_INICIO = 225, ESFERA_BARRIDO = 270;  // degrees: 0 to 100 clockwise
 
 const Fuente ROTULO{Familia::Sans, 13, false, false};
+const Fuente ROTULO_MENUDO{Familia::Sans, 12, false, false};
 const Fuente CIFRAS{Familia::Sans, 13, true, false};
 
 // -1 or 1 for a key that steps a value down or up, 0 for any other.
@@ -54,6 +55,10 @@ i32 VistaMando::SincronizaPropio() {
     return width() * height();
 }
 
+bool VistaMando::Encima() const {
+    return control().Enabled && underMouse();
+}
+
 QColor VistaMando::Tinta() const {
     return control().Enabled ? COBALTO_OSCURO : APAGADO;
 }
@@ -61,12 +66,18 @@ QColor VistaMando::Tinta() const {
 QRect VistaMando::PintaRotulo(QPainter& p, QRect r, const std::string& texto,
                               Qt::Alignment a) const {
     Textos& textos = anfitrion().textos();
-    p.setFont(textos.Letra(ROTULO));
+    const QString entero = QString::fromStdString(texto);
+    const auto cabe = [&](const Fuente& f) {
+        return textos.Medida(f).horizontalAdvance(entero) <= r.width();
+    };
+    const Fuente& letra = !cabe(ROTULO) && cabe(ROTULO_MENUDO) ? ROTULO_MENUDO : ROTULO;
+    const bool dos = !cabe(letra) && r.height() >= 2 * RENGLON;
+    p.setFont(textos.Letra(letra));
     p.setPen(Tinta());
     const QString t =
-        textos.Medida(ROTULO).elidedText(QString::fromStdString(texto), Qt::ElideRight, r.width());
+        dos ? entero : textos.Medida(letra).elidedText(entero, Qt::ElideRight, r.width());
     QRect ocupa;
-    p.drawText(r, static_cast<int>(a) | Qt::TextSingleLine, t, &ocupa);
+    p.drawText(r, static_cast<int>(a) | (dos ? Qt::TextWordWrap : Qt::TextSingleLine), t, &ocupa);
     return ocupa;
 }
 
@@ -105,7 +116,7 @@ void VistaBuleano::paintEvent(QPaintEvent*) {
                       INTERRUPTOR_ALTO - 1);
     const QColor fondo = !b_.Enabled ? CREMA_OSCURA : b_.Value ? COBALTO : BARRO;
     p.setPen(QPen(b_.Enabled ? (b_.Value ? COBALTO_OSCURO : TERRACOTA_OSCURA) : APAGADO, 1));
-    p.setBrush(fondo);
+    p.setBrush(Encima() ? fondo.lighter(b_.Value ? 135 : 110) : fondo);
     p.drawRoundedRect(caja, caja.height() / 2, caja.height() / 2);
     const double d = caja.height() - 4;
     const double x = b_.Value ? caja.right() - d - 2 : caja.left() + 2;
@@ -174,8 +185,8 @@ void VistaSelector::paintEvent(QPaintEvent*) {
     Hueco(p, campo);
     const QRect menos(campo.left(), campo.top(), FLECHA, campo.height());
     const QRect mas(campo.right() - FLECHA + 1, campo.top(), FLECHA, campo.height());
-    Azulejo(p, menos, ESMALTE, hundido_ < 0);
-    Azulejo(p, mas, ESMALTE, hundido_ > 0);
+    Azulejo(p, menos, Esmalte(CREMA_OSCURA), hundido_ < 0);
+    Azulejo(p, mas, Esmalte(CREMA_OSCURA), hundido_ > 0);
     Flecha(p, menos, Rumbo::Izquierda, Tinta());
     Flecha(p, mas, Rumbo::Derecha, Tinta());
     const auto i = static_cast<std::size_t>(s_.Value - 1);
@@ -259,7 +270,8 @@ void VistaPotenciometro::PintaRegla(QPainter& p) const {
     p.fillRect(QRect(r.left() + 2, medio - 1, std::max(0, x - r.left() - 2), 3),
                k_.Enabled ? COBALTO : APAGADO);
     const int alto = std::min(r.height(), 16);
-    Azulejo(p, QRect(x - 4, medio - alto / 2, 9, alto), k_.Enabled ? TERRACOTA : BARRO, false);
+    Azulejo(p, QRect(x - 4, medio - alto / 2, 9, alto), k_.Enabled ? Esmalte(TERRACOTA) : BARRO,
+            false);
     p.setFont(anfitrion().textos().Letra(CIFRAS));
     p.setPen(Tinta());
     p.drawText(QRect(r.right() + 2, r.top(), CIFRAS_ANCHO, r.height()),
@@ -279,7 +291,7 @@ void VistaPotenciometro::PintaEsfera(QPainter& p) const {
     const QRectF pomo = arco.adjusted(grosor, grosor, -grosor, -grosor);
     QRadialGradient luz(pomo.center() - QPointF(pomo.width() / 6, pomo.height() / 5),
                         pomo.width() * 0.75);
-    const QColor barro = k_.Enabled ? TERRACOTA : BARRO;
+    const QColor barro = k_.Enabled ? Esmalte(TERRACOTA) : BARRO;
     luz.setColorAt(0, barro.lighter(135));
     luz.setColorAt(1, barro.darker(112));
     p.setPen(QPen(barro.darker(150), 1));
@@ -326,7 +338,14 @@ QRect VistaSpin::Boton(int cual) const {
 
 void VistaSpin::Avanza(int n) {
     const int v = std::clamp<int>(s_.Value + n * s_.Incremento, s_.Min, s_.Max);
-    if (v != s_.Value) anfitrion().Entrega([&] { s_.Pon(static_cast<i16>(v)); });
+    if (v == s_.Value) return;
+    // What the value does may open a window, under which nothing goes on counting.
+    const bool contaba = repite_.isActive();
+    repite_.stop();
+    anfitrion().Entrega([&] { s_.Pon(static_cast<i16>(v)); });
+    if (!Viva()) return;
+    anfitrion().RevisaPulsadas();
+    if (contaba && hundido_ && Viva()) repite_.start();
 }
 
 void VistaSpin::Paso(int n) {
@@ -371,7 +390,7 @@ void VistaSpin::paintEvent(QPaintEvent*) {
     p.setPen(Tinta());
     p.drawText(dentro, Qt::AlignRight | Qt::AlignVCenter, QString::number(s_.Value));
     for (const int cual : {-1, 1}) {
-        Azulejo(p, Boton(cual), ESMALTE, hundido_ == cual);
+        Azulejo(p, Boton(cual), Esmalte(CREMA_OSCURA), hundido_ == cual);
         const bool puede = s_.Enabled && (cual < 0 ? s_.Value > s_.Min : s_.Value < s_.Max);
         Flecha(p, Boton(cual), cual < 0 ? Rumbo::Abajo : Rumbo::Arriba, puede ? COBALTO : APAGADO);
     }

@@ -18,8 +18,14 @@ protected:
     virtual std::string Aspecto() const = 0;
     virtual QString Nombre() const = 0;
     void wheelEvent(QWheelEvent* e) override;
+    void enterEvent(QEnterEvent*) override { update(); }
+    void leaveEvent(QEvent*) override { update(); }
     virtual void Paso(int) {}
     QColor Tinta() const;
+    bool Encima() const;  // the pointer is over it, and it can be used
+    // The glaze of a part that the pointer is over.
+    QColor Esmalte(const QColor& color) const { return Encima() ? color.lighter(112) : color; }
+    // Smaller letters or a second line where the text needs them; the rest is left out.
     QRect PintaRotulo(QPainter& p, QRect r, const std::string& texto, Qt::Alignment a) const;
 
 private:

@@ -44,8 +44,30 @@ bool VistaCuadro::EsBoton() const {
     return !cuadro_.KeyPress && !cuadro_.KeyDown;
 }
 
+void VistaCuadro::RepintaSiResalta() {
+    if (cuadro_.Resalta) update();
+}
+void VistaCuadro::AlApretar(QPointF) {
+    hundido_ = true;
+    RepintaSiResalta();
+}
+void VistaCuadro::AlSoltar(QPointF) {
+    hundido_ = false;
+    RepintaSiResalta();
+}
+void VistaCuadro::enterEvent(QEnterEvent*) {
+    RepintaSiResalta();
+}
+void VistaCuadro::leaveEvent(QEvent*) {
+    RepintaSiResalta();
+}
+
 void VistaCuadro::paintEvent(QPaintEvent* e) {
     PintaSuperficie(*this, cuadro_, *e);
+    if (cuadro_.Resalta && cuadro_.Enabled && underMouse()) {
+        const QColor luz(255, 255, 255, 70), sombra(0, 0, 0, 40);
+        QPainter(this).fillRect(e->rect(), hundido_ ? sombra : luz);
+    }
     for (const QRect& r : e->region()) pintados_ += r.width() * r.height();
     if (AnilloVisible()) {
         QPainter p(this);

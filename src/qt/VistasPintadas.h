@@ -14,10 +14,16 @@ public:
 protected:
     i32 SincronizaPropio() override;
     bool EsBoton() const override;
+    void AlApretar(QPointF) override;
+    void AlSoltar(QPointF) override;
+    void enterEvent(QEnterEvent*) override;
+    void leaveEvent(QEvent*) override;
     void paintEvent(QPaintEvent* e) override;
 
 private:
+    void RepintaSiResalta();
     Cuadro& cuadro_;
+    bool hundido_ = false;
     long long pintados_ = 0;
 };
 

@@ -14,11 +14,11 @@
 #include "records/Texto.h"
 #include "rules/Colores.h"
 #include "rules/Despacho.h"
-#include "rules/PuzzBas.h"
-#include "session/CopiaSeguridad.h"
 #include "rules/Juego.h"
+#include "rules/PuzzBas.h"
 #include "session/Ampliacion.h"
-#include "session/ImagenProvisional.h"
+#include "session/Apertura.h"
+#include "session/CopiaSeguridad.h"
 #include "session/Montaje.h"
 
 namespace tessario {
@@ -110,12 +110,19 @@ void AjustesPorDefecto() {
     Gbl.PiezasPorCelda = 1;
 }
 
+// A game made from a picture has none yet, nor a puzzle: the player sets it up in the window. The
+// others are dealt at once; such a puzzle never enters the history, though its deal says it may.
 void MesaPorDefecto() {
     if (JuegoEnCurso().Imagen == UsoDeImagen::Necesario) {
         Gbl.UnidadImagen = Left(Gbl.CarpetaPrograma, 2);
         Gbl.CarpetaImagen = Gbl.CarpetaImagenes;
+        Gbl.FicheroImagen.clear();
+        Gbl.RutaImagen = " ";
+        Gbl.ImagenValida = false;
+        Gbl.Piezas.Redimensiona(Gbl.NumPiezas);
+        Gbl.OrdenPiezas.Redimensiona(Gbl.NumPiezas);
         VaciaImagen();
-        Llama([] { EligeImagenProvisional(); });
+        Llama([] { AbrePersonal(); });
         return;
     }
     // A path that leads nowhere, kept, would bring the defaults again at every start.
@@ -123,6 +130,8 @@ void MesaPorDefecto() {
     Gbl.FicheroImagen.clear();
     Llama([] { PreparaJuego(true); });
     Llama([] { ColocaPiezas(1); });
+    Gbl.ImagenValida = true;
+    Gbl.PuzzleArchivable = false;
 }
 
 }  // namespace
@@ -162,24 +171,25 @@ void LeeAjustesJuego(const std::string& Fichero) {
     // a change of game that has been saved already.
     const std::string anterior = propio ? std::string() : RecordParaCopia();
     std::string bytes;
-    if (const i16 error = LeeFichero(Fichero, bytes))
+    // Kept here: a record can open the settings, and those another game's file.
+    const i16 error = LeeFichero(Fichero, bytes);
+    if (error != 0)
         AvisaApertura(error, aviso::SIN_AJUSTES, aviso::ERROR_AJUSTES, Fichero);
     else
         Sigue([&] { LeePuzzle(bytes); });
     Gbl.MovidoSinCopia = false;  // what lies on the table now is in a file, or about to be
-    if (Gbl.ErrorApertura == 0 && ErrorPendiente() == 0) {
+    if (error == 0 && ErrorPendiente() == 0) {
         if (!Gbl.SoloLeerAjustes) Sigue([] { TraeLoInalcanzable(); });
         return;
     }
 
-    if (Gbl.ErrorApertura == 0) AvisaImagenPerdida(ErrorPendiente());
+    if (error == 0) AvisaImagenPerdida(ErrorPendiente());
     // A damaged file of a game is replaced by that game's defaults, whatever game it names.
     if (propio) Gbl.JuegoActual = juego;
     GuardaCopia(anterior);
     BorraError();
     AjustesPorDefecto();
     MesaPorDefecto();
-    Gbl.PuzzleArchivable = false;  // once more: dealing begins a puzzle that could be kept
     GuardaAjustesJuego();
     BorraError();
 }

@@ -23,7 +23,7 @@
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
 #include "session/Ampliacion.h"
-#include "session/ImagenProvisional.h"
+#include "session/Apertura.h"
 #include "session/Reparacion.h"
 
 namespace tessario {
@@ -81,7 +81,7 @@ void RechazaImagen(const Punto& t) {
     VaciaImagen();
     Gbl.ZoomImagen = 100;
     Gbl.ImagenValida = false;
-    Llama([] { EligeImagenProvisional(); });
+    Llama([] { AbrePersonal(); });
 }
 
 // ---------------------------------------------------------------- the table
@@ -239,6 +239,33 @@ void CargaPuzzle(const std::string& Ruta) {
     if (LeeFichero(Ruta, bytes) != 0) return;
     LeePuzzle(bytes);
     Gbl.CargaCorrecta = true;
+}
+
+void CargaAjustes(const std::string& Ruta) {
+    // What a record holds beside the settings. In the file some of it is cut to its columns.
+    const DatosPiezas piezas = Gbl;
+    const DatosGrabadora grabadora = Gbl;
+    const DatosTamanos tamanos = Gbl;
+    const i32 segundos = Gbl.SegundosJuego;
+    const float dificultad = Gbl.Dificultad;
+    const Booleano terminado = Gbl.PuzzleTerminado, archivable = Gbl.PuzzleArchivable;
+    const i16 pendiente = ErrorPendiente();
+
+    BorraError();
+    Gbl.SoloLeerAjustes = true;
+    Sigue([&] { CargaPuzzle(Ruta); });
+    Gbl.SoloLeerAjustes = false;
+    if (ErrorPendiente() != 0) Gbl.CargaCorrecta = false;
+    PonErrorPendiente(pendiente);
+
+    static_cast<DatosPiezas&>(Gbl) = piezas;
+    static_cast<DatosGrabadora&>(Gbl) = grabadora;
+    static_cast<DatosTamanos&>(Gbl) = tamanos;
+    Gbl.SegundosJuego = segundos;
+    Gbl.Dificultad = dificultad;
+    Gbl.PuzzleTerminado = terminado;
+    Gbl.PuzzleArchivable = archivable;
+    CalculaTamanos();
 }
 
 }  // namespace tessario

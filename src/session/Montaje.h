@@ -15,5 +15,8 @@ void LeePuzzle(const std::string& bytes);
 i16 GuardaPuzzle(const std::string& Ruta);
 // Reads a record; CargaCorrecta says whether it could be opened.
 void CargaPuzzle(const std::string& Ruta);
+// The settings of a record, and nothing of the puzzle on the table; the sizes follow. CargaCorrecta
+// says whether the record was there and whole.
+void CargaAjustes(const std::string& Ruta);
 
 }  // namespace tessario

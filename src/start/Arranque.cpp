@@ -19,6 +19,8 @@
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "settings/Mandos.h"
+#include "settings/Personal.h"
 #include "start/Juegos.h"
 #include "table/Mesa.h"
 #include "table/Ordenes.h"
@@ -178,6 +180,8 @@ void CargaMesa() {
     ConectaMesa();
     CargaVentanas();
     SalidaDelPrograma = TerminaPrograma;
+    ConectaPersonal();
+    VentanasOrdenes.Personal = &Personal;
     if (Mesa.Load) Mesa.Load();
     Gbl.ResolviendoPuzzle = false;
 }

@@ -12,6 +12,7 @@
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "session/CopiaSeguridad.h"
+#include "session/Traidos.h"
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
@@ -22,8 +23,9 @@ namespace tessario {
 namespace {
 
 constexpr i32 INTERVALO_TIC = 1000;  // ms
-constexpr i16 BOTON_SALIR = 7;
+constexpr i16 BOTON_PERSONALIZAR = 2, BOTON_SALIR = 7;
 constexpr i16 TECLA_MENU = 93, TECLA_F10 = 121, SHIFT_SOLO = 1;
+constexpr i16 TECLA_PEGAR = 'V', CON_CONTROL = 2;
 constexpr i32 SUGERENCIA_ANCHO = 423, SUGERENCIA_ALTO = 64;
 
 // The work that a request waited for may have left it forbidden; a piece that came into hand since
@@ -204,6 +206,12 @@ void ConectaTira() {
     Pic_Grabadora.MouseMove = Raton(Pic_Grabadora_MouseMove);
 }
 
+// A picture brought to the table is one for the settings to take; `toma` tells whether it is one.
+void LlevaAPersonal(const std::function<bool()>& toma) {
+    if (Gbl.Barajando || OrdenProhibida(BOTON_PERSONALIZAR) || !toma()) return;
+    Pulsa(Pic_Boton(BOTON_PERSONALIZAR));
+}
+
 void ConectaVentana() {
     Mesa.PantallaCompleta = true;
     Mesa.Caption = "TESSARIO  3.3";
@@ -215,6 +223,11 @@ void ConectaVentana() {
     Mesa.KeyDown = [](i16 KeyCode, i16 Shift) {
         const bool menu = KeyCode == TECLA_MENU || (KeyCode == TECLA_F10 && Shift == SHIFT_SOLO);
         if (menu && !DentroDeTarea()) Atiende(AbreOpcionesConTeclado);
+        if (KeyCode == TECLA_PEGAR && (Shift & CON_CONTROL) && !DentroDeTarea())
+            Atiende([] { LlevaAPersonal(TomaPegado); });
+    };
+    Mesa.DragDrop = [](const Traido& traido) {
+        if (!DentroDeTarea()) Atiende([&] { LlevaAPersonal([&] { return TomaTraido(traido); }); });
     };
     // Closing the window from outside asks like the exit button does; when the answer is yes, that
     // has closed the window already.

@@ -73,6 +73,7 @@ void RehaceMesa() {
         GuardaCopia(Gbl.RecordEnAjustes);
         PreparaJuego(true);
         if (JuegoEnCurso().BarajaJugando) ColocaPiezas(1);
+        if (Gbl.FactorCambiado) Gbl.PuzzleArchivable = false;
     } else if (Gbl.ColoresCambiados) {
         Reloj();
         PreparaJuego(false);
@@ -93,9 +94,11 @@ void Personaliza() {
     ConRelojParado([] {
         Gbl.ParametrosCambiados = false;
         Gbl.ColoresCambiados = false;
+        Gbl.FactorCambiado = false;
         MuestraSiExiste(VentanasOrdenes.Personal);
         Sistema().Presenta();
         Sigue([] { Gbl.JuegoActual == Gbl.JuegoAlEntrar ? RehaceMesa() : CambiaDeJuego(); });
+        Gbl.ColoresCambiados = false;  // a record that is loaded later lays its pieces
         Gbl.RecordEnAjustes.clear();
         PunteroNormal();
     });

@@ -86,9 +86,13 @@ void PlataformaPrueba::MuestraModal(Ventana& v) {
     mostradas.push_back(v.Nombre);
     v.Abierta = true;
     if (v.Load) v.Load();
+    if (v.Abierta && v.Activate) v.Activate();
     const auto accion = ventanas.find(v.Nombre);
     if (accion != ventanas.end()) {
         accion->second(v);
+    } else if (v.QueryUnload) {
+        bool cancela = false;  // the player closes it from outside
+        v.QueryUnload(cancela);
     } else if (&v == &Mensajes) {
         bool si = Gbl.BotonesMensaje == 1;
         if (Gbl.BotonesMensaje != 1 && !respuestas.empty()) {

@@ -230,12 +230,12 @@ TEST_F(VentanasNucleo, ValuesStandInTheirPlaces) {
 }
 
 TEST_F(VentanasNucleo, EveryFixedMessageHasItsWords) {
-    EXPECT_EQ(Avisos().size(), 27U);
+    EXPECT_EQ(Avisos().size(), 36U);
     for (const Aviso* a : Avisos()) {
         EXPECT_FALSE(a->titulo.empty());
         EXPECT_FALSE(a->texto.empty());
         EXPECT_GE(a->modo, 1);
-        EXPECT_LE(a->modo, 6);
+        EXPECT_LE(a->modo, 9);
         const std::string texto = TextoDe(*a, {a->muestra[0], a->muestra[1]});
         EXPECT_EQ(texto.find('%'), std::string::npos) << texto;
     }

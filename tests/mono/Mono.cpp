@@ -120,7 +120,7 @@ private:
         Gbl.VentanaInformacion = Una(2);
         p_->ventanas["Mensajes"] = [this](Ventana&) { Contesta(); };
         p_->ventanas["Personal"] = [this](Ventana&) { Personaliza(); };
-        if (!VentanasOrdenes.Personal) VentanasOrdenes.Personal = &personal_;
+        VentanasOrdenes.Personal = &personal_;
         p_->alDejarPasar = [this] { EventoDentro(); };
         Varia();
     }

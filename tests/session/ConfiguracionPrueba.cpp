@@ -8,7 +8,6 @@
 #include "records/Texto.h"
 #include "rules/Colores.h"
 #include "session/Configuracion.h"
-#include "session/ImagenProvisional.h"
 #include "session/Montaje.h"
 
 namespace tessario {
@@ -227,23 +226,27 @@ TEST_F(Ajustes, MissingFileOfTheTangramDealsADesign) {
     EXPECT_EQ(ErrorPendiente(), 0);
 }
 
-TEST_F(Ajustes, MissingFileOfTheJigsawLetsAPictureBeChosen) {
-    PonImagen("b.JPG", 640, 480);
-    PonImagen("a.txt", 640, 480);
-    PonImagen("C.bmp", 320, 240);
+TEST_F(Ajustes, MissingFileOfTheJigsawPressesTheSettingsButton) {
+    int pulsado = 0;
+    Pic_Boton(2).MouseDown = [&](i16, i16, float, float) {
+        ++pulsado;
+        EXPECT_EQ(Gbl.RutaImagen, " ");
+        EXPECT_EQ(Gbl.CarpetaImagen, Gbl.CarpetaImagenes);
+        EXPECT_EQ(Gbl.UnidadImagen, P().carpeta.substr(0, 2));
+        EXPECT_EQ(Pic_FonTamModi.Width(), 320);
+        EXPECT_EQ(Pic_FonTamModi.Height(), 240);
+        EXPECT_FALSE(Gbl.ImagenValida);
+        EXPECT_FALSE(Gbl.PuzzleArchivable);
+        EXPECT_FALSE(fs::exists(P().carpeta + "TsR2133.ini"));
+        Gbl.PuzzleArchivable = true;  // the player has set a puzzle up
+    };
     LeeAjustesJuego(FicheroDelJuego());
     ASSERT_EQ(P().avisos.size(), 1U);
-    EXPECT_EQ(Gbl.FicheroImagen, "b.JPG");
-    EXPECT_EQ(Gbl.RutaImagen, Gbl.CarpetaImagenes + "b.JPG");
-    EXPECT_EQ(Gbl.CarpetaImagen, Gbl.CarpetaImagenes);
-    EXPECT_EQ(Gbl.UnidadImagen, P().carpeta.substr(0, 2));
+    EXPECT_EQ(pulsado, 1);
     EXPECT_EQ(Gbl.NumPiezas, 25);
     EXPECT_TRUE(Gbl.MostrarMuestra);
-    EXPECT_FALSE(Gbl.PuzzleArchivable);
+    EXPECT_TRUE(Gbl.PuzzleArchivable);
     EXPECT_TRUE(fs::exists(P().carpeta + "TsR2133.ini"));
-    P().avisos.clear();
-    LeeAjustesJuego(FicheroDelJuego());
-    EXPECT_TRUE(P().avisos.empty());
     EXPECT_EQ(ErrorPendiente(), 0);
 }
 
@@ -288,46 +291,6 @@ TEST_F(Ajustes, SavedPuzzleBringsItsOwnGame) {
     LeeAjustesJuego(P().carpeta + "t.puz");
     EXPECT_EQ(Gbl.JuegoActual, 23);
     EXPECT_EQ(Gbl.NumPiezas, 7);
-}
-
-// ---------------------------------------------------------------- the provisional picture
-
-TEST_F(Ajustes, PicturesThatFailArePassedOver) {
-    PonImagen("a.bmp", 640, 480);
-    P().erroresImagen[Gbl.CarpetaImagenes + "a.bmp"] = 481;
-    PonImagen("b.bmp", 2000, 700);  // too wide only: refused
-    PonImagen("c.bmp", 100, 1000);  // no zoom fits it
-    PonImagen("D.emf", 160, 120);
-    EligeImagenProvisional();
-    EXPECT_EQ(Gbl.FicheroImagen, "D.emf");
-    EXPECT_EQ(Gbl.ZoomImagen, 205);
-    EXPECT_EQ(Gbl.AnchoImagen, 160);
-    EXPECT_EQ(Pic_FonTamModi.Width(), 328);
-    EXPECT_EQ(Pic_FonTamModi.Height(), 246);
-    EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(327, 245)), 0x0000FFU);
-    EXPECT_TRUE(Gbl.ImagenValida);
-    EXPECT_TRUE(P().avisos.empty());
-}
-
-TEST_F(Ajustes, LargePictureIsReduced) {
-    PonImagen("a.jpg", 2000, 1000);
-    EligeImagenProvisional();
-    EXPECT_EQ(Gbl.ZoomImagen, 50);
-    EXPECT_EQ(Gbl.AnchoPuzzle / Gbl.AnchoCelda, Gbl.PiezasPorLado);
-    EXPECT_GE(Gbl.AltoCelda, 25);
-    EXPECT_LE(Gbl.AnchoCelda, 140);
-}
-
-TEST_F(Ajustes, WithoutAnyPictureTheTableGoesOnWithAnEmptyOne) {
-    EligeImagenProvisional();
-    ASSERT_EQ(P().avisos.size(), 1U);
-    EXPECT_EQ(P().avisos[0].titulo, "Imagen del puzzle");
-    EXPECT_EQ(Gbl.RutaImagen, " ");
-    EXPECT_FALSE(Gbl.ImagenValida);
-    EXPECT_EQ(Pic_FonTamModi.Width(), 320);
-    EXPECT_EQ(Pic_FonTamModi.Height(), 240);
-    EXPECT_EQ(Gbl.NumPiezas, 25);
-    EXPECT_EQ(Gbl.AnchoPuzzle, 320);
 }
 
 }  // namespace tessario

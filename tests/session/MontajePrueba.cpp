@@ -323,8 +323,15 @@ TEST_F(Registros, MissingImageLeavesItsErrorAndBuildsNothing) {
 }
 
 TEST_F(Registros, ZoomedImageOutOfLimitsIsRefusedWithItsWidth) {
-    PonImagen("b.bmp", 400, 300);  // what the player is given instead
     Jigsaw(1000, 700, 110);
+    int pulsado = 0;  // the button of the settings
+    Pic_Boton(2).MouseDown = [&](i16, i16, float, float) {
+        ++pulsado;
+        EXPECT_FALSE(Gbl.ImagenValida);
+        EXPECT_EQ(Gbl.ZoomImagen, 100);
+        EXPECT_EQ(Pic_FonTamModi.Width(), 320);
+        EXPECT_EQ(Pic_FonTamModi.Height(), 240);
+    };
     Gbl.Sonido = true;
     Bloque sonora = Gbl;
     const std::string bytes = EscribePuzzle();
@@ -338,8 +345,7 @@ TEST_F(Registros, ZoomedImageOutOfLimitsIsRefusedWithItsWidth) {
     EXPECT_NE(P().avisos[0].texto.find("( 1100 x 770 pixels )"), std::string::npos);
     ASSERT_FALSE(P().sonidos.empty());
     EXPECT_EQ(P().sonidos[0].first, 11);
-    EXPECT_EQ(Gbl.FicheroImagen, "b.bmp");
-    EXPECT_EQ(Gbl.AnchoImagen, 400);
+    EXPECT_EQ(pulsado, 1);
 }
 
 TEST_F(Registros, TheSameImageAtItsOwnSizePasses) {

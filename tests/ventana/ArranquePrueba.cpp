@@ -12,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char *SIN_AJUSTES = "Error en la carga de datos iniciales",
-                     *SIN_IMAGEN = "Imagen del puzzle", *NO_VALIDA = "Imagen no válida",
+                     *SIN_IMAGEN = "Imagen del puzzle",
                      *RESOLUCION = "Resolución de pantalla",
                      *CAMBIO = "Cambio de resolución de pantalla";
 
@@ -41,30 +41,42 @@ void PonImagenesMalas(Programa& programa) {
     programa.EscribeBytes("Imagenes/vacia.jpg", "");
 }
 
-TEST(ArranqueVentana, WithoutAUsablePictureTheJigsawStartsOnAnEmptyOne) {
+// The settings window and its exit button in the jigsaw; the switch of the Tangram.
+constexpr const char* PERSONAL = "Personalizar";
+constexpr int SALIR_X = 612, SALIR_Y = 511, TANGRAM_X = 500, TANGRAM_Y = 44;
+
+TEST(ArranqueVentana, WithoutAUsablePictureTheSettingsStayOpenAndAnotherGameCanBeChosen) {
     Escritorio e(800, 600);
     Programa programa(e);
     VaciaImagenes(programa);
     for (const bool malas : {false, true}) {
         if (malas) PonImagenesMalas(programa);
-        fs::remove(programa.Carpeta() + "TsR2133.ini");
+        fs::remove(programa.Carpeta() + "TsR2333.ini");
         programa.EscribeGlobal(21, 100);
         programa.Lanzalo();
         ASSERT_TRUE(e.Responde(SIN_AJUSTES, false)) << malas;
-        ASSERT_TRUE(e.Responde(SIN_IMAGEN, false)) << malas;
+        Escritorio::Marco m;
+        ASSERT_TRUE(e.Espera([&] { return e.BuscaVentana(PERSONAL, m); })) << malas;
+        e.EsperaQuieto();
+        e.Pulsa(m.x + SALIR_X, m.y + SALIR_Y);
+        e.EsperaQuieto();
+        EXPECT_TRUE(e.HayVentana(PERSONAL)) << malas;
+        e.Pulsa(m.x + TANGRAM_X, m.y + TANGRAM_Y);
+        ASSERT_TRUE(e.Responde("Lista 'JUEGO ACTUAL'", true)) << malas;
+        ASSERT_TRUE(e.Responde(SIN_AJUSTES, false)) << malas;
         ASSERT_TRUE(programa.LlegaALaMesa()) << malas;
-        e.Mira().Guarda("arranque-sin-imagen");
         ASSERT_TRUE(programa.Sale()) << malas;
-        EXPECT_GE(programa.LeePartida(21).piezas.size(), 9U);
+        EXPECT_EQ(programa.LeePartida(23).piezas.size(), 7U);
+        EXPECT_FALSE(fs::exists(programa.Carpeta() + "Archivo/TESSA33.CSE"));
     }
 }
 
-// A game whose own picture is no good begins anew with the first good one of the folder.
+// A game whose own picture is no good begins anew, with a picture chosen by the player.
 TEST(ArranqueVentana, ARecordWithABadPictureDoesNotStopTheProgram) {
     Escritorio e(1024, 768);
     Programa programa(e);
     VaciaImagenes(programa);
-    programa.EscribeImagenDeCuadros("zz.bmp", 480, 360, 3);
+    programa.EscribeImagenDeCuadros("aa.bmp", 480, 360, 3);
     PonImagenesMalas(programa);
     programa.EscribeGlobal(21, 100);
     for (const char* imagen : {"texto.jpg", "enorme.bmp", "ninguna.jpg"}) {
@@ -75,20 +87,15 @@ TEST(ArranqueVentana, ARecordWithABadPictureDoesNotStopTheProgram) {
         p.piezas.resize(9);
         programa.EscribePartida(p);
         programa.Lanzalo();
+        ASSERT_TRUE(e.Responde(SIN_IMAGEN, false)) << imagen;
+        Escritorio::Marco m;
+        ASSERT_TRUE(e.Espera([&] { return e.BuscaVentana(PERSONAL, m); })) << imagen;
+        e.EsperaQuieto();
+        e.Pulsa(m.x + SALIR_X, m.y + SALIR_Y);
         ASSERT_TRUE(programa.LlegaALaMesa()) << imagen;
         ASSERT_TRUE(programa.Sale()) << imagen;
-        EXPECT_EQ(programa.LeePartida(21).imagen, "zz.bmp") << imagen;
+        EXPECT_EQ(programa.LeePartida(21).imagen, "aa.bmp") << imagen;
     }
-    // A sound picture that is too small is told of.
-    PartidaGuardada p;
-    p.imagen = "punto.bmp";
-    p.anchoImagen = p.altoImagen = 1;
-    p.piezas.resize(9);
-    programa.EscribePartida(p);
-    programa.Lanzalo();
-    ASSERT_TRUE(e.Responde(NO_VALIDA, false));
-    ASSERT_TRUE(programa.LlegaALaMesa());
-    EXPECT_TRUE(programa.Sale());
 }
 
 TEST(ArranqueVentana, ADamagedGlobalFileIsReplaced) {

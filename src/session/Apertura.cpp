@@ -1,0 +1,12 @@
+#include "session/Apertura.h"
+
+#include "core/Superficies.h"
+
+namespace tessario {
+
+void AbrePersonal() {
+    constexpr i32 personalizar = 2;
+    Pulsa(Pic_Boton(personalizar));
+}
+
+}  // namespace tessario

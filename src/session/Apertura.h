@@ -1,0 +1,9 @@
+// The settings window as the records need it: a puzzle that wants a picture asks the player for one.
+#pragma once
+
+namespace tessario {
+
+// Presses the command button of the settings.
+void AbrePersonal();
+
+}  // namespace tessario

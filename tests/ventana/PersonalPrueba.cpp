@@ -1,0 +1,198 @@
+// The settings window of the real program, by mouse and keyboard.
+#include <filesystem>
+
+#include "ventana/Escritorio.h"
+
+namespace tessario::ventana {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char *PERSONAL = "Personalizar", *PARAMETROS = "Parámetros del puzzle",
+                     *JUEGO = "Lista 'JUEGO ACTUAL'",
+                     *SIN_AJUSTES = "Error en la carga de datos iniciales";
+constexpr int BOTON_PERSONALIZAR = 2;
+
+// Points of the window, in its own pixels.
+struct Lugar {
+    int x, y;
+};
+constexpr Lugar FICHEROS{155, 104}, FORMA_4{310, 185}, BORDE{300, 431}, FONDO_ROJO{319, 508};
+constexpr Lugar DESLIZANTES{260, 44}, MOVILES{60, 44};
+constexpr Lugar FACTOR_0{506, 100}, FACTOR_100{586, 100}, FACTOR_50{545, 100}, PRUEBA{566, 235};
+constexpr int FILA_FICHERO = 15;  // height of a row of the list
+
+class Ajustes {
+public:
+    Ajustes(Escritorio& e, Programa& programa) : e_(e), programa_(programa) {}
+    bool Abre() {
+        programa_.PulsaBoton(BOTON_PERSONALIZAR);
+        return Espera();
+    }
+    bool Espera() {
+        if (!e_.Espera([&] { return e_.BuscaVentana(PERSONAL, marco_); })) return false;
+        e_.EsperaQuieto();
+        return true;
+    }
+    void Pulsa(const Lugar& p) { e_.Pulsa(marco_.x + p.x, marco_.y + p.y); }
+    void PulsaFichero(int fila) { Pulsa({FICHEROS.x, FICHEROS.y + fila * FILA_FICHERO}); }
+    void PulsaSalir() { Pulsa({612, marco_.alto - 41}); }
+    bool Cerrada() {
+        return e_.Espera([&] { return !e_.HayVentana(PERSONAL); });
+    }
+    const Escritorio::Marco& Marco() const { return marco_; }
+
+private:
+    Escritorio& e_;
+    Programa& programa_;
+    Escritorio::Marco marco_;
+};
+
+PartidaGuardada Rompecabezas(Programa& programa) {
+    programa.EscribeImagenDeCuadros("aa.bmp", 480, 360, 4);
+    PartidaGuardada p;
+    p.imagen = "aa.bmp";
+    p.anchoImagen = 480;
+    p.altoImagen = 360;
+    p.porLado = 4;
+    for (int i = 0; i < 16; ++i) {
+        PiezaGuardada q;
+        q.xBien = i % 4 * 120;
+        q.yBien = i / 4 * 90;
+        q.x = q.xBien + 60;
+        q.y = q.yBien + 100;
+        p.piezas.push_back(q);
+    }
+    return p;
+}
+
+TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    programa.EscribeImagenDeCuadros("AA.bmp", 480, 360, 3);
+    programa.EscribeImagenDeCuadros("AB.bmp", 400, 300, 3);
+    programa.Lanzalo();
+    ASSERT_TRUE(e.Responde(SIN_AJUSTES, false));
+    ASSERT_TRUE(e.Responde(SIN_AJUSTES, false));  // the global file, then the game's
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Espera());
+    ajustes.PulsaFichero(1);
+    e.EsperaQuieto();
+    e.Mira().Guarda("personal-primer-inicio");
+    ajustes.PulsaSalir();
+    ASSERT_TRUE(ajustes.Cerrada());
+    ASSERT_TRUE(programa.LlegaALaMesa());
+    e.Mira().Guarda("personal-primera-mesa");
+    ASSERT_TRUE(programa.Sale());
+    const PartidaLeida p = programa.LeePartida(21);
+    EXPECT_EQ(p.imagen, "AB.bmp");
+    EXPECT_EQ(p.piezas.size(), 25U);
+    EXPECT_TRUE(p.archivable);
+}
+
+TEST(PersonalVentana, ChangesAreTakenBackByCancelAndCarriedOutByAccept) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(Rompecabezas(programa));
+    programa.EscribeImagenDeCuadros("ab.bmp", 640, 480, 4);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    for (const bool si : {false, true}) {
+        ASSERT_TRUE(ajustes.Abre()) << si;
+        ajustes.PulsaFichero(1);
+        ajustes.Pulsa(FORMA_4);
+        e.EsperaQuieto();
+        ajustes.PulsaSalir();
+        ASSERT_TRUE(e.Responde(PARAMETROS, si)) << si;
+        ASSERT_TRUE(ajustes.Cerrada()) << si;
+        e.EsperaQuieto();
+        if (!si) {
+            e.Mira().Guarda("personal-cancelado");
+        }
+    }
+    ASSERT_TRUE(programa.Sale());
+    const PartidaLeida p = programa.LeePartida(21);
+    EXPECT_EQ(p.imagen, "ab.bmp");
+    EXPECT_EQ(p.piezas.size() % 2, 0U);  // two pieces a cell
+    EXPECT_NE(p.piezas.size(), 16U);
+    EXPECT_FALSE(fs::exists(programa.Carpeta() + "Archivo/TESSA33.CSE"));
+}
+
+TEST(PersonalVentana, ACancelledRestartLeavesTheGameInPlay) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    const PartidaGuardada antes = Rompecabezas(programa);
+    programa.EscribePartida(antes);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    ajustes.Pulsa(FORMA_4);
+    ajustes.Pulsa(FONDO_ROJO);
+    ajustes.PulsaSalir();
+    ASSERT_TRUE(e.Responde(PARAMETROS, false));
+    ASSERT_TRUE(ajustes.Cerrada());
+    e.EsperaQuieto();
+    ASSERT_TRUE(programa.Sale());
+    const PartidaLeida p = programa.LeePartida(21);
+    ASSERT_EQ(p.piezas.size(), 16U);
+    for (std::size_t i = 0; i < 16; ++i) {
+        EXPECT_EQ(p.piezas[i].x, antes.piezas[i].x);
+        EXPECT_EQ(p.piezas[i].y, antes.piezas[i].y);
+    }
+}
+
+TEST(PersonalVentana, AGameLeftInPlayIsThereAgain) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    const PartidaGuardada antes = Rompecabezas(programa);
+    programa.EscribePartida(antes);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    ajustes.Pulsa(DESLIZANTES);
+    ASSERT_TRUE(e.Responde(JUEGO, true));
+    ASSERT_TRUE(e.Responde(SIN_AJUSTES, false));
+    ASSERT_TRUE(ajustes.Cerrada());
+    e.EsperaQuieto();
+    ASSERT_TRUE(ajustes.Abre());
+    e.Mira().Guarda("personal-deslizantes");
+    ajustes.Pulsa(MOVILES);
+    ASSERT_TRUE(e.Responde(JUEGO, true));
+    ASSERT_TRUE(ajustes.Cerrada());
+    e.EsperaQuieto();
+    ASSERT_TRUE(programa.Sale());
+    const PartidaLeida p = programa.LeePartida(21);
+    ASSERT_EQ(p.piezas.size(), 16U);
+    EXPECT_EQ(p.piezas[5].x, antes.piezas[5].x);
+    EXPECT_EQ(programa.LeePartida(22).piezas.size(), 24U);
+}
+
+TEST(PersonalVentana, TheAttractionTestEndsWithThePieceInItsHole) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 90);
+    programa.EscribePartida(Rompecabezas(programa));
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    const Foto antes = e.Mira();
+    // The hole, in the upper right corner of the small table.
+    const int x = ajustes.Marco().x + 494 + 8 + 96, y = ajustes.Marco().y + 76 + 65 + 6;
+    EXPECT_EQ(antes.Cuenta(x, y, 26, 20, 0xC0C0C0), 26 * 20);
+    for (const Lugar& factor : {FACTOR_0, FACTOR_50, FACTOR_100}) {
+        ajustes.Pulsa(factor);
+        ajustes.Pulsa(PRUEBA);
+        ASSERT_TRUE(e.Espera([&] { return e.Mira().Cuenta(x, y, 26, 20, 0xC0C0C0) == 0; }));
+        e.EsperaQuieto();
+        EXPECT_EQ(e.Mira().Cuenta(x, y, 26, 20, 0xC0C0C0), 0);
+    }
+    ajustes.PulsaSalir();
+    ASSERT_TRUE(ajustes.Cerrada());
+    EXPECT_TRUE(programa.Sale());
+}
+
+}  // namespace
+}  // namespace tessario::ventana
