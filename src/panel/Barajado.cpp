@@ -59,8 +59,7 @@ void ApartaPieza(i16 piece, i32 x, i32 y) {
     Gbl.YOrigen = antes.Y;
     DeslizaPieza(antes.X, antes.Y, Corto(x), Corto(y), piece);
     SonidoJuego(0, SONIDO_SUELTA);
-    const Pieza& p = Gbl.Piezas[piece];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, p.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    RegistraMovimiento(PiezaEnOrigen(piece), Gbl.Piezas[piece]);
 }
 
 bool SigueOrdenando() {

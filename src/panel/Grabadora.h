@@ -7,9 +7,15 @@
 
 namespace tessario {
 
-// Appends a move of the piece on top of the stack.
+struct Pieza;  // of core/PuzzGbl.h
+
+// Appends a move of the piece on top of the stack: as it was, and as it is.
+void RegistraMovimiento(const Pieza& antes, const Pieza& despues);
+// The same where one of the two is no piece's state.
 void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, i16 XDespues,
                         i16 YDespues, i16 GiroDespues, i16 VolteoDespues);
+// A piece as it is now, at the place it was taken from (XOrigen, YOrigen).
+Pieza PiezaEnOrigen(i16 piece);
 // 0 forward, 1 back.
 void ReproduceMovimiento(i16 sentido);
 // Can the recorder be switched on and go back? It is on show, no work is under way, and there is a

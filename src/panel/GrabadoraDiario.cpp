@@ -27,6 +27,18 @@ void RegistraMovimiento(i16 XAntes, i16 YAntes, i16 GiroAntes, i16 VolteoAntes, 
     Gbl.MovidoSinCopia = true;
 }
 
+void RegistraMovimiento(const Pieza& antes, const Pieza& despues) {
+    RegistraMovimiento(antes.X, antes.Y, antes.Giro, antes.Volteo, despues.X, despues.Y,
+                       despues.Giro, despues.Volteo);
+}
+
+Pieza PiezaEnOrigen(i16 piece) {
+    Pieza p = Gbl.Piezas[piece];
+    p.X = Gbl.XOrigen;
+    p.Y = Gbl.YOrigen;
+    return p;
+}
+
 void EntraEnCompleto() {
     Gbl.PuzzleTerminado = true;
     JuegoEnCurso().EntraEnCompleto();

@@ -35,6 +35,8 @@ struct Juego {
     bool TieneHueco = false;         // a moved piece leaves the hole behind
     bool TieneFormas = false;        // the pieces' shape can be chosen
     bool TieneModos = false;         // ModoJuego: create figures, solve models
+    bool GuardaModelos = false;      // its table can be kept as a model; NombrePuzzle names one
+    bool PiezasConNombre = false;    // no two pieces alike: each has its name and its own size
     bool EligeFondo = false;         // TipoFondo: image, numbers, letters
     bool SeAtraen = false;           // AtraccionPiezas: pieces pull each other
     bool OrdenOcultas = false;       // the strip has the command that brings up hidden pieces

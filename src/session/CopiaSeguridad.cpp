@@ -7,6 +7,7 @@
 #include "core/PuzzGbl.h"
 #include "records/EscrituraAparte.h"
 #include "records/Texto.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 #include "session/Montaje.h"
 
@@ -52,8 +53,7 @@ private:
 
 // A piece in hand goes back to where it was taken from. A sliding piece has arrived already.
 void DevuelvePieza() {
-    if (!Gbl.ArrastrandoPieza || Gbl.JuegoActual == JuegoDeslizantes || Gbl.PiezaActual == 0)
-        return;
+    if (!Gbl.ArrastrandoPieza || !JuegoEnCurso().SeArrastra || Gbl.PiezaActual == 0) return;
     Gbl.Piezas[Gbl.PiezaActual].X = Gbl.XOrigen;
     Gbl.Piezas[Gbl.PiezaActual].Y = Gbl.YOrigen;
 }
@@ -68,7 +68,7 @@ void AlFinalDelDiario() {
         p.Y = m.YDespues;
         p.Giro = m.GiroDespues;
         p.Volteo = m.VolteoDespues;
-        if (Gbl.JuegoActual != JuegoDeslizantes) continue;
+        if (!JuegoEnCurso().TieneHueco) continue;
         Gbl.HuecoX = m.XAntes;
         Gbl.HuecoY = m.YAntes;
     }

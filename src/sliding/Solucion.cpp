@@ -69,8 +69,7 @@ bool JuegaDeLaRuta(i16 piece) {
     if (Gbl.LadoHueco == 0) return false;
     Gbl.PiezaActual = piece;
     JuegaPieza(piece, true);
-    const Pieza& p = Gbl.Piezas[piece];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, 0, 0, p.X, p.Y, 0, 0);
+    RegistraMovimiento(PiezaEnOrigen(piece), Gbl.Piezas[piece]);
     Gbl.ArrastrandoPieza = false;
     HuecoAlOrigen();
     MuestraColocadas();

@@ -97,6 +97,7 @@ void Personaliza() {
         Gbl.FactorCambiado = false;
         MuestraSiExiste(VentanasOrdenes.Personal);
         Sistema().Presenta();
+        // The same game as before, whichever it is: its table is kept, else another one is laid.
         Sigue([] { Gbl.JuegoActual == Gbl.JuegoAlEntrar ? RehaceMesa() : CambiaDeJuego(); });
         Gbl.ColoresCambiados = false;  // a record that is loaded later lays its pieces
         Gbl.RecordEnAjustes.clear();

@@ -107,8 +107,9 @@ void ConRegistroDeGiro(F&& gira) {
     Gbl.XOrigen = antes.X;
     Gbl.YOrigen = antes.Y;
     gira();
-    const Pieza& p = Gbl.Piezas[piece];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    Pieza desde = PiezaEnOrigen(piece);
+    desde.Giro = antes.Giro;
+    RegistraMovimiento(desde, Gbl.Piezas[piece]);
 }
 
 void PasoDeGiro() {
@@ -162,8 +163,7 @@ void GiraEnMano(F&& gira) {
     const i16 piece = Gbl.PiezaActual;
     const Pieza antes = Gbl.Piezas[piece];
     if (antes.X != Gbl.XOrigen || antes.Y != Gbl.YOrigen)
-        RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, antes.Giro, antes.Volteo, antes.X, antes.Y,
-                           antes.Giro, antes.Volteo);
+        RegistraMovimiento(PiezaEnOrigen(piece), antes);
     ConRegistroDeGiro(gira);
     Gbl.XOrigen = Gbl.Piezas[piece].X;
     Gbl.YOrigen = Gbl.Piezas[piece].Y;
@@ -253,8 +253,7 @@ void AsientaPieza(i16 piece) {
 void RegistraSuelta(i16 piece) {
     // Deliberate: the angle before is the piece's angle now. A drag does not turn a piece, and one
     // that its place turned is logged with its new angle on both sides.
-    const Pieza& p = Gbl.Piezas[piece];
-    RegistraMovimiento(Gbl.XOrigen, Gbl.YOrigen, p.Giro, p.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    RegistraMovimiento(PiezaEnOrigen(piece), Gbl.Piezas[piece]);
 }
 
 void SueltaPieza() {
@@ -298,7 +297,7 @@ void VolteaPieza() {
     Sigue([] { JuegoEnCurso().SeparaPieza(); });
     SonidoJuego(0, PiezaEnSuSitio(volteable) ? SONIDO_EN_SITIO : SONIDO_SUELTA);
     MuestraColocadas();
-    RegistraMovimiento(antes.X, antes.Y, antes.Giro, antes.Volteo, p.X, p.Y, p.Giro, p.Volteo);
+    RegistraMovimiento(antes, p);
     if (!enMano) return;
     // The piece in hand was laid on the table by all this: it is lifted again.
     if (Gbl.PiezaActual == volteable) {
@@ -362,8 +361,8 @@ bool Pic_Trabajo_MouseWheel(i16 Pasos, float X, float Y) {
         for (i16 i = 0; i < std::abs(Pasos); ++i) GiraEnMano(PasoDeGiro);
         return true;
     }
-    const bool puede = Gbl.PermitirGiro && JuegoEnCurso().Giros != 1 &&
-                       !Gbl.PuzzleTerminado && !Gbl.GrabadoraEncendida && !DentroDeTarea();
+    const bool puede = Gbl.PermitirGiro && JuegoEnCurso().Giros != 1 && !Gbl.PuzzleTerminado &&
+                       !Gbl.GrabadoraEncendida && !DentroDeTarea();
     if (!puede) return false;
     BuscaPieza(EnteroLargo(X), EnteroLargo(Y));
     if (Gbl.PiezaActual == 0) return false;

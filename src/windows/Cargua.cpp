@@ -11,6 +11,7 @@
 #include "platform/Plataforma.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"
+#include "rules/Juego.h"
 #include "session/Configuracion.h"
 #include "session/Montaje.h"
 #include "windows/Marco.h"
@@ -137,6 +138,7 @@ void CargaElPuzzle() {
     BarraHor.Pon(0);
     BarraVer.Pon(0);
     LeeAjustesJuego(FicheroPuzzle(Gbl.NombreActual));
+    // Before against after: which two games they are makes no difference.
     if (Gbl.JuegoActual != juego) EscribeFichero(fichero, partida);
 }
 
@@ -148,11 +150,11 @@ void Pic_BotCargar_Click() {
     Sistema().Cierra(Cargua);
 }
 
-// The puzzle takes the name under which it is kept. In the Tangram that field holds the model's.
+// The puzzle takes the name under which it is kept, unless that field holds a model's.
 // Deliberate: a save that fails closes the window without a word; what was there before stays.
 void GuardaElPuzzle(const std::string& ruta) {
     const std::string antes = Gbl.NombrePuzzle;
-    if (Gbl.JuegoActual != JuegoTangram)
+    if (!JuegoEnCurso().GuardaModelos)
         Gbl.NombrePuzzle = Trim(Left(Gbl.NombreActual, LARGO_NOMBRE_PUZZLE));
     if (ruta.empty() || GuardaPuzzle(ruta) != 0) Gbl.NombrePuzzle = antes;
 }
@@ -169,7 +171,7 @@ void ArchivaPuzzle() {
 }
 
 void ArchivaModelo() {
-    if (Gbl.JuegoActual != JuegoTangram) return;
+    if (!JuegoEnCurso().GuardaModelos) return;
     Llama([] { GuardaModelo(Gbl.NombreActual); });
     Sistema().Cierra(Cargua);
 }

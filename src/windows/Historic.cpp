@@ -16,6 +16,7 @@
 #include "platform/Plataforma.h"
 #include "records/Historial.h"
 #include "records/Texto.h"
+#include "rules/Juego.h"
 #include "windows/HistoricBarras.h"
 #include "windows/Lineas.h"
 #include "windows/Marco.h"
@@ -56,6 +57,7 @@ constexpr i32 BarrasArr = 190;
 constexpr i32 AdeAtrAncho = 113, AdeAtrAlto = 26;
 }  // namespace lugar
 
+// By the lines that each game has here: this window's own lay-out, so no fact of the game.
 i32 AltoVentana() {
     switch (Gbl.JuegoActual) {
         case JuegoDeslizantes:
@@ -81,9 +83,8 @@ std::string ClaveDificultad(float nivel) {
 }
 
 std::string ClaveFondo(const RegistroHistorico& r) {
-    if (Gbl.JuegoActual == JuegoTangram) return r.Modelo;
-    if (Gbl.JuegoActual == JuegoDeslizantes && r.Fondo != FONDO_IMAGEN)
-        return std::to_string(r.Fondo);
+    if (JuegoEnCurso().TieneModos) return r.Modelo;
+    if (JuegoEnCurso().EligeFondo && r.Fondo != FONDO_IMAGEN) return std::to_string(r.Fondo);
     return TextoDeRuta(r.Fichero);
 }
 

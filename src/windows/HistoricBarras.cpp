@@ -5,6 +5,7 @@
 
 #include "core/Cadenas.h"
 #include "core/PuzzGbl.h"
+#include "rules/Juego.h"
 #include "windows/Historic.h"
 #include "windows/Lineas.h"
 #include "windows/Marco.h"
@@ -68,18 +69,23 @@ void PintaBarra(Cuadro& c, const Reparto& r, i32 columna) {
 
 // ---------------------------------------------------------------- the record to beat
 
+// Was it a puzzle of a picture, from need or by choice?
+bool EsDeImagen(const RegistroHistorico& r) {
+    return JuegoEnCurso().Imagen == UsoDeImagen::Necesario || r.Fondo == FONDO_IMAGEN;
+}
+
 // The same picture, or numbers, letters, model, cut into as many pieces.
 bool EsElMismo(const RegistroHistorico& a, const RegistroHistorico& b) {
     if (a.Total != b.Total) return false;
-    if (Gbl.JuegoActual == JuegoTangram) return a.Modelo == b.Modelo;
-    const bool imagen = Gbl.JuegoActual == JuegoMoviles || a.Fondo == FONDO_IMAGEN;
-    if (Gbl.JuegoActual == JuegoDeslizantes && a.Fondo != b.Fondo) return false;
+    if (JuegoEnCurso().TieneModos) return a.Modelo == b.Modelo;
+    const bool imagen = EsDeImagen(a);
+    if (JuegoEnCurso().EligeFondo && a.Fondo != b.Fondo) return false;
     return !imagen || Minusculas(a.Fichero) == Minusculas(b.Fichero);
 }
 
 const char* QueFondo(const RegistroHistorico& r) {
-    if (Gbl.JuegoActual == JuegoTangram) return "este modelo";
-    if (Gbl.JuegoActual == JuegoMoviles || r.Fondo == FONDO_IMAGEN) return "esta imagen";
+    if (JuegoEnCurso().TieneModos) return "este modelo";
+    if (EsDeImagen(r)) return "esta imagen";
     return r.Fondo == FONDO_LETRAS ? "letras" : "números";
 }
 

@@ -9,6 +9,7 @@
 #include "panel/Cronometro.h"
 #include "records/Historial.h"
 #include "records/Texto.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {
@@ -36,46 +37,49 @@ using Valor = std::string (*)(const Ficha&);
 bool Siempre(const Ficha&) {
     return true;
 }
-bool EsMoviles(const Ficha&) {
-    return Gbl.JuegoActual == JuegoMoviles;
+bool HechoDeImagen(const Ficha&) {
+    return JuegoEnCurso().Imagen == UsoDeImagen::Necesario;
 }
-bool EsDeslizantes(const Ficha&) {
-    return Gbl.JuegoActual == JuegoDeslizantes;
+bool ConFormas(const Ficha&) {
+    return JuegoEnCurso().TieneFormas;
 }
-bool EsTangram(const Ficha&) {
-    return Gbl.JuegoActual == JuegoTangram;
+bool ConFondo(const Ficha&) {
+    return JuegoEnCurso().EligeFondo;
 }
-bool ConCuadricula(const Ficha& f) {
-    return EsMoviles(f) || EsDeslizantes(f);
+bool ConNombres(const Ficha&) {
+    return JuegoEnCurso().PiezasConNombre;
+}
+bool ConCuadricula(const Ficha&) {
+    return JuegoEnCurso().Imagen != UsoDeImagen::Ninguno;
 }
 bool ConModelo(const Ficha&) {
     return ResolviendoModelo();
 }
 bool ConImagen(const Ficha& f) {
-    return EsMoviles(f) || (EsDeslizantes(f) && f.Datos.Fondo == FONDO_IMAGEN);
+    return HechoDeImagen(f) || (ConFondo(f) && f.Datos.Fondo == FONDO_IMAGEN);
 }
 bool ConAtraccion(const Ficha& f) {
-    return EsMoviles(f) || ConModelo(f);
+    return HechoDeImagen(f) || ConModelo(f);
 }
 // A free design has nothing to count; the history has its record whatever is on the table.
 bool ConCuenta(const Ficha& f) {
     return f.Ventana == Ficha::DelHistorico || !CreandoFiguras();
 }
 bool SinZoom(const Ficha& f) {
-    return EsMoviles(f) && f.Datos.Zoom == 100;
+    return HechoDeImagen(f) && f.Datos.Zoom == 100;
 }
 bool Reducida(const Ficha& f) {
-    return EsMoviles(f) && f.Datos.Zoom < 100;
+    return HechoDeImagen(f) && f.Datos.Zoom < 100;
 }
 bool Ampliada(const Ficha& f) {
-    return EsMoviles(f) && f.Datos.Zoom > 100;
+    return HechoDeImagen(f) && f.Datos.Zoom > 100;
 }
 // Deliberate: the label of the size goes by the zoom in force now, not by the record's.
 bool TamanoReducido(const Ficha& f) {
-    return EsMoviles(f) && f.Datos.Zoom != 100 && Gbl.ZoomImagen <= 100;
+    return HechoDeImagen(f) && f.Datos.Zoom != 100 && Gbl.ZoomImagen <= 100;
 }
 bool TamanoAmpliado(const Ficha& f) {
-    return EsMoviles(f) && f.Datos.Zoom != 100 && Gbl.ZoomImagen > 100;
+    return HechoDeImagen(f) && f.Datos.Zoom != 100 && Gbl.ZoomImagen > 100;
 }
 
 // ---------------------------------------------------------------- values
@@ -107,9 +111,7 @@ bool DelPortapapeles(const Ficha& f) {
 }
 
 std::string TipoPuzzle(const Ficha& f) {
-    return Elegido(
-        f.Datos.Juego, JuegoMoviles,
-        {"Puzzle de piezas móviles", "Puzzle de piezas deslizantes", "Juego del Tangram"});
+    return JuegoDe(f.Datos.Juego).Nombre;
 }
 
 std::string TipoFondo(const Ficha& f) {
@@ -201,7 +203,7 @@ const Linea LINEAS[] = {
     {HISTORICO, Siempre, "Hora.................:", [](const Ficha& f) { return f.Datos.Hora; }},
     {AMBAS, Siempre, "Tipo de puzzle.......:", TipoPuzzle},
     SEPARACION,
-    {AMBAS, EsDeslizantes, "Tipo de fondo........:", TipoFondo},
+    {AMBAS, ConFondo, "Tipo de fondo........:", TipoFondo},
     {HISTORICO, ConModelo, "Modelo resuelto......:", [](const Ficha& f) { return f.Datos.Modelo; }},
     {ESTADISTICAS, ConModelo,
      "Modelo a resolver....:", [](const Ficha& f) { return f.Datos.Modelo; }},
@@ -221,22 +223,22 @@ const Linea LINEAS[] = {
     SEPARACION,
     {AMBAS, ConCuadricula,
      "Piezas por lado......:", [](const Ficha& f) { return std::to_string(f.Datos.Lado); }},
-    {AMBAS, EsMoviles, "Clase de piezas......:", ClasePiezas},
-    {AMBAS, EsMoviles, "Tipo de piezas.......:", FormaPiezas},
+    {AMBAS, ConFormas, "Clase de piezas......:", ClasePiezas},
+    {AMBAS, ConFormas, "Tipo de piezas.......:", FormaPiezas},
     {AMBAS, Siempre,
      "Piezas totales.......:", [](const Ficha& f) { return std::to_string(f.Datos.Total); }},
-    {AMBAS, EsMoviles,
+    {AMBAS, ConFormas,
      "Ancho de las piezas..:", [](const Ficha& f) { return Pixeles(f.Datos.AnchoPiezas); }},
-    {AMBAS, EsMoviles,
+    {AMBAS, ConFormas,
      "Alto de las piezas...:", [](const Ficha& f) { return Pixeles(f.Datos.AltoPiezas); }},
-    {ESTADISTICAS, EsTangram, "Tipo de pieza       Ancho     Alto", Nada},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<1>, nullptr, 1},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<2>, nullptr, 2},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<3>, nullptr, 3},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<4>, nullptr, 4},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<5>, nullptr, 5},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<6>, nullptr, 6},
-    {ESTADISTICAS, EsTangram, nullptr, MedidasTangram<7>, nullptr, 7},
+    {ESTADISTICAS, ConNombres, "Tipo de pieza       Ancho     Alto", Nada},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<1>, nullptr, 1},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<2>, nullptr, 2},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<3>, nullptr, 3},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<4>, nullptr, 4},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<5>, nullptr, 5},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<6>, nullptr, 6},
+    {ESTADISTICAS, ConNombres, nullptr, MedidasTangram<7>, nullptr, 7},
     {AMBAS, ConAtraccion,
      "Factor de atracción..:", [](const Ficha& f) { return PorCiento(f.Datos.Atraccion); }},
     SEPARACION,
