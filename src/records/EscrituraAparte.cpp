@@ -3,7 +3,7 @@
 #include <system_error>
 #include <utility>
 
-#include "records/Texto.h"
+#include "records/Archivo.h"
 
 namespace tessario {
 

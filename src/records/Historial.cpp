@@ -8,6 +8,7 @@
 #include "core/Cadenas.h"
 #include "core/Errores.h"
 #include "platform/Plataforma.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 
 namespace tessario {
@@ -90,14 +91,7 @@ public:
 
 private:
     std::string Entrecomillado() {
-        std::string item;
-        std::size_t i = 1;
-        for (; i < resto_.size(); ++i) {
-            if (resto_[i] == '"' && (i + 1 == resto_.size() || resto_[i + 1] != '"')) break;
-            if (resto_[i] == '"') ++i;
-            item += resto_[i] == '\0' ? '\n' : resto_[i];
-        }
-        resto_.remove_prefix(std::min(i + 1, resto_.size()));
+        std::string item = TomaEntrecomillado(resto_);
         // Nothing but the comma should follow.
         resto_.remove_prefix(std::min(resto_.find(','), resto_.size()));
         return item;
@@ -112,15 +106,6 @@ private:
 
     std::string_view resto_;
 };
-
-// The next line, taken from the front; CR LF and LF both end one.
-std::string_view TomaLinea(std::string_view& bytes) {
-    const std::size_t fin = std::min(bytes.find('\n'), bytes.size());
-    std::string_view linea = bytes.substr(0, fin);
-    bytes.remove_prefix(std::min(fin + 1, bytes.size()));
-    if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
-    return linea;
-}
 
 i16 Acotado(i32 n) {
     return static_cast<i16>(std::clamp(n, -32768, 32767));

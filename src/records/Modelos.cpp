@@ -7,6 +7,7 @@
 #include "core/Cadenas.h"
 #include "core/Errores.h"
 #include "core/PuzzGbl.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 
 namespace tessario {
@@ -16,7 +17,13 @@ namespace {
 // Columns of a record, counted from 0. One byte is one character.
 constexpr std::size_t LARGO_NOMBRE = 25;
 constexpr std::size_t COLUMNA_PIEZAS = LARGO_NOMBRE;
-constexpr std::size_t LARGO_BLOQUE = 10;  // one piece: X 4, Y 4, Giro 1, Volteo 1
+constexpr std::size_t LARGO_BLOQUE = 10;                         // one piece
+constexpr Columnas X{1, 4}, Y{5, 4}, GIRO{9, 1}, VOLTEO{10, 1};  // of a piece's block
+// Kept is how the pieces lie; a model is where they belong.
+constexpr CampoDe<Pieza> CAMPOS_ESCRITOS[] = {
+    {X, &Pieza::X}, {Y, &Pieza::Y}, {GIRO, &Pieza::Giro}, {VOLTEO, &Pieza::Volteo}};
+constexpr CampoDe<Pieza> CAMPOS_LEIDOS[] = {
+    {X, &Pieza::XBien}, {Y, &Pieza::YBien}, {GIRO, &Pieza::GiroBien}, {VOLTEO, &Pieza::VolteoBien}};
 constexpr i32 PIEZAS_TANGRAM = 7;
 constexpr std::size_t FIN_PIEZAS = COLUMNA_PIEZAS + LARGO_BLOQUE * PIEZAS_TANGRAM;
 constexpr std::size_t COLUMNA_FIN = 124;  // carriage return and line feed
@@ -55,23 +62,17 @@ i16 Campo(std::string_view campo) {
     return LeeEntero(campo, valor) && valor > 0 ? Corto(valor) : i16{0};
 }
 
-// A number with leading zeros; too wide a one is cut on the right.
-std::string Columnas(i16 valor, i32 ancho) {
-    return Left(Ceros(valor, ancho), ancho);
-}
-
 void LeeBloque(std::string_view bloque, Pieza& p) {
-    p.XBien = Campo(bloque.substr(0, 4));
-    p.YBien = Campo(bloque.substr(4, 4));
-    p.GiroBien = Campo(bloque.substr(8, 1));
-    p.VolteoBien = Campo(bloque.substr(9, 1));
+    for (const CampoDe<Pieza>& c : CAMPOS_LEIDOS) p.*c.dato = Campo(DeColumnas(bloque, c.donde));
     // A damaged digit would name an orientation that no piece has.
     if (p.GiroBien > ULTIMO_GIRO) p.GiroBien = 0;
     p.VolteoBien = p.VolteoBien != 0;
 }
 
 std::string EscribeBloque(const Pieza& p) {
-    return Columnas(p.X, 4) + Columnas(p.Y, 4) + Columnas(p.Giro, 1) + Columnas(p.Volteo, 1);
+    std::string bloque(LARGO_BLOQUE, '0');
+    PonCampos(bloque, CAMPOS_ESCRITOS, p);
+    return bloque;
 }
 
 // The whole file. A missing one is an empty one; any other failure is noted and answered false.

@@ -22,7 +22,7 @@ namespace {
 using Dato = std::variant<i16*, i32*, Color*, Booleano*, float*, std::string*>;
 
 struct Campo {
-    i32 columna, ancho;
+    Columnas donde;
     Dato dato;
 };
 
@@ -42,17 +42,12 @@ const Campo REGISTRO[] = {
     {98, 2, &Gbl.AtraccionPiezas}, {100, 25, &Gbl.NombrePuzzle},   {125, 7, &Gbl.Dificultad},
 };
 
-// A number of an entry of one of the two lists.
-template <class T>
-struct CampoDe {
-    i32 columna, ancho;
-    i16 T::*dato;
-};
+// The numbers of an entry of one of the two lists.
 constexpr CampoDe<Pieza> CAMPOS_PIEZA[] = {{1, 4, &Pieza::X},         {5, 4, &Pieza::Y},
                                            {9, 1, &Pieza::Giro},      {10, 1, &Pieza::Volteo},
                                            {11, 4, &Pieza::XBien},    {15, 4, &Pieza::YBien},
                                            {19, 1, &Pieza::GiroBien}, {20, 1, &Pieza::VolteoBien}};
-constexpr i32 COLUMNA_ORDEN = 21, ANCHO_ORDEN = 3;
+constexpr Columnas ORDEN{21, 3};
 
 constexpr CampoDe<Movimiento> CAMPOS_MOVIMIENTO[] = {
     {1, 3, &Movimiento::Pieza},         {4, 4, &Movimiento::XAntes},
@@ -62,12 +57,6 @@ constexpr CampoDe<Movimiento> CAMPOS_MOVIMIENTO[] = {
     {23, 1, &Movimiento::VolteoDespues}};
 
 // ---------------------------------------------------------------- writing
-
-// Puts a value in; one that is too wide is cut on the right, one too short leaves blanks.
-void Pon(std::string& linea, i32 columna, i32 ancho, std::string_view valor) {
-    const std::size_t cabe = std::min(static_cast<std::size_t>(ancho), valor.size());
-    linea.replace(static_cast<std::size_t>(columna - 1), cabe, valor.substr(0, cabe));
-}
 
 // Two digits, a point, four digits.
 std::string TextoDificultad(float valor) {
@@ -83,15 +72,10 @@ struct Escritor {
     std::string operator()(const i16* v) const { return Ceros(*v, ancho); }
     std::string operator()(const i32* v) const { return Ceros(*v, ancho); }
     std::string operator()(const Color* v) const { return Ceros(static_cast<i32>(*v), ancho); }
-    std::string operator()(const Booleano* v) const { return *v ? "-1" : "0 "; }
+    std::string operator()(const Booleano* v) const { return TextoLogico(*v); }
     std::string operator()(const float* v) const { return TextoDificultad(*v); }
     std::string operator()(const std::string* v) const { return A1252(*v); }
 };
-
-template <class T, std::size_t N>
-void PonCampos(std::string& entrada, const CampoDe<T> (&campos)[N], const T& de) {
-    for (const CampoDe<T>& c : campos) Pon(entrada, c.columna, c.ancho, Ceros(de.*c.dato, c.ancho));
-}
 
 std::string Blancos(i32 cuantos) {
     return std::string(static_cast<std::size_t>(std::max(cuantos, 0)), ' ');
@@ -99,36 +83,18 @@ std::string Blancos(i32 cuantos) {
 
 // ---------------------------------------------------------------- reading
 
-std::string_view Trozo(std::string_view linea, i32 columna, i32 ancho) {
-    const std::size_t desde = static_cast<std::size_t>(columna - 1);
-    if (desde >= linea.size()) return {};
-    return linea.substr(desde, static_cast<std::size_t>(ancho));
-}
-
-i32 Numero(std::string_view texto) {
-    i32 n = 0;
-    if (!LeeEntero(texto, n)) throw ErrorEjecucion(ERROR_TIPO);
-    return n;
-}
-
-double Real(std::string_view texto) {
-    double x = 0;
-    if (!LeeReal(texto, x)) throw ErrorEjecucion(ERROR_TIPO);
-    return x;
-}
-
 struct Lector {
     std::string_view texto;
-    void operator()(i16* v) const { *v = Corto(Numero(texto)); }
-    void operator()(i32* v) const { *v = Numero(texto); }
+    void operator()(i16* v) const { *v = Corto(NumeroDeCampo(texto)); }
+    void operator()(i32* v) const { *v = NumeroDeCampo(texto); }
     void operator()(Color* v) const {
-        const i32 n = Numero(texto);
+        const i32 n = NumeroDeCampo(texto);
         if (n < 0 || static_cast<Color>(n) > COLOR_MAXIMO) throw ErrorEjecucion(ERROR_DESBORDE);
         *v = static_cast<Color>(n);
     }
-    void operator()(Booleano* v) const { *v = Real(texto) != 0; }
+    void operator()(Booleano* v) const { *v = LogicoDeCampo(texto); }
     void operator()(float* v) const {
-        const double x = Real(texto);
+        const double x = RealDeCampo(texto);
         if (std::abs(x) > std::numeric_limits<float>::max()) throw ErrorEjecucion(ERROR_DESBORDE);
         *v = static_cast<float>(x);
     }
@@ -137,16 +103,16 @@ struct Lector {
 
 // Entry i of a list.
 std::string_view Entrada(std::string_view linea, i32 i) {
-    return Trozo(linea, (i - 1) * ANCHO_ENTRADA + 1, ANCHO_ENTRADA);
+    return DeColumnas(linea, {(i - 1) * ANCHO_ENTRADA + 1, ANCHO_ENTRADA});
 }
 
-void LeeCampo(std::string_view entrada, i32 columna, i32 ancho, i16& destino) {
-    Sigue([&] { destino = Corto(Numero(Trozo(entrada, columna, ancho))); });
+void LeeCampo(std::string_view entrada, Columnas donde, i16& destino) {
+    Sigue([&] { destino = Corto(NumeroDeCampo(DeColumnas(entrada, donde))); });
 }
 
 template <class T, std::size_t N>
 void LeeCampos(std::string_view entrada, const CampoDe<T> (&campos)[N], T& destino) {
-    for (const CampoDe<T>& c : campos) LeeCampo(entrada, c.columna, c.ancho, destino.*c.dato);
+    for (const CampoDe<T>& c : campos) LeeCampo(entrada, c.donde, destino.*c.dato);
 }
 
 }  // namespace
@@ -154,7 +120,7 @@ void LeeCampos(std::string_view entrada, const CampoDe<T> (&campos)[N], T& desti
 std::string EscribeRegistro() {
     std::string linea = Blancos(ANCHO_REGISTRO);
     for (const Campo& c : REGISTRO)
-        Pon(linea, c.columna, c.ancho, std::visit(Escritor{c.ancho}, c.dato));
+        PonColumnas(linea, c.donde, std::visit(Escritor{c.donde.ancho}, c.dato));
     return linea;
 }
 
@@ -164,7 +130,7 @@ std::string EscribePiezas() {
         std::string entrada = Blancos(ANCHO_ENTRADA);
         Sigue([&] {
             PonCampos(entrada, CAMPOS_PIEZA, Gbl.Piezas[i]);
-            Pon(entrada, COLUMNA_ORDEN, ANCHO_ORDEN, Ceros(Gbl.OrdenPiezas[i], ANCHO_ORDEN));
+            PonColumnas(entrada, ORDEN, Gbl.OrdenPiezas[i]);
         });
         linea += entrada;
     }
@@ -184,7 +150,7 @@ std::string EscribeMovimientos() {
 void LeeRegistro(const std::string& linea) {
     const i16 juego = Gbl.JuegoActual;
     for (const Campo& c : REGISTRO)
-        Sigue([&] { std::visit(Lector{Trozo(linea, c.columna, c.ancho)}, c.dato); });
+        Sigue([&] { std::visit(Lector{DeColumnas(linea, c.donde)}, c.dato); });
     if (EsJuego(Gbl.JuegoActual)) return;
     // No game at all: the one in play stays, so that the defaults know whose they are.
     Gbl.JuegoActual = juego;
@@ -202,7 +168,7 @@ void LeePiezas(const std::string& linea) {
     for (i32 i = 1; i <= cuantas; ++i) {
         const std::string_view entrada = Entrada(linea, i);
         LeeCampos(entrada, CAMPOS_PIEZA, Gbl.Piezas[i]);
-        LeeCampo(entrada, COLUMNA_ORDEN, ANCHO_ORDEN, Gbl.OrdenPiezas[i]);
+        LeeCampo(entrada, ORDEN, Gbl.OrdenPiezas[i]);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/Errores.h"
+#include "records/Archivo.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"
 

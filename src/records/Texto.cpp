@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "core/Cadenas.h"
+#include "core/Errores.h"
 
 namespace tessario {
 
@@ -171,15 +172,20 @@ std::string Entrecomilla(std::string_view texto) {
 std::string DeComillas(std::string_view linea) {
     const std::size_t abre = linea.find_first_not_of(" \t");
     if (abre == std::string_view::npos || linea[abre] != '"') return std::string(linea);
-    std::string texto;
-    for (std::size_t i = abre + 1; i < linea.size(); ++i) {
-        if (linea[i] == '"') {
-            if (i + 1 == linea.size() || linea[i + 1] != '"') break;
-            ++i;
-        }
-        texto += linea[i] == '\0' ? '\n' : linea[i];
+    linea.remove_prefix(abre);
+    return TomaEntrecomillado(linea);
+}
+
+std::string TomaEntrecomillado(std::string_view& resto) {
+    std::string item;
+    std::size_t i = 1;
+    for (; i < resto.size(); ++i) {
+        if (resto[i] == '"' && (i + 1 == resto.size() || resto[i + 1] != '"')) break;
+        if (resto[i] == '"') ++i;
+        item += resto[i] == '\0' ? '\n' : resto[i];
     }
-    return texto;
+    resto.remove_prefix(std::min(i + 1, resto.size()));
+    return item;
 }
 
 std::string BuscaRuta(const std::string& ruta) {
@@ -192,15 +198,52 @@ std::string BuscaRuta(const std::string& ruta) {
     return ruta;
 }
 
+std::string_view DeColumnas(std::string_view linea, Columnas c) {
+    const auto desde = static_cast<std::size_t>(c.desde - 1);
+    if (desde >= linea.size()) return {};
+    return linea.substr(desde, static_cast<std::size_t>(c.ancho));
+}
+
+void PonColumnas(std::string& linea, Columnas c, std::string_view valor) {
+    const std::string_view cortado = valor.substr(0, static_cast<std::size_t>(c.ancho));
+    linea.replace(static_cast<std::size_t>(c.desde - 1), cortado.size(), cortado);
+}
+
+void PonColumnas(std::string& linea, Columnas c, i32 numero) {
+    PonColumnas(linea, c, std::string_view(Ceros(numero, c.ancho)));
+}
+
+const char* TextoLogico(bool b) {
+    return b ? "-1" : "0 ";
+}
+
+i32 NumeroDeCampo(std::string_view campo) {
+    i32 n = 0;
+    if (!LeeEntero(campo, n)) throw ErrorEjecucion(ERROR_TIPO);
+    return n;
+}
+
+double RealDeCampo(std::string_view campo) {
+    double x = 0;
+    if (!LeeReal(campo, x)) throw ErrorEjecucion(ERROR_TIPO);
+    return x;
+}
+
+bool LogicoDeCampo(std::string_view campo) {
+    return RealDeCampo(campo) != 0;
+}
+
+std::string_view TomaLinea(std::string_view& bytes) {
+    const std::size_t fin = std::min(bytes.find('\n'), bytes.size());
+    std::string_view linea = bytes.substr(0, fin);
+    bytes.remove_prefix(std::min(fin + 1, bytes.size()));
+    if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
+    return linea;
+}
+
 std::vector<std::string> Lineas(std::string_view bytes) {
     std::vector<std::string> lineas;
-    while (!bytes.empty()) {
-        const std::size_t fin = std::min(bytes.find('\n'), bytes.size());
-        std::string_view linea = bytes.substr(0, fin);
-        if (!linea.empty() && linea.back() == '\r') linea.remove_suffix(1);
-        lineas.emplace_back(linea);
-        bytes.remove_prefix(std::min(fin + 1, bytes.size()));
-    }
+    while (!bytes.empty()) lineas.emplace_back(TomaLinea(bytes));
     return lineas;
 }
 

@@ -1,5 +1,6 @@
-// Text files with fixed columns: quoting, encoding, case-blind names, and writing whole or not at
-// all. In memory text is UTF-8; on disk one byte is one character, Windows-1252.
+// What the lines of the text files are made of: encoding, quoting, fixed columns both ways, and
+// names without regard to case. In memory text is UTF-8; on disk one byte is one character,
+// Windows-1252. Whole files are read and written by records/Archivo.
 #pragma once
 
 #include <string>
@@ -26,20 +27,40 @@ std::string DeComillas(std::string_view linea);
 // path itself when there is none.
 std::string BuscaRuta(const std::string& ruta);
 
-// Reads a whole file. 0, or the error number: 53, 75, 76, 7 above `maximo` bytes.
-i16 LeeFichero(const std::string& ruta, std::string& bytes, std::size_t maximo = 64U << 20);
-// Replaces the file whole or leaves it as it was. 0, or the error number.
-i16 EscribeFichero(const std::string& ruta, std::string_view bytes);
-// Appends one line, CR LF at its end, whole or not at all; makes the file if it is missing, and
-// ends a last line that had no end. Programs that append at once wait for each other. 0, or the
-// error number.
-i16 AnadeLinea(const std::string& ruta, std::string_view linea);
-// Is there a file that can be opened for reading?
-bool SeAbre(const std::string& ruta);
-// 0, or the error number.
-i16 BorraFichero(const std::string& ruta);
+// Fixed columns of a line that has one byte for a character, counted from 1.
+struct Columnas {
+    i32 desde, ancho;
+};
+// What stands there; what is missing is missing.
+std::string_view DeColumnas(std::string_view linea, Columnas c);
+// Puts a value into a line that is long enough; one that is too wide is cut on the right, one too
+// short leaves what was behind it.
+void PonColumnas(std::string& linea, Columnas c, std::string_view valor);
+// The same of a number with zeros in front.
+void PonColumnas(std::string& linea, Columnas c, i32 numero);
+const char* TextoLogico(bool b);  // "-1" or "0 "
+// What a field holds. Error 13 when it is no number.
+i32 NumeroDeCampo(std::string_view campo);
+double RealDeCampo(std::string_view campo);
+bool LogicoDeCampo(std::string_view campo);
 
-// Lines of a file, without their ends; CR LF, LF and a missing last end are all taken.
+// A number that a record of a list keeps in columns of its own.
+template <class T>
+struct CampoDe {
+    Columnas donde;
+    i16 T::*dato;
+};
+template <class T, std::size_t N>
+void PonCampos(std::string& entrada, const CampoDe<T> (&campos)[N], const T& de) {
+    for (const CampoDe<T>& c : campos) PonColumnas(entrada, c.donde, de.*c.dato);
+}
+
+// The quoted item at the front, which begins with its quote, taken off with its closing one.
+std::string TomaEntrecomillado(std::string_view& resto);
+// The next line, taken off the front without its end; CR LF, LF and a missing last end are all
+// taken.
+std::string_view TomaLinea(std::string_view& bytes);
+// All lines of a file.
 std::vector<std::string> Lineas(std::string_view bytes);
 
 }  // namespace tessario

@@ -11,6 +11,7 @@
 #include "panel/Alcance.h"
 #include "panel/Barajado.h"
 #include "panel/Colocadas.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 #include "rules/Colores.h"
 #include "rules/Despacho.h"
@@ -27,9 +28,6 @@ namespace {
 
 constexpr i32 ANCHO_GLOBAL = 125;  // characters of the global file's only line
 
-struct Columnas {
-    i32 desde, ancho;
-};
 constexpr Columnas COL_JUEGO{1, 2}, COL_SONIDO{3, 2}, COL_VELOCIDAD{5, 3}, COL_VENTANA{8, 2};
 
 std::string FicheroGlobal() {
@@ -49,35 +47,14 @@ void AvisaApertura(i16 numero, const Aviso& ausente, const Aviso& otro, std::str
 
 // ---------------------------------------------------------------- global file
 
-void LeeCampo(const std::string& linea, const Columnas& c, i16& destino) {
-    i32 n = 0;
-    if (!LeeEntero(Mid(linea, c.desde, c.ancho), n)) throw ErrorEjecucion(ERROR_TIPO);
-    destino = Corto(n);
-}
-
-void LeeCampo(const std::string& linea, const Columnas& c, Booleano& destino) {
-    double x = 0;
-    if (!LeeReal(Mid(linea, c.desde, c.ancho), x)) throw ErrorEjecucion(ERROR_TIPO);
-    destino = x != 0;
-}
-
 void LeeLineaGlobal(const std::string& bytes) {
     const std::vector<std::string> lineas = Lineas(bytes);
     if (lineas.empty()) return;
-    const std::string linea = De1252(DeComillas(lineas[0]));
-    Sigue([&] { LeeCampo(linea, COL_JUEGO, Gbl.JuegoActual); });
-    Sigue([&] { LeeCampo(linea, COL_SONIDO, Gbl.Sonido); });
-    Sigue([&] { LeeCampo(linea, COL_VELOCIDAD, Gbl.VelocidadJuego); });
-    Sigue([&] { LeeCampo(linea, COL_VENTANA, Gbl.VentanaInformacion); });
-}
-
-void Pon(std::string& linea, const Columnas& c, std::string_view valor) {
-    const std::string_view cortado = valor.substr(0, static_cast<std::size_t>(c.ancho));
-    linea.replace(static_cast<std::size_t>(c.desde - 1), cortado.size(), cortado);
-}
-
-const char* TextoLogico(const Booleano& b) {
-    return b ? "-1" : "0 ";
+    const std::string linea = DeComillas(lineas[0]);
+    Sigue([&] { Gbl.JuegoActual = Corto(NumeroDeCampo(DeColumnas(linea, COL_JUEGO))); });
+    Sigue([&] { Gbl.Sonido = LogicoDeCampo(DeColumnas(linea, COL_SONIDO)); });
+    Sigue([&] { Gbl.VelocidadJuego = Corto(NumeroDeCampo(DeColumnas(linea, COL_VELOCIDAD))); });
+    Sigue([&] { Gbl.VentanaInformacion = LogicoDeCampo(DeColumnas(linea, COL_VENTANA)); });
 }
 
 // ---------------------------------------------------------------- defaults of a game
@@ -155,10 +132,10 @@ void LeeConfiguracion() {
 
 void EscribeConfiguracion() {
     std::string linea(ANCHO_GLOBAL, ' ');
-    Pon(linea, COL_JUEGO, Ceros(Gbl.JuegoActual, COL_JUEGO.ancho));
-    Pon(linea, COL_SONIDO, TextoLogico(Gbl.Sonido));
-    Pon(linea, COL_VELOCIDAD, Ceros(Gbl.VelocidadJuego, COL_VELOCIDAD.ancho));
-    Pon(linea, COL_VENTANA, TextoLogico(Gbl.VentanaInformacion));
+    PonColumnas(linea, COL_JUEGO, Gbl.JuegoActual);
+    PonColumnas(linea, COL_SONIDO, TextoLogico(Gbl.Sonido));
+    PonColumnas(linea, COL_VELOCIDAD, Gbl.VelocidadJuego);
+    PonColumnas(linea, COL_VENTANA, TextoLogico(Gbl.VentanaInformacion));
     EscribeFichero(FicheroGlobal(), Entrecomilla(linea) + "\r\n");
 }
 

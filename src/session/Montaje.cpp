@@ -15,6 +15,7 @@
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
+#include "records/Archivo.h"
 #include "records/Registro.h"
 #include "records/Texto.h"
 #include "rules/Colores.h"

@@ -15,6 +15,7 @@
 #include "panel/Desplazamiento.h"
 #include "panel/Sugerencias.h"
 #include "platform/Plataforma.h"
+#include "records/Archivo.h"
 #include "records/Surtido.h"
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"

@@ -9,6 +9,7 @@
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "platform/Plataforma.h"
+#include "records/Archivo.h"
 #include "records/Modelos.h"
 #include "records/Texto.h"
 #include "rules/Juego.h"

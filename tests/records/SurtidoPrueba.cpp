@@ -2,9 +2,9 @@
 #include <filesystem>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "records/Archivo.h"
 #include "records/Modelos.h"
 #include "records/Surtido.h"
-#include "records/Texto.h"
 
 namespace tessario {
 namespace {

@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "apoyo/PlataformaPrueba.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 
 namespace tessario {

@@ -4,6 +4,7 @@
 #include "apoyo/MesaMontada.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"

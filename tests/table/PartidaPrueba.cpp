@@ -5,6 +5,7 @@
 #include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
+#include "records/Archivo.h"
 #include "records/Texto.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Tablero.h"

@@ -1,4 +1,4 @@
-// Reading and writing whole files: the part of records/Texto.h that talks to the file system.
+#include "records/Archivo.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
