@@ -7,6 +7,7 @@ source with the name as prefix is counted with it, and so is a header with the n
 only files of the unit include. No two units share a name. What a header declares, its
 own sources define, so a unit with a header that declares routines has a source. A window-system
 header appears in src/qt and src/main.cpp alone, and there is a C++ source for nothing else.
+docs/architecture.md has a table for each folder, which names every unit of it and no other.
 
 Prints one line for each fault and a last one that counts them; the exit code is 1 if there are any.
 """
@@ -15,7 +16,9 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
-SRC = Path(__file__).resolve().parent.parent / "src"
+RAIZ = Path(__file__).resolve().parent.parent
+SRC = RAIZ / "src"
+MAPA = RAIZ / "docs" / "architecture.md"
 
 # From the bottom up.
 NIVELES = [
@@ -35,6 +38,10 @@ NIVEL = {carpeta: n for n, grupo in enumerate(NIVELES) for carpeta in grupo}
 
 INCLUYE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.M)
 DE_VENTANAS = re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*|q[a-z]+\.h|private/q.*|SDL.*|X11/.*)$")
+
+# In the map: the heading of a folder's table, any other heading, and the row of a unit.
+TITULO = re.compile(r"^### `src/(\w+)/`$")
+FILA = re.compile(r"^\| `(\w+)` \| \S")
 
 faltas = []
 
@@ -173,6 +180,29 @@ def revisa_unidades(propios, cabeceras):
                 falta(f"{fichero}: does not include the header of its unit, {unidad}.h")
 
 
+def lee_mapa():
+    """The units that the map names, as folder/name."""
+    carpeta, nombradas = None, []
+    for linea in MAPA.read_text(encoding="utf-8").splitlines():
+        if linea.startswith("#"):
+            titulo = TITULO.match(linea)
+            carpeta = titulo.group(1) if titulo else None
+        fila = FILA.match(linea)
+        if carpeta and fila:
+            nombradas.append(f"{carpeta}/{fila.group(1)}")
+    return nombradas
+
+
+def revisa_mapa(unidades):
+    nombradas = lee_mapa()
+    for unidad in sorted(unidades - set(nombradas)):
+        falta(f"{unidad}: not named in docs/{MAPA.name}")
+    for unidad in sorted(set(nombradas) - unidades):
+        falta(f"{unidad}: named in docs/{MAPA.name}, but there is no such unit")
+    for unidad in sorted({u for u in nombradas if nombradas.count(u) > 1}):
+        falta(f"{unidad}: named twice in docs/{MAPA.name}")
+
+
 def main():
     propios, ajenos = lee()
     cabeceras = cabeceras_publicas(propios)
@@ -191,6 +221,7 @@ def main():
     revisa_circulos("folders", de_carpetas)
     revisa_unidades(propios, cabeceras)
     unidades = {unidad_de(f, cabeceras) for f in propios}
+    revisa_mapa({u for u in unidades if u != "main"})
     print(f"{len(propios)} files, {len(unidades)} units, {len(de_carpetas)} folders: "
           f"{len(faltas)} faults")
     return 1 if faltas else 0

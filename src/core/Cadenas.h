@@ -1,4 +1,5 @@
-// Text helpers that count characters, not bytes: text in memory is UTF-8.
+// Text helpers that count characters, not bytes (text in memory is UTF-8), and numbers in text, the
+// same in every locale.
 #pragma once
 
 #include <string>

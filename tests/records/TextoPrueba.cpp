@@ -1,57 +1,14 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <csignal>
-#include <filesystem>
-#include <fstream>
 
 #include "apoyo/PlataformaPrueba.h"
-#include "records/Archivo.h"
+#include "core/Fallos.h"
 #include "records/Texto.h"
 
 namespace tessario {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-class Textos : public PruebaBase {
-protected:
-    std::size_t Entradas() {
-        std::size_t n = 0;
-        for ([[maybe_unused]] const auto& e : fs::directory_iterator(P().carpeta)) ++n;
-        return n;
-    }
-    static i16 Lee(const std::string& ruta) {
-        std::string bytes;
-        return LeeFichero(ruta, bytes);
-    }
-};
-
-// The largest size of a file that this process may write, for the life of the object: what a full
-// disk does to a write.
-class DiscoLleno {
-public:
-    explicit DiscoLleno(rlim_t bytes) {
-        anterior_ = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &limite_);
-        rlimit nuevo = limite_;
-        nuevo.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &nuevo);
-    }
-    ~DiscoLleno() {
-        setrlimit(RLIMIT_FSIZE, &limite_);
-        std::signal(SIGXFSZ, anterior_);
-    }
-    DiscoLleno(const DiscoLleno&) = delete;
-    DiscoLleno& operator=(const DiscoLleno&) = delete;
-
-private:
-    rlimit limite_{};
-    void (*anterior_)(int) = nullptr;
-};
+class Textos : public PruebaBase {};
 
 }  // namespace
 
@@ -155,111 +112,42 @@ TEST_F(Textos, PathOfNothingStaysAsItIs) {
         EXPECT_EQ(BuscaRuta(ruta), ruta);
 }
 
-// ---------------------------------------------------------------- reading
+// ---------------------------------------------------------------- columns
 
-TEST_F(Textos, ErrorsOfReadingTellMissingFileFromMissingFolder) {
-    EXPECT_EQ(Lee(P().carpeta + "nada.ini"), 53);
-    EXPECT_EQ(Lee(P().carpeta + "nada/nada.ini"), 76);
-    const std::string fichero = Crea("f", "x");
-    EXPECT_EQ(Lee(fichero + "/bajo"), 76);
-    EXPECT_EQ(Lee(P().carpeta), 75);
-    EXPECT_EQ(Lee("/dev/zero"), 75);
-    EXPECT_EQ(Lee(std::string("a\0b", 3)), 64);
+TEST_F(Textos, ColumnsBeyondTheEndOfALineAreMissing) {
+    EXPECT_EQ(DeColumnas("abcdef", {2, 3}), "bcd");
+    EXPECT_EQ(DeColumnas("abcdef", {5, 3}), "ef");
+    EXPECT_EQ(DeColumnas("abcdef", {7, 3}), "");
+    EXPECT_EQ(DeColumnas("abcdef", {4000, 3}), "");
 }
 
-TEST_F(Textos, PipeDoesNotHoldTheGame) {
-    const std::string tubo = P().carpeta + "tubo";
-    ASSERT_EQ(mkfifo(tubo.c_str(), 0600), 0);
-    EXPECT_EQ(Lee(tubo), 75);
-    EXPECT_NE(EscribeFichero(tubo, "x"), 0);
+TEST_F(Textos, ColumnsTakeWhatFitsAndLeaveTheRest) {
+    std::string linea = "..........";
+    PonColumnas(linea, {2, 3}, std::string_view("wxyz"));
+    PonColumnas(linea, {6, 3}, std::string_view("a"));
+    EXPECT_EQ(linea, ".wxy.a....");
+    PonColumnas(linea, {1, 2}, 7);
+    PonColumnas(linea, {3, 4}, -35);  // the minus sign comes before four digits
+    PonColumnas(linea, {9, 2}, 456);
+    EXPECT_EQ(linea, "07-003..45");
 }
 
-TEST_F(Textos, FileAboveTheLimitIsRefused) {
-    const std::string ruta = Crea("grande", std::string(1001, 'x'));
-    std::string bytes;
-    EXPECT_EQ(LeeFichero(ruta, bytes, 1000), 7);
-    EXPECT_TRUE(bytes.empty());
-    EXPECT_EQ(LeeFichero(ruta, bytes, 1001), 0);
-    EXPECT_EQ(bytes.size(), 1001U);
-}
-
-TEST_F(Textos, ReadingLooksPastTheCaseOfTheName) {
-    Crea("TSR33.INI", "contenido");
-    std::string bytes;
-    EXPECT_EQ(LeeFichero(P().carpeta + "TsR33.ini", bytes), 0);
-    EXPECT_EQ(bytes, "contenido");
-}
-
-// ---------------------------------------------------------------- writing
-
-TEST_F(Textos, FileIsReplacedWholeAndNothingIsLeftBeside) {
-    const std::string ruta = Crea("a.ini", "un texto más largo que el nuevo");
-    EXPECT_EQ(EscribeFichero(ruta, "nuevo"), 0);
-    EXPECT_EQ(Contenido(ruta), "nuevo");
-    EXPECT_EQ(EscribeFichero(P().carpeta + "b.ini", {}), 0);
-    EXPECT_EQ(Entradas(), 2U);
-}
-
-TEST_F(Textos, WritingGoesToTheFileOfAnotherCase) {
-    Crea("TSR33.INI", "viejo");
-    EXPECT_EQ(EscribeFichero(P().carpeta + "TsR33.ini", "nuevo"), 0);
-    EXPECT_EQ(Contenido(P().carpeta + "TSR33.INI"), "nuevo");
-    EXPECT_EQ(Entradas(), 1U);
-}
-
-TEST_F(Textos, PermissionsAreKept) {
-    const std::string ruta = Crea("a.ini", "viejo");
-    ASSERT_EQ(chmod(ruta.c_str(), 0640), 0);
-    EXPECT_EQ(EscribeFichero(ruta, "nuevo"), 0);
-    struct stat datos {};
-    ASSERT_EQ(stat(ruta.c_str(), &datos), 0);
-    EXPECT_EQ(datos.st_mode & 0777U, 0640U);
-}
-
-TEST_F(Textos, NewFileHasThePermissionsOfAnyOther) {
-    const mode_t antes = umask(027);
-    EXPECT_EQ(EscribeFichero(P().carpeta + "n.ini", "x"), 0);
-    umask(antes);
-    struct stat datos {};
-    ASSERT_EQ(stat((P().carpeta + "n.ini").c_str(), &datos), 0);
-    EXPECT_EQ(datos.st_mode & 0777U, 0640U);
-}
-
-TEST_F(Textos, LinkStaysALink) {
-    const std::string ruta = Crea("real/a.ini", "viejo");
-    const std::string enlace = P().carpeta + "a.ini";
-    fs::create_symlink(ruta, enlace);
-    EXPECT_EQ(EscribeFichero(enlace, "nuevo"), 0);
-    EXPECT_TRUE(fs::is_symlink(enlace));
-    EXPECT_EQ(Contenido(ruta), "nuevo");
-}
-
-TEST_F(Textos, FullDiskLeavesTheOldFile) {
-    const std::string ruta = Crea("a.ini", "viejo");
-    {
-        const DiscoLleno lleno(4);
-        EXPECT_EQ(EscribeFichero(ruta, "un texto que no cabe"), 61);
-        EXPECT_EQ(EscribeFichero(P().carpeta + "nuevo.ini", "no cabe"), 61);
+TEST_F(Textos, FieldThatHoldsNoNumberIsAnError) {
+    EXPECT_EQ(NumeroDeCampo(" 12 "), 12);
+    EXPECT_TRUE(LogicoDeCampo("-1"));
+    EXPECT_FALSE(LogicoDeCampo("0 "));
+    for (const char* campo : {"", "  ", "1x", "uno"}) {
+        const auto error = [&](auto lee) {
+            try {
+                lee(campo);
+            } catch (const ErrorEjecucion& e) {
+                return e.Numero;
+            }
+            return i16{0};
+        };
+        EXPECT_EQ(error(NumeroDeCampo), 13) << campo;
+        EXPECT_EQ(error(LogicoDeCampo), 13) << campo;
     }
-    EXPECT_EQ(Contenido(ruta), "viejo");
-    EXPECT_EQ(Entradas(), 1U);
-}
-
-TEST_F(Textos, FullDeviceIsReportedAndStaysADevice) {
-    EXPECT_EQ(EscribeFichero("/dev/full", "x"), 61);
-    struct stat datos {};
-    ASSERT_EQ(stat("/dev/full", &datos), 0);
-    EXPECT_TRUE(S_ISCHR(datos.st_mode));
-}
-
-TEST_F(Textos, PlacesThatCannotBeWrittenAreErrors) {
-    const std::string fichero = Crea("f", "x");
-    EXPECT_EQ(EscribeFichero(fichero + "/bajo.ini", "x"), 76);
-    EXPECT_EQ(EscribeFichero(P().carpeta + "no/hay.ini", "x"), 76);
-    EXPECT_EQ(EscribeFichero(P().carpeta, "x"), 75);
-    EXPECT_EQ(EscribeFichero({}, "x"), 64);
-    EXPECT_EQ(EscribeFichero(P().carpeta + std::string(300, 'x'), "x"), 64);
-    EXPECT_NE(EscribeFichero("/proc/nada.ini", "x"), 0);
 }
 
 }  // namespace tessario
