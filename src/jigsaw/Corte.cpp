@@ -8,6 +8,7 @@
 #include "panel/Barajado.h"
 #include "panel/Botonera.h"
 #include "panel/Desplazamiento.h"
+#include "panel/Muestra.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 
@@ -32,6 +33,7 @@ void PreparaMuestra() {
     Pic_Muestra.Tamano(Pic_Bitmap.Width() / 2, Pic_Bitmap.Height() / 2);
     StretchBlt(Pic_Muestra, 0, 0, Pic_Muestra.Width(), Pic_Muestra.Height(), Pic_Bitmap, 0, 0,
                Pic_Bitmap.Width(), Pic_Bitmap.Height(), SRCCOPY);
+    EnmarcaMuestra();
     const i32 arriba = BarraHor.Top - Pic_Muestra.Height() - MUESTRA_AL_BORDE;
     const i32 derecha = BarraVer.Left - (arriba < BOTONERA_ALTO ? BOTONERA_ANCHO : 0);
     Pic_Muestra.Mueve(derecha - Pic_Muestra.Width() - MUESTRA_AL_BORDE + BarraHor.Value,

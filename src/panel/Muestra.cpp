@@ -23,6 +23,11 @@ i32 DentroDe(i32 nuevo, i32 minimo, i32 maximo, i32 anterior) {
 
 }  // namespace
 
+void EnmarcaMuestra() {
+    Pic_Muestra.Line(pluma::Desde | pluma::Caja | pluma::ConColor, 0, 0, Pic_Muestra.Width() - 1,
+                     Pic_Muestra.Height() - 1, Gbl.ColorContraste);
+}
+
 void Pic_Muestra_MouseDown(i16 Button, i16, float X, float Y) {
     if (Button != BOTON_IZQUIERDO) return;
     Gbl.AgarreX = EnteroLargo(static_cast<double>(X));

@@ -5,6 +5,10 @@
 
 namespace tessario {
 
+// The thin frame of the sample view, drawn when its picture is new: without it the sample's edge
+// reads as loose pieces.
+void EnmarcaMuestra();
+
 void Pic_Muestra_MouseDown(i16 Button, i16 Shift, float X, float Y);
 void Pic_Muestra_MouseMove(i16 Button, i16 Shift, float X, float Y);
 void Pic_Muestra_MouseUp(i16 Button, i16 Shift, float X, float Y);

@@ -1,6 +1,7 @@
 #include "qt/Sonidos.h"
 
 #include <SDL.h>
+#include <dlfcn.h>
 
 #include <QFile>
 #include <algorithm>
@@ -19,14 +20,19 @@ constexpr int BYTES_SEGUNDO = FRECUENCIA * CANALES * 2;
 constexpr Uint16 TROZO = 1024;  // frames that the device takes at a time
 constexpr i32 TROZO_MS = TROZO * 1000 / FRECUENCIA + 1;
 constexpr i32 DEMORA_MAXIMA_MS = 300;  // a device this late is taken for dead
+constexpr i32 SILENCIO_MS = 4000;      // of silence before the device is given back
+constexpr i32 REINTENTO_MS = 30000;    // before a device that could not be opened is tried again
 
 }  // namespace
 
 struct Sonidos::Estado {
-    std::mutex cerrojo;  // guards the passage from starting to ready, or to closing
-    std::atomic<bool> listo{false};
-    std::atomic<SDL_AudioDeviceID> aparato{0};
-    bool cerrando = false;
+    enum Fase { Cerrado, Abriendo, Abierto, SinAparato };
+    std::mutex cerrojo;  // guards all fields; `fase` may be read without it
+    std::atomic<Fase> fase{Cerrado};
+    SDL_AudioDeviceID aparato = 0;
+    bool terminado = false;                            // the owner is gone
+    std::vector<u8> pendiente;                         // to be played when the device is open
+    std::chrono::steady_clock::time_point desde = {};  // of `pendiente`, or of the failure
 };
 
 namespace {
@@ -37,7 +43,17 @@ std::mutex& Turno() {
     return turno;
 }
 
+// The machine's sound library reports on the terminal what it tries in vain; nobody reads it there.
+void Calla(const char*, int, const char*, int, const char*, ...) {}
+
+void CallaBiblioteca() {
+    using Pon = int (*)(decltype(&Calla));
+    if (void* const pon = dlsym(RTLD_DEFAULT, "snd_lib_error_set_handler"))
+        reinterpret_cast<Pon>(pon)(Calla);
+}
+
 SDL_AudioDeviceID AbreAparato() {
+    CallaBiblioteca();
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Tessario");
     if (SDL_AudioInit(nullptr) != 0) return 0;
@@ -59,38 +75,73 @@ void CierraAparato(SDL_AudioDeviceID a) {
 }  // namespace
 
 Sonidos::Sonidos() : estado_(std::make_shared<Estado>()) {
+    silencio_.setSingleShot(true);
+    silencio_.setInterval(SILENCIO_MS);
+    QObject::connect(&silencio_, &QTimer::timeout, &silencio_, [this] { Descansa(); });
+}
+
+Sonidos::~Sonidos() {
+    SDL_AudioDeviceID a = 0;
+    {
+        // An opening that is still under way, or hangs, is left behind and cleans up after itself.
+        const std::lock_guard paso(estado_->cerrojo);
+        estado_->terminado = true;
+        if (estado_->fase != Estado::Abierto) return;
+        a = estado_->aparato;
+    }
+    const std::lock_guard turno(Turno());
+    CierraAparato(a);
+}
+
+void Sonidos::Despierta() {
+    using namespace std::chrono;
+    {
+        const std::lock_guard paso(estado_->cerrojo);
+        const bool otraVez = estado_->fase == Estado::SinAparato &&
+                             steady_clock::now() - estado_->desde > milliseconds(REINTENTO_MS);
+        if (estado_->fase != Estado::Cerrado && !otraVez) return;
+        estado_->fase = Estado::Abriendo;
+    }
     std::thread([e = estado_] {
         const std::lock_guard turno(Turno());
         const SDL_AudioDeviceID a = AbreAparato();
         const std::lock_guard paso(e->cerrojo);
-        if (e->cerrando) {
+        if (e->terminado || a == 0) {
             CierraAparato(a);
+            e->desde = steady_clock::now();
+            e->fase = Estado::SinAparato;
             return;
         }
+        if (steady_clock::now() - e->desde < milliseconds(DEMORA_MAXIMA_MS))
+            SDL_QueueAudio(a, e->pendiente.data(), static_cast<Uint32>(e->pendiente.size()));
+        e->pendiente.clear();
         e->aparato = a;
-        e->listo = true;
+        e->fase = Estado::Abierto;
     }).detach();
 }
 
-Sonidos::~Sonidos() {
+void Sonidos::Descansa() {
+    SDL_AudioDeviceID a = 0;
     {
-        // A start that is still under way, or hangs, is left behind and cleans up after itself.
         const std::lock_guard paso(estado_->cerrojo);
-        estado_->cerrando = true;
-        if (!estado_->listo) return;
+        if (estado_->fase != Estado::Abierto) return;
+        std::swap(a, estado_->aparato);
+        estado_->fase = Estado::Cerrado;
     }
-    const std::lock_guard turno(Turno());
-    CierraAparato(estado_->aparato);
+    std::thread([a] {
+        const std::lock_guard turno(Turno());
+        CierraAparato(a);
+    }).detach();
 }
 
 bool Sonidos::Dispuesto(i32 milisegundos) const {
-    for (i32 i = 0; i < milisegundos && !estado_->listo; ++i)
+    for (i32 i = 0; i < milisegundos && estado_->fase == Estado::Abriendo; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    return estado_->listo;
+    return estado_->fase != Estado::Abriendo;
 }
 
 bool Sonidos::HayAparato() const {
-    return estado_->listo && estado_->aparato != 0;
+    return estado_->fase == Estado::Abierto;
 }
 
 const std::vector<u8>& Sonidos::Muestras(i16 id) {
@@ -124,13 +175,29 @@ i32 Sonidos::Duracion(i16 id) {
 
 void Sonidos::Suena(i16 id, bool asincrono) {
     using namespace std::chrono;
-    if (!HayAparato()) return;
     const std::vector<u8>& m = Muestras(id);
     if (m.empty()) return;
-    const SDL_AudioDeviceID a = estado_->aparato;
-    SDL_ClearQueuedAudio(a);
-    if (SDL_QueueAudio(a, m.data(), static_cast<Uint32>(m.size())) != 0 || asincrono) return;
+    silencio_.start(SILENCIO_MS + Duracion(id));
+    Despierta();
+    SDL_AudioDeviceID a = 0;
+    {
+        const std::lock_guard paso(estado_->cerrojo);
+        if (estado_->fase == Estado::Abriendo) {
+            estado_->pendiente = m;
+            estado_->desde = steady_clock::now();
+        } else if (estado_->fase == Estado::Abierto) {
+            a = estado_->aparato;
+            SDL_ClearQueuedAudio(a);
+            SDL_QueueAudio(a, m.data(), static_cast<Uint32>(m.size()));
+        }
+    }
+    if (asincrono) return;
     const auto tope = steady_clock::now() + milliseconds(Duracion(id) + DEMORA_MAXIMA_MS);
+    // One that waits for the device is waited for with it, but no longer than a device may take.
+    if (a == 0) {
+        if (!Dispuesto(DEMORA_MAXIMA_MS) || !HayAparato()) return;
+        a = estado_->aparato;
+    }
     while (SDL_GetQueuedAudioSize(a) > 0 && steady_clock::now() < tope)
         std::this_thread::sleep_for(milliseconds(2));
     // What the device has taken last is still to be heard.

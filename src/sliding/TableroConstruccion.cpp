@@ -7,6 +7,7 @@
 #include "core/Superficies.h"
 #include "panel/Botonera.h"
 #include "panel/Desplazamiento.h"
+#include "panel/Muestra.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
 #include "sliding/Tablero.h"
@@ -49,6 +50,7 @@ void PreparaMuestra() {
     Pic_Muestra.PonPicture(Pic_FonTamModi.Picture());
     Pic_Muestra.Tamano(Entero(Gbl.AnchoPuzzle / 2.0), Entero(Gbl.AltoPuzzle / 2.0));
     EstiraImagen(Pic_Muestra, 0, 0, Pic_Muestra.Width(), Pic_Muestra.Height());
+    EnmarcaMuestra();
     Pic_Muestra.Mueve(Gbl.AnchoPantalla - Pic_Muestra.Width() - BORDE_MUESTRA,
                       Gbl.AltoPantalla - Pic_Muestra.Height() - BORDE_MUESTRA);
     Pic_Muestra.Visible = Gbl.MostrarMuestra;

@@ -175,9 +175,14 @@ TEST_F(Corte, TheSampleShowsThePictureWithoutTheCut) {
     for (const i16 forma : std::vector<i16>{0, 2, 3}) {
         Monta(forma, 4, 400, 300, true);
         Monta(forma, 4, 400, 300, true);  // a rebuild finds the lines of the first
-        for (i32 y = 0; y < Pic_Muestra.Height(); ++y)
-            for (i32 x = 0; x < Pic_Muestra.Width(); ++x)
-                ASSERT_EQ(Pic_Muestra.Fila(y)[x], PixelDeMuestra(2 * x + 1, 2 * y + 1));
+        const i32 der = Pic_Muestra.Width() - 1, aba = Pic_Muestra.Height() - 1;
+        const Pixel filete = PixelDe(Gbl.ColorContraste);
+        for (i32 y = 0; y <= aba; ++y)
+            for (i32 x = 0; x <= der; ++x) {
+                const bool borde = x == 0 || y == 0 || x == der || y == aba;
+                ASSERT_EQ(Pic_Muestra.Fila(y)[x],
+                          borde ? filete : PixelDeMuestra(2 * x + 1, 2 * y + 1));
+            }
     }
 }
 

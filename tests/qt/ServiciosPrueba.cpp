@@ -345,6 +345,7 @@ TEST_F(VistaDeServicios, TheClipboardGivesPicturesOfAnyDepth) {
 
 TEST_F(VistaDeServicios, AWaitingSoundReturnsWhenItHasEnded) {
     Sonidos s;
+    s.Despierta();
     ASSERT_TRUE(s.Dispuesto(5000));
     ASSERT_TRUE(s.HayAparato());
     const i32 dura = s.Duracion(9);
@@ -361,6 +362,7 @@ TEST_F(VistaDeServicios, AWaitingSoundReturnsWhenItHasEnded) {
 
 TEST_F(VistaDeServicios, ASoundCutsTheOneBeforeAndUnknownOnesAreSilent) {
     Sonidos s;
+    s.Despierta();
     ASSERT_TRUE(s.Dispuesto(5000));
     const i32 corto = s.Duracion(6), largo = s.Duracion(14);
     ASSERT_LT(corto + 400, largo);
@@ -374,6 +376,21 @@ TEST_F(VistaDeServicios, ASoundCutsTheOneBeforeAndUnknownOnesAreSilent) {
     EXPECT_LT(t.elapsed(), 50);
 }
 
+TEST_F(VistaDeServicios, TheDeviceIsOpenOnlyWhileItIsOfUse) {
+    Sonidos s;
+    QTest::qWait(20);
+    EXPECT_FALSE(s.HayAparato()) << "nothing has sounded yet";
+    s.Suena(12345, true);
+    EXPECT_FALSE(s.HayAparato());
+    s.Suena(9, false);
+    EXPECT_TRUE(s.HayAparato());
+    s.Descansa();
+    EXPECT_FALSE(s.HayAparato());
+    s.Suena(9, false);
+    EXPECT_TRUE(s.HayAparato()) << "and again";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !s.HayAparato(); }, 10000)) << "given back by itself";
+}
+
 // Without the fixture: its own sound, still starting, would write into the same file.
 TEST(SonidoEnDisco, TheSamplesOfTheSoundReachTheDevice) {
     const QTemporaryDir carpeta;
@@ -382,6 +399,7 @@ TEST(SonidoEnDisco, TheSamplesOfTheSoundReachTheDevice) {
     qputenv("SDL_DISKAUDIOFILE", salida.toLocal8Bit());
     {
         Sonidos s;
+        s.Despierta();
         ASSERT_TRUE(s.Dispuesto(5000));
         ASSERT_TRUE(s.HayAparato());
         s.Suena(9, false);
@@ -402,6 +420,7 @@ TEST(SonidoEnDisco, TheSamplesOfTheSoundReachTheDevice) {
 TEST_F(VistaDeServicios, WithoutADeviceSoundsAreSilentAndNothingWaits) {
     qputenv("SDL_AUDIODRIVER", "noexiste");
     Sonidos s;
+    s.Despierta();
     EXPECT_TRUE(s.Dispuesto(5000));
     EXPECT_FALSE(s.HayAparato());
     QElapsedTimer t;
