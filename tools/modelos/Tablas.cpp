@@ -4,10 +4,12 @@
 
 #include "core/PuzzGbl.h"
 #include "rules/Medidas.h"
+#include "start/Juegos.h"
 
 namespace tessario::modelos {
 
 void PreparaTablas() {
+    InstalaJuegos();
     Gbl.JuegoActual = JuegoTangram;
     Gbl.ModoJuego = MODO_CREAR;
     Gbl.AnchoPantalla = 800;
