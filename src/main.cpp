@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr tessario::i16 SONIDO_MANDO = 6;
-
 constexpr char SIN_PANTALLA[] =
     "tessario: no hay ninguna pantalla en la que abrir la ventana del juego.\n"
     "Inicie el programa desde una sesión gráfica (variable DISPLAY o WAYLAND_DISPLAY).\n";
@@ -58,7 +56,7 @@ int main(int argc, char** argv) {
     }
     unica.AlLlamar([&] { plataforma.TraeAlFrente(); });
     PonSistema(&plataforma);
-    plataforma.SonidoDeMando = [] { SonidoJuego(1, SONIDO_MANDO); };
+    plataforma.SonidoDeMando = [] { SonidoJuego(1, sonido::TECLA); };
     const Senales senales([&] {
         CopiaAlTerminar();
         plataforma.Termina();

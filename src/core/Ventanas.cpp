@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -17,10 +18,8 @@ Ventana Careta;
 
 namespace {
 
-constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080;
-// The program's own: cream ground, cobalt title, terracotta edge and rule.
-constexpr Color CREMA = 0xD2E9F4, COBALTO = 0x9A3F1F, TERRACOTA = 0x3C51B2;
-constexpr i16 SONIDO_BOTON = 9;
+// Cream ground, cobalt title, terracotta edge and rule.
+using paleta::BLANCO, paleta::GRIS, paleta::CREMA, paleta::COBALTO, paleta::TERRACOTA;
 constexpr i16 PAUSA_CARETA = 1500;
 constexpr i16 VELOCIDAD_INICIAL = 50;
 
@@ -94,7 +93,7 @@ void ColocaBotones() {
         b.cuadro->Tamano(lugar::LadoBoton, lugar::LadoBoton);
         BitBlt(*b.cuadro, 0, 0, lugar::LadoBoton, lugar::LadoBoton, Pic_BmpBoton,
                b.tesela * PASO_TESELA, PASO_TESELA, SRCCOPY);
-        PonCursor(*b.cuadro, "ManoIndice");
+        PonCursor(*b.cuadro, cursor::MANO_INDICE);
     }
     const bool pregunta = Gbl.BotonesMensaje != 1;
     Pic_BotAyudaMensaje.Visible = Gbl.AyudaMensaje != 0;
@@ -112,18 +111,18 @@ void Mensajes_Load() {
 }
 
 void Responde(bool si) {
-    SonidoJuego(1, SONIDO_BOTON);
+    SonidoJuego(1, sonido::BOTON);
     Gbl.RespuestaMensaje = si;
     Sistema().Cierra(Mensajes);
 }
 
 void Pic_BotSalirMensaje_Click() {
-    SonidoJuego(1, SONIDO_BOTON);
+    SonidoJuego(1, sonido::BOTON);
     Sistema().Cierra(Mensajes);
 }
 
 void Pic_BotAyudaMensaje_Click() {
-    SonidoJuego(1, SONIDO_BOTON);
+    SonidoJuego(1, sonido::BOTON);
     Ayuda(Gbl.AyudaMensaje);
 }
 

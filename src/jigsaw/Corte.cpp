@@ -11,13 +11,11 @@
 #include "panel/Muestra.h"
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
 namespace {
-
-constexpr i32 MESA_LIBRE = 200;       // free table to the right of the picture and below, pixels
-constexpr i32 MUESTRA_AL_BORDE = 15;  // from the sample view to the edges of the work area, pixels
 
 void PreparaBitmap() {
     Pic_Bitmap.Tamano(Gbl.AnchoPuzzle, Gbl.AltoPuzzle);
@@ -66,7 +64,7 @@ void PreparaCaja() {
     Gbl.AnchoPieza = Gbl.AnchoCelda;
     Gbl.AltoPieza = Gbl.AltoCelda;
     Gbl.SalienteX = Gbl.SalienteY = 0;
-    if (Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2) CreaPlantillas();
+    if (SeCortaConPlantillas()) CreaPlantillas();
     Gbl.PasoOrdenar = std::max(Gbl.AnchoPieza, Gbl.AltoPieza);
 }
 

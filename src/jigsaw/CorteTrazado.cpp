@@ -5,6 +5,7 @@
 #include "core/PuzzGbl.h"
 #include "jigsaw/Corte.h"
 #include "jigsaw/Plantillas.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
@@ -165,14 +166,14 @@ void TrazaEstrellas(Superficie& s) {
 }
 
 using Trazado = void (*)(Superficie&);
-constexpr Trazado TRAZADOS[8] = {TrazaRectangulos, TrazaCurvados, TrazaIrregulares,
-                                 TrazaTriangulos,  TrazaCirculos, TrazaRectangulosDobles,
-                                 TrazaElipses,     TrazaEstrellas};
+constexpr Trazado TRAZADOS[FORMAS_DE_PIEZA] = {
+    TrazaRectangulos, TrazaCurvados,          TrazaIrregulares, TrazaTriangulos,
+    TrazaCirculos,    TrazaRectangulosDobles, TrazaElipses,     TrazaEstrellas};
 
 }  // namespace
 
 void TrazaCortes(Superficie& surface) {
-    if (Gbl.FormaPiezas < 0 || Gbl.FormaPiezas > 7) return;
+    if (!EsForma(Gbl.FormaPiezas)) return;
     TRAZADOS[Gbl.FormaPiezas](surface);
 }
 

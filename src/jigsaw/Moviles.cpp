@@ -6,16 +6,16 @@
 #include "core/Superficies.h"
 #include "jigsaw/Corte.h"
 #include "jigsaw/Reparto.h"
+#include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Moldes.h"
 #include "pieces/Raster.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
 namespace {
-
-constexpr i16 FORMA_CURVADOS = 1, FORMA_TRIANGULOS = 3;
 
 // ---------------------------------------------------------------- sizes
 i16 Cociente(i32 dividendo, i32 divisor) {
@@ -32,16 +32,8 @@ i16 CeldaDeImagen(i32 lado) {
     return Cociente(EnteroLargo(conZoom), Gbl.PiezasPorLado);
 }
 
-// The cuts of two shapes need cells of a certain parity.
-void AjustaParidad() {
-    if (Gbl.FormaPiezas == FORMA_CURVADOS) {
-        if (EsPar(Gbl.AnchoCelda)) --Gbl.AnchoCelda;
-        if (EsPar(Gbl.AltoCelda)) --Gbl.AltoCelda;
-    } else if (Gbl.FormaPiezas == FORMA_TRIANGULOS) {
-        // Deliberate: width odd, height even; the triangle cut needs the asymmetry.
-        if (EsPar(Gbl.AnchoCelda)) --Gbl.AnchoCelda;
-        if (!EsPar(Gbl.AltoCelda)) --Gbl.AltoCelda;
-    }
+void AjustaParidad(i16& lado, Paridad paridad) {
+    if (paridad == (EsPar(lado) ? Paridad::Impar : Paridad::Par)) --lado;
 }
 
 void MideMoviles() {
@@ -49,7 +41,10 @@ void MideMoviles() {
     Sigue([&] { Gbl.NumPiezas = Entero(lado * lado * Gbl.PiezasPorCelda); });
     Sigue([] { Gbl.AnchoCelda = CeldaDeImagen(Gbl.AnchoImagen); });
     Sigue([] { Gbl.AltoCelda = CeldaDeImagen(Gbl.AltoImagen); });
-    AjustaParidad();
+    if (EsForma(Gbl.FormaPiezas)) {
+        AjustaParidad(Gbl.AnchoCelda, FichaDeForma(Gbl.FormaPiezas).Ancho);
+        AjustaParidad(Gbl.AltoCelda, FichaDeForma(Gbl.FormaPiezas).Alto);
+    }
     Sigue([] { Gbl.AnchoPuzzle = Corto(Gbl.AnchoCelda * Gbl.PiezasPorLado); });
     Sigue([] { Gbl.AltoPuzzle = Corto(Gbl.AltoCelda * Gbl.PiezasPorLado); });
     Gbl.MargenX = Gbl.MargenY = 0;
@@ -97,7 +92,7 @@ Punto SaltoDelTriangulo(i16 piece) {
 
 // The box turns about its centre; a triangle stays in its quarter of the cell.
 Punto SaltoDeGiro(i16 piece, i16) {
-    if (Gbl.FormaPiezas == FORMA_TRIANGULOS) return SaltoDelTriangulo(piece);
+    if (Gbl.FormaPiezas == forma::TRIANGULOS) return SaltoDelTriangulo(piece);
     const Pieza& p = Gbl.Piezas[piece];
     const i32 ancho = AnchoDePieza(piece, p.Giro, p.Volteo);
     const i32 alto = AltoDePieza(piece, p.Giro, p.Volteo);
@@ -110,7 +105,6 @@ bool GiroCorrectoMoviles(i16 piece) {
 }
 
 // ---------------------------------------------------------------- tutor
-constexpr i16 SONIDO_TUTOR = 55;
 constexpr i16 PAUSA_DESTELLO = 130, PAUSA_ENTRE = 170;
 
 // The table's pen inverts what it paints on, for as long as this lives.
@@ -130,7 +124,7 @@ void SenalaSitio(i16 piece) {
     const Pieza& p = Gbl.Piezas[piece];
     Pic_Trabajo.Line(pluma::Desde | pluma::Caja | pluma::Llena, p.XBien, p.YBien,
                      p.XBien + Gbl.AnchoCelda, p.YBien + Gbl.AltoCelda);
-    SonidoJuego(1, SONIDO_TUTOR);
+    SonidoJuego(1, sonido::TUTOR);
     Pausa(PAUSA_DESTELLO);
     // Deliberate: the piece comes back above its neighbours, though its place in the stacking
     // order is the old one; the next redraw of its surroundings puts that right.
@@ -181,7 +175,7 @@ i32 PiezasQueTocan() {
 const Juego JUEGO_MOVILES = {
     .Numero = JuegoMoviles,
     .Nombre = "Puzzle de piezas móviles",
-    .Sugerencia = 21,
+    .Sugerencia = sugerencia::MOVILES,
     .PiezasPorDefecto = 25,
     .Imagen = UsoDeImagen::Necesario,
     .MuestraPorDefecto = true,

@@ -2,6 +2,7 @@
 
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
@@ -172,7 +173,7 @@ Arco ArcoCurvado(LadoCurvado lado, double x, double y, double inicio, double fin
 }
 
 void CreaPlantillas() {
-    const bool curvados = Gbl.FormaPiezas == 1;
+    const bool curvados = Gbl.FormaPiezas == forma::CURVADOS;
     PreparaPlantillas(curvados ? SALIENTE_CURVADOS : SALIENTE_IRREGULARES);
     if (curvados) {
         Gbl.Aspecto = CURVADO_ASPECTO;

@@ -1,5 +1,6 @@
 #include "jigsaw/Reparto.h"
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Barajado.h"
@@ -7,13 +8,13 @@
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
+#include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr i16 FORMA_TRIANGULOS = 3;
 constexpr i32 PASADAS_ORDEN = 4;         // shuffles of the stacking order
 constexpr i32 RECHAZOS_MAXIMOS = 10000;  // places refused to one piece of the jigsaw
 
@@ -108,7 +109,7 @@ i32 LineaLateral::Avanza(i32 ancho, i32 alto) {
 void OrdenaMovil(LineaLateral& linea, i16 q) {
     i32 ancho = AnchoDePieza(q, Gbl.Piezas[q].Giro, Gbl.Piezas[q].Volteo);
     i32 alto = AltoDePieza(q, Gbl.Piezas[q].Giro, Gbl.Piezas[q].Volteo);
-    const bool triangulo = Gbl.FormaPiezas == FORMA_TRIANGULOS;
+    const bool triangulo = Gbl.FormaPiezas == forma::TRIANGULOS;
     if (triangulo) {
         MideTriangulo(q);
         ancho = Gbl.TriAncho;
@@ -126,7 +127,7 @@ void OrdenaMovil(LineaLateral& linea, i16 q) {
 
 // ---------------------------------------------------------------- triangles
 // Does the line of the mask meet the piece, that is, a pixel that is not white?
-constexpr Color BLANCO = 0xFFFFFF;
+using paleta::BLANCO;
 bool FilaTocada(i32 y) {
     for (i32 x = 0; x < Pic_PiezaMascara.Width(); ++x)
         if (Pic_PiezaMascara.Point(x, y) != BLANCO) return true;

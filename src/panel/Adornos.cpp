@@ -2,13 +2,14 @@
 
 #include "core/Cadenas.h"
 #include "core/Numeros.h"
+#include "core/Paleta.h"
 #include "core/Superficies.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080, AZUL = 0xFF0000;
+using paleta::BLANCO, paleta::GRIS, paleta::AZUL;
 constexpr int RECTA = pluma::Desde | pluma::ConColor;
 constexpr int CAJA_DESDE = RECTA | pluma::Relativo | pluma::Caja;
 

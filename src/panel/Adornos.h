@@ -4,13 +4,14 @@
 
 #include <string>
 
+#include "core/Paleta.h"
 #include "platform/Controles.h"
 #include "platform/Superficie.h"
 
 namespace tessario {
 
 // The ground of the windows and of their groups.
-inline constexpr Color FONDO_VENTANA = 0xC0C0C0;
+inline constexpr Color FONDO_VENTANA = paleta::GRIS_CLARO;
 inline constexpr i32 ALTO_BOTON_LARGO = 23;  // pixels; its width is the surface's own
 
 // A raised edge one pixel wide round the whole window.

@@ -14,14 +14,12 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11;
-constexpr i16 SONIDO_SUELTA = 52;
 constexpr i32 MOVIMIENTOS_INICIALES = 100;  // upper bound of a new log
 
 }  // namespace
 
 void BarajaPiezas() {
-    AplicaCursor(CURSOR_RELOJ);
+    AplicaCursor(cursor::RELOJ);
     Gbl.Barajando = true;
     CambiaCrono(CRONO_PARO);
     Sigue([] { JuegoEnCurso().Baraja(); });
@@ -31,7 +29,7 @@ void BarajaPiezas() {
     else
         ColocaPiezas(0);
     Gbl.Barajando = Gbl.SinPausas = false;
-    AplicaCursor(CURSOR_NORMAL);
+    AplicaCursor(cursor::NORMAL);
 }
 
 void ReiniciaPartida() {
@@ -46,11 +44,11 @@ void ReiniciaPartida() {
 }
 
 void OrdenaLaterales() {
-    AplicaCursor(CURSOR_RELOJ);
+    AplicaCursor(cursor::RELOJ);
     if (const auto ordena = JuegoEnCurso().OrdenaLaterales) Sigue(ordena);
     Gbl.ArrastrandoPieza = false;
     Gbl.OrdenandoPiezas = false;
-    AplicaCursor(CURSOR_NORMAL);
+    AplicaCursor(cursor::NORMAL);
 }
 
 void ApartaPieza(i16 piece, i32 x, i32 y) {
@@ -58,7 +56,7 @@ void ApartaPieza(i16 piece, i32 x, i32 y) {
     Gbl.XOrigen = antes.X;
     Gbl.YOrigen = antes.Y;
     DeslizaPieza(antes.X, antes.Y, Corto(x), Corto(y), piece);
-    SonidoJuego(0, SONIDO_SUELTA);
+    SonidoJuego(0, sonido::CAE);
     RegistraMovimiento(PiezaEnOrigen(piece), Gbl.Piezas[piece]);
 }
 

@@ -1,10 +1,12 @@
 #include "panel/Botonera.h"
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 
@@ -12,14 +14,14 @@ namespace tessario {
 
 namespace {
 
-constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = 0x3C51B2;
+constexpr Color COLOR_OSCURO = 1186423, COLOR_CLARO = 6719726, COLOR_TIRA = paleta::TERRACOTA;
 constexpr i32 LADO_BOTON = 48, PASO_BOTON = 49;  // tiles of Pic_BmpBoton
 
 struct LugarBoton {
     i16 x, y;
     const char* ayuda;
 };
-constexpr LugarBoton LUGARES[12] = {
+constexpr LugarBoton LUGARES[ORDENES_DE_LA_TIRA] = {
     {15, 194, " Barajar las piezas "},
     {15, 10, " Personalizar "},
     {15, 68, " Tutor de juego "},
@@ -33,8 +35,8 @@ constexpr LugarBoton LUGARES[12] = {
     {15, 252, " Ordenar las piezas "},
     {78, 310, " Resolver el puzzle "},
 };
-constexpr i16 BOTON_OCULTAS = 9;
-constexpr i16 ULTIMO_DE_GRUPO[2] = {7, 12};  // a separator follows below each
+constexpr i16 ULTIMO_DE_GRUPO[2] = {orden::SALIR,
+                                    orden::RESOLVER};  // a separator follows below each
 constexpr i32 HUECO_SEPARADOR = 9;
 
 // Instruments below the second separator: place relative to it, size.
@@ -60,7 +62,7 @@ void PintaMarco() {
 }
 
 void ColocaBotones() {
-    for (i32 i = 1; i <= 12; ++i) {
+    for (i32 i = 1; i <= ORDENES_DE_LA_TIRA; ++i) {
         const LugarBoton& lugar = LUGARES[i - 1];
         Gbl.BotonX[i] = lugar.x;
         Gbl.BotonY[i] = lugar.y;
@@ -68,7 +70,7 @@ void ColocaBotones() {
         boton.Mueve(lugar.x, lugar.y);
         boton.Tamano(LADO_BOTON, LADO_BOTON);
         boton.ToolTipText = lugar.ayuda;
-        boton.Visible = i != BOTON_OCULTAS || JuegoEnCurso().OrdenOcultas;
+        boton.Visible = i != orden::OCULTAS || JuegoEnCurso().OrdenOcultas;
         BitBlt(boton, 0, 0, LADO_BOTON, LADO_BOTON, Pic_BmpBoton, (i - 1) * PASO_BOTON, 0, SRCCOPY);
     }
 }

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "core/Cadenas.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -19,7 +20,7 @@ namespace {
 constexpr i32 INTERRUPTOR_ANCHO = 39, INTERRUPTOR_ALTO = 13;
 constexpr Punto INTERRUPTOR_MARCHA{57, 6}, INTERRUPTOR_PARO{6, 6}, INTERRUPTOR_LUGAR{10, 4};
 constexpr i16 ZONA_INTERRUPTOR = 23;  // value of ZonaCrono over the switch
-constexpr Color MARCO_NEGRO = 0, MARCO_GRIS = 0x808080, MARCO_CLARO = 0xE0E0E0;
+constexpr Color MARCO_NEGRO = paleta::NEGRO, MARCO_GRIS = paleta::GRIS, MARCO_CLARO = 0xE0E0E0;
 
 // Colours of the display: ground, three inner edges from the outside in, text and its shadow.
 constexpr Color VISOR_FONDO = 10535840;
@@ -32,7 +33,6 @@ constexpr EstiloVisor VISOR_RELIEVE{6719726, 1186423}, VISOR_HUNDIDO{16777215, 8
 constexpr i16 LETRA_VISOR = 12;  // pixels
 
 constexpr i32 SEGUNDOS_DIA = 86400;
-constexpr u32 ESPERA_SUGERENCIA = 15000;  // ms between two hints
 
 // A horizontal or vertical line of so many pixels.
 void LineaHor(Superficie& s, i32 x, i32 y, i32 largo, Color color) {
@@ -72,36 +72,39 @@ struct BandaSugerencia {
     i16 sugerencia;
 };
 const BandaSugerencia BANDAS[] = {
-    {1, 5, Siempre, 10},
-    {6, 10, Siempre, 15},
-    {11, 15, AlgunaColocada, 32},
+    {1, 5, Siempre, sugerencia::JUEGO},
+    {6, 10, Siempre, sugerencia::AJUSTES},
+    {11, 15, AlgunaColocada, sugerencia::COLOCADAS},
     {16, 20, Siempre, SEGUN_BORDE},
-    {21, 25, SinTerminar, 45},
-    {26, 30, [] { return SinTerminar() && !Gbl.TutorEsperando; }, 50},
-    {31, 35, [] { return JuegoEnCurso().AtraeASuSitio(); }, 25},
-    {36, 40, [] { return JuegoEnCurso().OrdenOcultas && AlgunaColocada() && SinTerminar(); }, 30},
-    {41, 45, [] { return JuegoEnCurso().OrdenaLaterales && SinTerminar(); }, 34},
-    {46, 50, [] { return JuegoEnCurso().OrdenaAMano && SinTerminar(); }, 36},
-    {51, 55, [] { return JuegoEnCurso().HayMuestra() && !Gbl.MostrarMuestra; }, 40},
-    {56, 60, [] { return JuegoEnCurso().SugiereGiro() && SinTerminar(); }, 47},
-    {61, 65, [] { return JuegoEnCurso().EligeFondo; }, 60},
-    {66, 70, [] { return JuegoEnCurso().TieneModos; }, 63},
-    {71, 75, [] { return JuegoEnCurso().TieneFormas; }, 65},
-    {76, 80, [] { return JuegoEnCurso().SeAtraen; }, 67},
-    {81, 85, [] { return !CreandoFiguras(); }, 75},
-    {86, 90, Siempre, 77},
-    {91, 95, CreandoFiguras, 78},
-    {96, 99, [] { return !CreandoFiguras(); }, 80},
+    {21, 25, SinTerminar, sugerencia::RESOLVER},
+    {26, 30, [] { return SinTerminar() && !Gbl.TutorEsperando; }, sugerencia::TUTOR},
+    {31, 35, [] { return JuegoEnCurso().AtraeASuSitio(); }, sugerencia::ATRACCION},
+    {36, 40, [] { return JuegoEnCurso().OrdenOcultas && AlgunaColocada() && SinTerminar(); },
+     sugerencia::OCULTAS},
+    {41, 45, [] { return JuegoEnCurso().OrdenaLaterales && SinTerminar(); }, sugerencia::ORDENAR},
+    {46, 50, [] { return JuegoEnCurso().OrdenaAMano && SinTerminar(); },
+     sugerencia::ORDENAR_A_MANO},
+    {51, 55, [] { return JuegoEnCurso().HayMuestra() && !Gbl.MostrarMuestra; },
+     sugerencia::MUESTRA},
+    {56, 60, [] { return JuegoEnCurso().SugiereGiro() && SinTerminar(); }, sugerencia::GIRO},
+    {61, 65, [] { return JuegoEnCurso().EligeFondo; }, sugerencia::FONDO},
+    {66, 70, [] { return JuegoEnCurso().TieneModos; }, sugerencia::MODOS},
+    {71, 75, [] { return JuegoEnCurso().TieneFormas; }, sugerencia::FORMAS},
+    {76, 80, [] { return JuegoEnCurso().SeAtraen; }, sugerencia::ENTRE_PIEZAS},
+    {81, 85, [] { return !CreandoFiguras(); }, sugerencia::GRABADORA},
+    {86, 90, Siempre, sugerencia::GUARDAR},
+    {91, 95, CreandoFiguras, sugerencia::MODELO},
+    {96, 99, [] { return !CreandoFiguras(); }, sugerencia::HISTORICO},
     {100, 120, Siempre, SEGUN_JUEGO},
 };
 constexpr double SORTEO_SUGERENCIAS = 120;
-constexpr i16 SUGERENCIA_TUTOR = 55, SUGERENCIA_MUESTRA = 40, SUGERENCIA_AJUSTES = 15;
 
 i16 SugerenciaDeSorteo(double r) {
     for (const BandaSugerencia& b : BANDAS) {
         if (r < b.desde || r > b.hasta) continue;
         if (!b.vale()) return 0;
-        if (b.sugerencia == SEGUN_BORDE) return Gbl.DibujarBorde ? 42 : 43;
+        if (b.sugerencia == SEGUN_BORDE)
+            return Gbl.DibujarBorde ? sugerencia::QUITAR_BORDE : sugerencia::PONER_BORDE;
         if (b.sugerencia == SEGUN_JUEGO) return JuegoEnCurso().Sugerencia;
         return b.sugerencia;
     }
@@ -156,10 +159,10 @@ void Tic() {
         PintaTiempo();
     }
     // Deliberate: nothing shows this hint; the test stands for one that may come.
-    if (Gbl.SugerenciaActual == SUGERENCIA_TUTOR && !Gbl.TutorEsperando)
-        Sugerencia(SUGERENCIA_AJUSTES);
-    if (Gbl.SugerenciaActual == SUGERENCIA_MUESTRA && Gbl.MostrarMuestra)
-        Sugerencia(SUGERENCIA_AJUSTES);
+    if (Gbl.SugerenciaActual == sugerencia::TUTOR_INDICA && !Gbl.TutorEsperando)
+        Sugerencia(sugerencia::AJUSTES);
+    if (Gbl.SugerenciaActual == sugerencia::MUESTRA && Gbl.MostrarMuestra)
+        Sugerencia(sugerencia::AJUSTES);
     EligeSugerencia();
 }
 
@@ -202,7 +205,7 @@ void Pic_Cronome_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
         Pic_Cronome.ToolTipText.clear();
         return;
     }
-    PonCursor(Pic_Cronome, "ManoIndice");
+    PonCursor(Pic_Cronome, cursor::MANO_INDICE);
     Pic_Cronome.ToolTipText =
         Gbl.CronoEnMarcha ? " Parar el cronómetro " : " Activar el cronómetro ";
 }
@@ -214,7 +217,7 @@ std::vector<Rect> ZonasCronome() {
 void Pic_Cronome_MouseDown(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
     if (!DentroDelInterruptor(X, Y)) return;
     const bool enMarcha = Gbl.CronoEnMarcha;
-    SonidoJuego(1, enMarcha ? 7 : 6);
+    SonidoJuego(1, enMarcha ? sonido::SUELTA : sonido::TECLA);
     CambiaCrono(enMarcha ? CRONO_PARO : CRONO_MARCHA);
 }
 

@@ -12,9 +12,16 @@ namespace {
 const struct {
     i16 id;
     const char* nombre;
-} CURSORES[] = {{12, "Prohibido"}, {15, "CruzFlechas"}, {20, "ManoAbierta"}, {21, "ManoVerde"},
-                {22, "ManoRoja"},  {24, "PunTutor"},    {25, "FlechaNor"},   {26, "FlechaEst"},
-                {27, "FlechaSur"}, {28, "FlechaOes"}};
+} CURSORES[] = {{cursor::PROHIBIDO, cursor::SENAL_PROHIBIDO},
+                {cursor::CRUZ, cursor::CRUZ_FLECHAS},
+                {cursor::DISENO, cursor::MANO_ABIERTA},
+                {cursor::BIEN, cursor::MANO_VERDE},
+                {cursor::MAL, cursor::MANO_ROJA},
+                {cursor::TUTOR, cursor::PUNTERO_TUTOR},
+                {cursor::NORTE, cursor::FLECHA_NORTE},
+                {cursor::ESTE, cursor::FLECHA_ESTE},
+                {cursor::SUR, cursor::FLECHA_SUR},
+                {cursor::OESTE, cursor::FLECHA_OESTE}};
 
 }  // namespace
 

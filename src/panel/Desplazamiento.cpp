@@ -9,7 +9,6 @@ namespace tessario {
 namespace {
 
 constexpr i32 GROSOR_BARRA = 17;         // pixels
-constexpr i32 MARGEN_LIBRE = 200;        // free table to the right of and below the picture
 constexpr i32 PASO_CORTO = 16;           // pixels of one click on a bar's arrow
 constexpr i32 RECORRIDO_MINIMO = 10;     // the long step is a tenth of the range, of this at least
 constexpr Color COLOR_CANAL = 0xC2DDEC;  // that of the tracks, in which the corner joins the bars
@@ -19,7 +18,7 @@ constexpr float PARTE_SIN_BARRAS = 0.65F;
 // Gives a bar its range for a picture of `lado` pixels seen through `visible` pixels of table.
 void PonRecorrido(BarraDesplazamiento& barra, i32 lado, i32 visible) {
     barra.Min = 0;
-    barra.Max = std::max(0, lado + MARGEN_LIBRE - visible);
+    barra.Max = std::max(0, lado + MESA_LIBRE - visible);
     barra.LargeChange = std::max(barra.Max, RECORRIDO_MINIMO) / 10;
     barra.SmallChange = PASO_CORTO;
     barra.Tramo = visible;

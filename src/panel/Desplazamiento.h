@@ -1,7 +1,12 @@
 // Scrolling of a table larger than the screen.
 #pragma once
 
+#include "platform/Tipos.h"
+
 namespace tessario {
+
+// Free table to the right of the picture and below it, pixels.
+inline constexpr i32 MESA_LIBRE = 200;
 
 // Shows or hides the bars for the current Pic_Bitmap, with their ranges and steps.
 void AjustaBarras();

@@ -8,16 +8,15 @@
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
-#include "rules/PuzzBas.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
+#include "rules/PuzzBas.h"
 
 namespace tessario {
 
 namespace {
 
 constexpr i16 ADELANTE = 0, ATRAS = 1;
-constexpr i16 BOTON_COLOCADAS = 10;  // command pressed for the player
-constexpr i16 SONIDO_PULSA = 6, SONIDO_SUELTA = 7;
 
 enum Tecla : i32 { Mando, AtrasUno, AdelanteUno, AtrasAuto, AdelanteAuto, Restaurar, Ninguna };
 
@@ -104,7 +103,7 @@ void PulsaMando() {
     if (!Gbl.GrabadoraEncendida) {
         if (Gbl.NumMovimientos < 1) return;
         // Moves are replayed in the pieces' own looks.
-        if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+        if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(orden::COLOCADAS));
         EnciendeGrabadora();
         return;
     }
@@ -118,10 +117,10 @@ void PulsaMando() {
 
 void PulsaUno(Tecla t, i16 sentido, bool puede) {
     PintaTecla(t, true);
-    SonidoJuego(1, SONIDO_PULSA);
+    SonidoJuego(1, sonido::TECLA);
     if (puede) ReproduceMovimiento(sentido);
     PintaTecla(t, false);
-    SonidoJuego(1, SONIDO_SUELTA);
+    SonidoJuego(1, sonido::SUELTA);
 }
 
 // An automatic run. A second press on its key comes in while events are let through and clears
@@ -129,7 +128,7 @@ void PulsaUno(Tecla t, i16 sentido, bool puede) {
 void PulsaAuto(Tecla t, i16 sentido, Booleano& bandera) {
     if (!bandera) {
         PintaTecla(t, true);
-        SonidoJuego(1, SONIDO_PULSA);
+        SonidoJuego(1, sonido::TECLA);
         bandera = true;
         while (bandera && (sentido == ATRAS ? Gbl.NumMovimientos >= 1
                                             : Gbl.NumMovimientos < Gbl.FinMovimientos)) {
@@ -138,7 +137,7 @@ void PulsaAuto(Tecla t, i16 sentido, Booleano& bandera) {
             DejaPasarEventos();
         }
         PintaTecla(t, false);
-        SonidoJuego(1, SONIDO_SUELTA);
+        SonidoJuego(1, sonido::SUELTA);
     }
     bandera = false;
 }
@@ -146,7 +145,7 @@ void PulsaAuto(Tecla t, i16 sentido, Booleano& bandera) {
 void PulsaRestaurar() {
     PintaTecla(Restaurar, true);
     PonPuntero(Mesa, PUNTERO_RELOJ);
-    SonidoJuego(1, SONIDO_PULSA);
+    SonidoJuego(1, sonido::TECLA);
     Pausa(8);
     PintaTecla(Restaurar, false);
     Pausa(8);
@@ -214,14 +213,14 @@ void EnciendeGrabadora() {
     // the help, leaves it stopped when the recorder is switched off afterwards.
     DetieneCrono();
     Gbl.FinMovimientos = Gbl.NumMovimientos;
-    SonidoJuego(1, SONIDO_PULSA);
+    SonidoJuego(1, sonido::TECLA);
 }
 
 void ApagaGrabadora() {
     Gbl.GrabadoraEncendida = false;
     ReponeCrono();
     PintaTecla(Mando, false);
-    SonidoJuego(1, SONIDO_SUELTA);
+    SonidoJuego(1, sonido::SUELTA);
     Pausa(10);
     MuestraColocadas();
     PonPuntero(Mesa, PUNTERO_NORMAL);
@@ -280,7 +279,7 @@ void Pic_Grabadora_MouseMove(i16, i16, float X, float Y) {
     const Tecla t = ZonaBajo(X, Y, &Zona::paso);
     const bool activa = Activa(t);
     if (activa)
-        PonCursor(Pic_Grabadora, "ManoIndice");
+        PonCursor(Pic_Grabadora, cursor::MANO_INDICE);
     else
         PonPuntero(Pic_Grabadora, PUNTERO_NORMAL);
     const char* letrero = activa ? Letrero(t) : "";

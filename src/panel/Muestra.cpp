@@ -35,12 +35,13 @@ void Pic_Muestra_MouseDown(i16 Button, i16, float X, float Y) {
     Gbl.MuestraX = Pic_Muestra.Left;
     Gbl.MuestraY = Pic_Muestra.Top;
     Pic_Trabajo.DrawMode = MODO_INVIERTE;
-    PonCursor(Pic_Muestra, "CruzFlechas");
+    PonCursor(Pic_Muestra, cursor::CRUZ_FLECHAS);
 }
 
 void Pic_Muestra_MouseMove(i16 Button, i16, float X, float Y) {
     if (Button == 0) {
-        if (Pic_Muestra.MousePointer == PUNTERO_NORMAL) PonCursor(Pic_Muestra, "ManoAbierta");
+        if (Pic_Muestra.MousePointer == PUNTERO_NORMAL)
+            PonCursor(Pic_Muestra, cursor::MANO_ABIERTA);
         return;
     }
     if (Button != BOTON_IZQUIERDO) return;

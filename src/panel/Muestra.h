@@ -5,6 +5,9 @@
 
 namespace tessario {
 
+// From the sample view, where it is first put, to the edges of the work area, pixels.
+inline constexpr i32 MUESTRA_AL_BORDE = 15;
+
 // The thin frame of the sample view, drawn when its picture is new: without it the sample's edge
 // reads as loose pieces.
 void EnmarcaMuestra();

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/Cadenas.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -21,101 +22,101 @@ struct FilaSugerencia {
 
 // clang-format off
 constexpr FilaSugerencia SUGERENCIAS[] = {
-    {0, 2128,
+    {sugerencia::CIERRE, 2128,
      "Si  cierra esta ventana puede reactivarla  en el conmutador "
      "'Ventana de información'  de la ventana Personalizar."},
-    {10, 2112,
+    {sugerencia::JUEGO, 2112,
      "Puede cambiar de juego en el panel 'Juego Actual' dentro de "
      "la ventana Personalizar"},
-    {15, 2111,
+    {sugerencia::AJUSTES, 2111,
      "Para cambiar algún parámetro  o  característica  del  juego "
      "actual, entre en la ventana Personalizar."},
-    {21, 3010,
+    {sugerencia::MOVILES, 3010,
      "Para ampliar información sobre las reglas y características "
      "del juego  de  puzzles  de  piezas móviles, haga clic en el "
      "texto 'más  ayuda' en la parte superior de esta ventana."},
-    {22, 3020,
+    {sugerencia::DESLIZANTES, 3020,
      "Para ampliar información sobre las reglas y características "
      "del juego de puzzles de piezas deslizantes, haga clic en el "
      "texto 'más  ayuda' en la parte superior de esta ventana."},
-    {23, 3030,
+    {sugerencia::TANGRAM, 3030,
      "Para ampliar información sobre las reglas y características "
      "del juego del Tangram,  haga clic en el texto  'más  ayuda' "
      "en la parte superior de esta ventana."},
-    {25, 2126,
+    {sugerencia::ATRACCION, 2126,
      "Cuando coloque una pieza cerca de su ubicación correcta  en "
      "el puzzle, se sentirá atraída hasta su lugar de destino con "
      "la fuerza que determine en el panel 'Factor de atracción'."},
-    {30, 2188,
+    {sugerencia::OCULTAS, 2188,
      "Si algunas de las piezas pendientes de colocar  han quedado "
      "ocultas por el puzzle que está resolviendo,  pulse el botón "
      "'Mostrar piezas ocultas' para subirlas al primer plano."},
-    {32, 2186,
+    {sugerencia::COLOCADAS, 2186,
      "Si  desea  comprobar  cuales  son  las  piezas que ya están "
      "correctamente colocadas,  pulse  el  botón  'Mostrar piezas "
      "colocadas'."},
-    {34, 2184,
+    {sugerencia::ORDENAR, 2184,
      "Para apartar del centro de la mesa de juego las piezas  que "
      "estan pendientes de colocar, ordenándolas en los laterales, "
      "pulse el botón 'Ordenar las piezas'."},
-    {36, 2184,
+    {sugerencia::ORDENAR_A_MANO, 2184,
      "Para ordenar manualmente las piezas deslizantes y así poder "
      "configurar una posición de partida predeterminada, pulse el "
      "botón 'Ordenar las piezas'."},
-    {40, 2182,
+    {sugerencia::MUESTRA, 2182,
      "Si desea ver una muestra reducida de la imagen de fondo del "
      "puzzle, pulse el botón 'Mostrar modelo'."},
-    {42, 2122,
+    {sugerencia::QUITAR_BORDE, 2122,
      "Si lo desea, puede eliminar la linea delimitadora del borde "
      "de las piezas  en  el  conmutador  'Dibujar el borde de las "
      "piezas' de la ventana Personalizar."},
-    {43, 2122,
+    {sugerencia::PONER_BORDE, 2122,
      "Si lo desea, se puede dibujar una  linea  delimitadora  del "
      "borde de las piezas en el  conmutador  'Dibujar el borde de "
      "las piezas' de la ventana Personalizar."},
-    {45, 2189,
+    {sugerencia::RESOLVER, 2189,
      "Cuando desee resolver el puzzle de forma automática,  pulse "
      "el botón 'Resolver el puzzle'  y  el ordenador colocará las "
      "piezas que faltan para terminar el puzzle."},
-    {47, 4040,
+    {sugerencia::GIRO, 4040,
      "Para rotar las piezas del puzzle,  haga  clic  con el botón "
      "derecho sobre la pieza que desea girar. Si mantiene pulsado "
      "el botón girará  hasta que lo libere."},
-    {50, 2145,
+    {sugerencia::TUTOR, 2145,
      "Si duda sobre  la  ubicación de una pieza,  pulse el  botón "
      "'Tutor de juego' para que el programa le ayude a colocarla."},
-    {52, 2145,
+    {sugerencia::TUTOR_ESPERA, 2145,
      "Haga clic sobre una pieza para que el  Tutor  le indique el "
      "lugar donde debe colocarla."},
-    {60, 2113,
+    {sugerencia::FONDO, 2113,
      "Puede elegir entre tres tipos de fondo  para las piezas del "
      "puzzle (Imagen, números o letras).  Puede  elegirlo  en  el "
      "selector 'Fondo del puzzle' de la ventana Personalizar."},
-    {63, 2114,
+    {sugerencia::MODOS, 2114,
      "Para cambiar entre el modo de diseño de modelos o figuras y "
      "el modo de resolución de modelos archivados,use el selector "
      "'Modo de juego' de la ventana Personalizar."},
-    {65, 2119,
+    {sugerencia::FORMAS, 2119,
      "Puede elegir entre  8  formas distintas para las piezas del "
      "puzzle. Elija la forma que desee en el panel  'Forma de las "
      "piezas' de la ventana Personalizar."},
-    {67, 2123,
+    {sugerencia::ENTRE_PIEZAS, 2123,
      "Cuando coloque una pieza cerca de otra,  se sentirá atraída "
      "por ella facilitando así la tarea de formar figuras.  Puede "
      "modificarlo en el conmutador 'Atracción entre las piezas'."},
-    {75, 2200,
+    {sugerencia::GRABADORA, 2200,
      "Para retroceder en los movimientos de resolución del puzzle "
      "utilize la Grabadora de movimientos que se encuentra  en la "
      "parte inferior del Panel de Botones."},
-    {77, 2500,
+    {sugerencia::GUARDAR, 2500,
      "Para guardar el puzzle actual y volver a restaurar la misma "
      "situación cuando desee,haga clic con el botón derecho sobre "
      "la mesa de juego y se mostrará un panel de opciones."},
-    {78, 2540,
+    {sugerencia::MODELO, 2540,
      "Puede guardar el diseño actual como modelo y resolverlo con "
      "posterioridad. Para ello, haga clic con el botón derecho en "
      "la mesa de juego y se mostrará un panel de opciones."},
-    {80, 4050,
+    {sugerencia::HISTORICO, 4050,
      "No todos los puzzles resueltos se archivan en  el Histórico "
      "de puzzles. Para saber los requisitos necesarios, haga clic "
      "en 'más  ayuda' en la parte superior de esta ventana."},
@@ -125,15 +126,13 @@ constexpr FilaSugerencia SUGERENCIAS[] = {
 constexpr i32 LARGO_TEXTO = 180;       // characters of a hint, blanks included
 constexpr i32 ANCHO_LINEA = 60;        // of which the last is never shown
 constexpr i16 CONTEXTO_CIERRE = 2128;  // the hint that tells how to switch the panel on again
-constexpr i16 SUGERENCIA_CIERRE = 0;
 
 // The panel's lay-out, in its own pixels.
-constexpr i32 ANCHO_PANEL = 423, ALTO_PANEL = 64;
 constexpr Rect MAS_AYUDA = RectDe(5, 3, 55, 19);
 constexpr i32 LADO_CERRAR = 19, MARGEN_CERRAR = 6, ARRIBA_CERRAR = 2;
 constexpr Punto ORIGEN_CERRAR = {234, 30};  // in Pic_BmpVario
 constexpr i32 LINEA_X = 3, LINEA_Y = 13, LINEA_PASO = 11;
-constexpr Color FONDO_PANEL = 0xD8EEF8, BORDE_PANEL = 0x406890, TEXTO_PANEL = 0xFF0000;
+constexpr Color FONDO_PANEL = 0xD8EEF8, BORDE_PANEL = 0x406890, TEXTO_PANEL = paleta::AZUL;
 const Fuente LETRA_PANEL{Familia::Sans, 11, false, false};  // its tails end above the next line
 const Fuente LETRA_ENLACE{Familia::Sans, 11, false, true};
 
@@ -142,7 +141,7 @@ void PintaMasAyuda() {
     Pic_SugeMasAyuda.Mueve(MAS_AYUDA.Izq, MAS_AYUDA.Arr);
     Pic_SugeMasAyuda.Tamano(MAS_AYUDA.Ancho(), MAS_AYUDA.Alto());
     Pic_SugeMasAyuda.PonBackColor(FONDO_PANEL);
-    PonCursor(Pic_SugeMasAyuda, "ManoIndice");
+    PonCursor(Pic_SugeMasAyuda, cursor::MANO_INDICE);
     Pic_SugeMasAyuda.Font = LETRA_ENLACE;
     Pic_SugeMasAyuda.ForeColor = TEXTO_PANEL;
     Pic_SugeMasAyuda.CurrentX = Pic_SugeMasAyuda.CurrentY = 0;
@@ -151,10 +150,10 @@ void PintaMasAyuda() {
 
 void PintaCerrar() {
     Pic_SugeBotCerrar.Tamano(LADO_CERRAR, LADO_CERRAR);
-    Pic_SugeBotCerrar.Mueve(ANCHO_PANEL - LADO_CERRAR - MARGEN_CERRAR, ARRIBA_CERRAR);
+    Pic_SugeBotCerrar.Mueve(SUGERENCIA_ANCHO - LADO_CERRAR - MARGEN_CERRAR, ARRIBA_CERRAR);
     BitBlt(Pic_SugeBotCerrar, 0, 0, LADO_CERRAR, LADO_CERRAR, Pic_BmpVario, ORIGEN_CERRAR.x,
            ORIGEN_CERRAR.y, SRCCOPY);
-    PonCursor(Pic_SugeBotCerrar, "ManoIndice");
+    PonCursor(Pic_SugeBotCerrar, cursor::MANO_INDICE);
 }
 
 void PintaTexto(const std::string& texto) {
@@ -179,11 +178,11 @@ void CargaSugerencias() {
 void Sugerencia(i16 n) {
     if (!Gbl.VentanaInformacion) return;
     // Deliberate: the panel lies on the table and follows only its vertical scroll.
-    Pic_Sugerencia.Tamano(ANCHO_PANEL, ALTO_PANEL);
-    Pic_Sugerencia.Mueve(0, BarraHor.Top - ALTO_PANEL + BarraVer.Value);
+    Pic_Sugerencia.Tamano(SUGERENCIA_ANCHO, SUGERENCIA_ALTO);
+    Pic_Sugerencia.Mueve(0, BarraHor.Top - SUGERENCIA_ALTO + BarraVer.Value);
     Pic_Sugerencia.PonBackColor(FONDO_PANEL);
-    Pic_Sugerencia.Line(pluma::Desde | pluma::Caja | pluma::ConColor, 0, 0, ANCHO_PANEL - 1,
-                        ALTO_PANEL - 1, BORDE_PANEL);
+    Pic_Sugerencia.Line(pluma::Desde | pluma::Caja | pluma::ConColor, 0, 0, SUGERENCIA_ANCHO - 1,
+                        SUGERENCIA_ALTO - 1, BORDE_PANEL);
     PonPuntero(Pic_Sugerencia, PUNTERO_NORMAL);
     PintaMasAyuda();
     PintaCerrar();
@@ -202,7 +201,7 @@ void Pic_SugeMasAyuda_MouseDown(i16, i16, float, float) {
 void Pic_SugeBotCerrar_MouseDown(i16, i16, float, float) {
     if (Gbl.ContextoAyuda != CONTEXTO_CIERRE) {
         // Deliberate: the first press only tells how the panel is switched on again.
-        Sugerencia(SUGERENCIA_CIERRE);
+        Sugerencia(sugerencia::CIERRE);
         return;
     }
     Gbl.VentanaInformacion = false;
@@ -211,7 +210,7 @@ void Pic_SugeBotCerrar_MouseDown(i16, i16, float, float) {
 
 void Pic_Sugerencia_MouseMove(i16, i16, float, float) {
     PonPuntero(Pic_Sugerencia, PUNTERO_NORMAL);
-    Gbl.CursorDeseado = Gbl.CursorActual = 0;
+    Gbl.CursorDeseado = Gbl.CursorActual = cursor::NORMAL;
     PonPuntero(Pic_Trabajo, PUNTERO_NORMAL);
 }
 

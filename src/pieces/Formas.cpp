@@ -1,21 +1,16 @@
 #include "pieces/Formas.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/PuzzGbl.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr i16 ULTIMO_TRIANGULO = 5;  // pieces 1 to 5 are triangles, then square, parallelogram
-constexpr i16 CUADRADO = 6;
-constexpr i16 PARALELOGRAMO = 7;
 constexpr i16 CAJA_SIN_LIMITE = 9999;  // left and top before any piece has been seen
-
-constexpr std::array<i16, 8> PIEZAS_POR_CELDA = {1, 1, 1, 4, 2, 2, 2, 2};
 
 // One coordinate of a corner, as a choice among the values that the box (w, h) gives.
 enum Cota : u8 {
@@ -72,10 +67,10 @@ i16 Semilla(double parte, i16 lado) {
     return parte == MITAD ? Corto((lado + 1) / 2) : Entero(lado * parte);
 }
 
-void PonVertices(i16 piece, const Esquina* esquinas, i32 cuantas) {
+void PonVertices(i16 piece, const Esquina* esquinas) {
     auto& xs = Gbl.TVerticeX[static_cast<std::size_t>(piece)];
     auto& ys = Gbl.TVerticeY[static_cast<std::size_t>(piece)];
-    for (i32 k = 1; k <= cuantas; ++k) {
+    for (i32 k = 1; k <= FichaDeTangram(piece).Vertices; ++k) {
         xs[k] = Valor(esquinas[k - 1].x, Gbl.AnchoPieza, Gbl.AltoPieza);
         ys[k] = Valor(esquinas[k - 1].y, Gbl.AnchoPieza, Gbl.AltoPieza);
     }
@@ -94,8 +89,9 @@ void CajaTriangulo(i16 piece, i16 giro) {
 }
 
 void CajaParalelogramo(i16 giro, i16 volteo) {
-    const i16 d = Gbl.TDiagonal[PARALELOGRAMO];
-    if (giro == 2 || giro == 6) PonCaja(Gbl.TAlto[PARALELOGRAMO], Gbl.TAncho[PARALELOGRAMO]);
+    const i16 d = Gbl.TDiagonal[tangram::PARALELOGRAMO];
+    if (giro == 2 || giro == 6)
+        PonCaja(Gbl.TAlto[tangram::PARALELOGRAMO], Gbl.TAncho[tangram::PARALELOGRAMO]);
     const bool uno = giro == 1 || giro == 5;
     const bool tres = giro == 3 || giro == 7;
     if ((uno && volteo == 0) || (tres && volteo == 1)) PonCaja(d, 2 * d);
@@ -105,8 +101,7 @@ void CajaParalelogramo(i16 giro, i16 volteo) {
 }  // namespace
 
 i16 PiezasDeCelda(i16 forma) {
-    if (forma < 0 || forma > 7) throw ErrorEjecucion(ERROR_INDICE);
-    return PIEZAS_POR_CELDA[static_cast<std::size_t>(forma)];
+    return FichaDeForma(forma).PiezasPorCelda;
 }
 
 i16 AnchoDePieza(i16 piece, i16 giro, i16 volteo) {
@@ -121,30 +116,31 @@ i16 AltoDePieza(i16 piece, i16 giro, i16 volteo) {
 
 void TMidePieza(i16 piece, i16 giro, i16 volteo) {
     PonCaja(Gbl.TAncho[piece], Gbl.TAlto[piece]);
-    if (piece <= ULTIMO_TRIANGULO) {
+    if (EsTriangulo(piece)) {
         CajaTriangulo(piece, giro);
-    } else if (piece == CUADRADO) {
-        if (giro % 2 != 0) PonCaja(Gbl.TDiagonal[CUADRADO], Gbl.TDiagonal[CUADRADO]);
+    } else if (piece == tangram::CUADRADO) {
+        if (giro % 2 != 0)
+            PonCaja(Gbl.TDiagonal[tangram::CUADRADO], Gbl.TDiagonal[tangram::CUADRADO]);
     } else {
         CajaParalelogramo(giro, volteo);
     }
 }
 
 void TVertices(i16 piece, i16 giro, i16 volteo) {
-    if (piece < 1 || piece > PARALELOGRAMO) throw ErrorEjecucion(ERROR_INDICE);
-    if (piece <= ULTIMO_TRIANGULO) {
-        if (giro >= 0 && giro <= 7) PonVertices(piece, TRIANGULOS[giro], 3);
-    } else if (piece == CUADRADO) {
-        PonVertices(piece, CUADRADOS[giro % 2 != 0], 4);
+    if (piece < 1 || piece > PIEZAS_TANGRAM) throw ErrorEjecucion(ERROR_INDICE);
+    if (EsTriangulo(piece)) {
+        if (giro >= 0 && giro <= 7) PonVertices(piece, TRIANGULOS[giro]);
+    } else if (piece == tangram::CUADRADO) {
+        PonVertices(piece, CUADRADOS[giro % 2 != 0]);
     } else if ((volteo == 0 || volteo == 1) && giro >= 0) {
-        PonVertices(piece, PARALELOGRAMOS[volteo][giro % 4], 4);
+        PonVertices(piece, PARALELOGRAMOS[volteo][giro % 4]);
     }
 }
 
 void TPuntoInterior(i16 piece, i16 giro, i16 volteo) {
     const i16 w = AnchoDePieza(piece, giro, volteo);
     const i16 h = AltoDePieza(piece, giro, volteo);
-    if (piece > ULTIMO_TRIANGULO) {
+    if (!EsTriangulo(piece)) {
         Gbl.XInterior = Semilla(MITAD, w);
         Gbl.YInterior = Semilla(MITAD, h);
     } else if (giro >= 0 && giro <= 7) {
@@ -156,7 +152,7 @@ void TPuntoInterior(i16 piece, i16 giro, i16 volteo) {
 void TCajaFigura(i16 mode) {
     Gbl.CajaIzq = Gbl.CajaArr = CAJA_SIN_LIMITE;
     Gbl.CajaDer = Gbl.CajaAba = 0;
-    for (i16 p = 1; p <= PARALELOGRAMO; ++p) {
+    for (i16 p = 1; p <= PIEZAS_TANGRAM; ++p) {
         const Pieza& z = Gbl.Piezas[p];
         const bool donde = mode == 1;
         const i16 x = donde ? z.X : z.XBien;

@@ -6,6 +6,7 @@
 #include "core/Superficies.h"
 #include "pieces/Formas.h"
 #include "pieces/RasterMascara.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 
 namespace tessario {
@@ -72,16 +73,15 @@ VistaMascara DePlantilla() {
 
 // The other shapes: one figure, or a figure and its frame, or the four triangles.
 VistaMascara DeFigura(i16 piece) {
-    const i32 clase = Gbl.FormaPiezas == 3 ? piece % 4 : Gbl.FormaPiezas >= 4 && piece % 2 == 0;
+    const i32 clase = Gbl.FormaPiezas == forma::TRIANGULOS
+                          ? piece % 4
+                          : Gbl.FormaPiezas >= forma::CIRCULOS && piece % 2 == 0;
     const ClaveMolde clave =
         Clave(JuegoMoviles, Gbl.FormaPiezas, clase, Gbl.AnchoPieza, Gbl.AltoPieza, Gbl.AnchoCelda,
               Gbl.AltoCelda, Gbl.RadioForma, Gbl.RadioForma2, Gbl.RecorteX, Gbl.RecorteY,
               Gbl.Aspecto, Gbl.Aspecto2);
     return DeMolde(clase, clave, [&](Molde& m) { DibujaFigura(m.Mascara, clase); });
 }
-
-// Kinds of the Tangram pieces 1 to 7: twins are of one.
-constexpr i32 CLASE_TANGRAM[7] = {0, 0, 1, 2, 2, 3, 4};
 
 }  // namespace
 
@@ -107,7 +107,7 @@ VistaMascara MascaraTangram(i16 piece) {
     const ClaveMolde clave = Clave(JuegoTangram, VerticesDePieza(piece), Gbl.AnchoPieza,
                                    Gbl.AltoPieza, x[1], y[1], x[2], y[2], x[3], y[3], x[4], y[4],
                                    Gbl.XInterior, Gbl.YInterior, Gbl.DibujarBorde.Valor(), color);
-    const i32 indice = CLASE_TANGRAM[piece - 1] * 16 + (z.Giro & 7) * 2 + (z.Volteo & 1);
+    const i32 indice = FichaDeTangram(piece).Clase * 16 + (z.Giro & 7) * 2 + (z.Volteo & 1);
     return DeMolde(indice, clave, [&](Molde& m) {
         DibujaTangram(m.Mascara, piece);
         if (Gbl.DibujarBorde)
@@ -119,7 +119,7 @@ VistaMascara MascaraTangram(i16 piece) {
 }
 
 VistaMascara MascaraMovil(i16 piece) {
-    return Gbl.FormaPiezas == 1 || Gbl.FormaPiezas == 2 ? DePlantilla() : DeFigura(piece);
+    return SeCortaConPlantillas() ? DePlantilla() : DeFigura(piece);
 }
 
 VistaMascara MascaraDePieza(i16 piece) {

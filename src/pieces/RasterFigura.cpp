@@ -4,6 +4,7 @@
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "pieces/RasterMascara.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
@@ -25,7 +26,7 @@ void TPintaFigura(Superficie& surface, i16 piece) {
     if (piece == 0) surface.PonBackColor(Gbl.ColorFondo);
     surface.ForeColor = surface.FillColor = Gbl.ColorContraste;
     const i16 desde = piece == 0 ? i16{1} : piece;
-    const i16 hasta = piece == 0 ? i16{7} : piece;
+    const i16 hasta = piece == 0 ? PIEZAS_TANGRAM : piece;
     for (i16 p = desde; p <= hasta; ++p) PintaSitio(surface, p, Gbl.ColorContraste);
 }
 

@@ -2,15 +2,16 @@
 
 #include <span>
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr Color NEGRO = 0, BLANCO = 0xFFFFFF;
-constexpr i16 PRIMERA_DOBLE = 4;   // shapes from here on have an inner figure and a frame
+using paleta::NEGRO, paleta::BLANCO;
 constexpr i16 CORTE_ESQUINA = 30;  // share of a sliding piece's side that its corners lose
 
 // Where the hollows of a straightened side are filled: the shares of the side's length, and how
@@ -23,7 +24,7 @@ constexpr Semilla SEMILLAS_CURVADOS[] = {{0.5, 0}};
 constexpr Semilla SEMILLAS_IRREGULARES[] = {{0.22, 0}, {0.5, 0.09}, {0.78, 0}};
 
 std::span<const Semilla> SemillasDeForma() {
-    if (Gbl.FormaPiezas == 1) return SEMILLAS_CURVADOS;
+    if (Gbl.FormaPiezas == forma::CURVADOS) return SEMILLAS_CURVADOS;
     return SEMILLAS_IRREGULARES;
 }
 
@@ -97,17 +98,17 @@ void DibujaElipse(Superficie& s, i16 radio, double aspecto) {
 void DibujaForma(Superficie& s, i32 clase) {
     const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda, rx = Gbl.RecorteX, ry = Gbl.RecorteY;
     switch (Gbl.FormaPiezas) {
-        case 0:
+        case forma::RECTANGULOS:
             return DibujaCaja(s, 0, 0, w - 1, h - 1);
-        case 3:
+        case forma::TRIANGULOS:
             return DibujaTriangulo(s, clase);
-        case 4:
+        case forma::CIRCULOS:
             return s.Circle(0, w / 2.0, h / 2.0, Gbl.RadioForma);
-        case 5:
+        case forma::DOBLES:
             return DibujaCaja(s, rx, ry, w - rx - 1, h - ry - 1);
-        case 6:
+        case forma::ELIPSES:
             return DibujaElipse(s, Gbl.RadioForma, Gbl.Aspecto);
-        case 7:
+        case forma::ESTRELLAS:
             DibujaElipse(s, Gbl.RadioForma, Gbl.Aspecto);
             return DibujaElipse(s, Gbl.RadioForma2, Gbl.Aspecto2);
         default:
@@ -145,7 +146,7 @@ void DibujaDePlantilla(Superficie& s, i32 x, const BordesPieza& b) {
 
 void DibujaFigura(Superficie& s, i32 clase) {
     DibujaForma(s, clase);
-    if (Gbl.FormaPiezas >= PRIMERA_DOBLE && clase == 1)
+    if (Gbl.FormaPiezas >= forma::CIRCULOS && clase == 1)
         BitBlt(s, 0, 0, Gbl.AnchoPieza, Gbl.AltoPieza, s, 0, 0, NOTSRCCOPY);
 }
 
@@ -177,7 +178,7 @@ void TrazaRelieve(Superficie& s) {
 }
 
 i16 VerticesDePieza(i16 piece) {
-    return piece <= 5 ? i16{3} : i16{4};
+    return FichaDeTangram(piece).Vertices;
 }
 
 void TrazaContorno(Superficie& s, i16 piece, i32 x, i32 y) {

@@ -9,6 +9,7 @@
 #include "core/PuzzGbl.h"
 #include "records/Archivo.h"
 #include "records/Texto.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
@@ -24,7 +25,6 @@ constexpr CampoDe<Pieza> CAMPOS_ESCRITOS[] = {
     {X, &Pieza::X}, {Y, &Pieza::Y}, {GIRO, &Pieza::Giro}, {VOLTEO, &Pieza::Volteo}};
 constexpr CampoDe<Pieza> CAMPOS_LEIDOS[] = {
     {X, &Pieza::XBien}, {Y, &Pieza::YBien}, {GIRO, &Pieza::GiroBien}, {VOLTEO, &Pieza::VolteoBien}};
-constexpr i32 PIEZAS_TANGRAM = 7;
 constexpr std::size_t FIN_PIEZAS = COLUMNA_PIEZAS + LARGO_BLOQUE * PIEZAS_TANGRAM;
 constexpr std::size_t COLUMNA_FIN = 124;  // carriage return and line feed
 constexpr i32 MAX_MODELOS = 32767;        // ModeloActual holds no larger number

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 
 namespace tessario {
@@ -28,7 +29,7 @@ Color Sombra(Color c, i32 paso) {
 }
 
 Color Contraste() {
-    constexpr Color negro = 0, blanco = 0xFFFFFF, gris = 0xC0C0C0;
+    constexpr Color negro = paleta::NEGRO, blanco = paleta::BLANCO, gris = paleta::GRIS_CLARO;
     // Black or white would vanish against the table or against the pieces.
     if ((Gbl.ColorFondo == negro && Gbl.ColorPiezas == blanco) ||
         (Gbl.ColorFondo == blanco && Gbl.ColorPiezas == negro))

@@ -18,6 +18,7 @@
 #include "records/Archivo.h"
 #include "records/Registro.h"
 #include "records/Texto.h"
+#include "rules/Catalogo.h"
 #include "rules/Colores.h"
 #include "rules/Despacho.h"
 #include "rules/Juego.h"
@@ -31,7 +32,6 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 SONIDO_RECHAZO = 11;
 constexpr const char* FIN = "\r\n";
 
 // Lines of the file, from 0.
@@ -77,7 +77,7 @@ bool DentroDeLimites(const Punto& t) {
 }
 
 void RechazaImagen(const Punto& t) {
-    SonidoJuego(1, SONIDO_RECHAZO);
+    SonidoJuego(1, sonido::RECHAZO);
     Avisa(aviso::IMAGEN_NO_VALIDA, {std::to_string(t.x), std::to_string(t.y)});
     VaciaImagen();
     Gbl.ZoomImagen = 100;
@@ -179,8 +179,8 @@ bool EstadoCoherente() {
     const Juego& juego = JuegoEnCurso();
     bool coherente = false;
     Sigue([&] {
-        coherente = EsJuego(juego.Numero) && Gbl.FormaPiezas >= 0 && Gbl.FormaPiezas <= 7 &&
-                    juego.LadoPosible() && Gbl.NumPiezas == juego.PiezasQueTocan() &&
+        coherente = EsJuego(juego.Numero) && EsForma(Gbl.FormaPiezas) && juego.LadoPosible() &&
+                    Gbl.NumPiezas == juego.PiezasQueTocan() &&
                     Gbl.Piezas.Superior() == Gbl.NumPiezas &&
                     EsPermutacion(Gbl.OrdenPiezas, Gbl.NumPiezas);
     });
@@ -193,10 +193,7 @@ bool LeeEstado(const std::vector<std::string>& lineas) {
     LeePiezas(Contenido(lineas, LIN_PIEZAS));
     LeeMovimientos(Contenido(lineas, LIN_MOVIM));
     const i16 leidas = Gbl.NumPiezas;
-    Sigue([] {
-        if (Gbl.FormaPiezas < 0 || Gbl.FormaPiezas > 7) throw ErrorEjecucion(ERROR_INDICE);
-        Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas);
-    });
+    Sigue([] { Gbl.PiezasPorCelda = PiezasDeCelda(Gbl.FormaPiezas); });
     CalculaColores();
     ReparaAjustes();
     CalculaTamanos();

@@ -8,6 +8,8 @@
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Colocadas.h"
+#include "panel/Muestra.h"
+#include "panel/Sugerencias.h"
 #include "pieces/Moldes.h"
 #include "sliding/Movimientos.h"
 #include "sliding/Solucion.h"
@@ -17,8 +19,7 @@ namespace tessario {
 
 namespace {
 
-constexpr i32 FRANJA_LIBRE = 65;    // height of the screen that the board leaves free
-constexpr i32 MARGEN_MUESTRA = 15;  // pixels between the sample and the table's edge
+constexpr i32 FRANJA_LIBRE = 65;  // height of the screen that the board leaves free
 
 // ---------------------------------------------------------------- sizes
 // Left edge of the strip on a table without scroll bars. Those of the game that is being left may
@@ -149,8 +150,8 @@ bool ConImagen() {
 }
 
 void ColocaMuestra() {
-    Pic_Muestra.Mueve(BarraVer.Left - Pic_Muestra.Width() - MARGEN_MUESTRA,
-                      BarraHor.Top - Pic_Muestra.Height() - MARGEN_MUESTRA);
+    Pic_Muestra.Mueve(BarraVer.Left - Pic_Muestra.Width() - MUESTRA_AL_BORDE,
+                      BarraHor.Top - Pic_Muestra.Height() - MUESTRA_AL_BORDE);
 }
 
 }  // namespace
@@ -158,7 +159,7 @@ void ColocaMuestra() {
 const Juego JUEGO_DESLIZANTES = {
     .Numero = JuegoDeslizantes,
     .Nombre = "Puzzle de piezas deslizantes",
-    .Sugerencia = 22,
+    .Sugerencia = sugerencia::DESLIZANTES,
     .PiezasPorDefecto = 24,
     .Imagen = UsoDeImagen::Posible,
     .Apila = false,

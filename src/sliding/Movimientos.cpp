@@ -16,12 +16,11 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 SONIDO_DESLIZA = 53;
 constexpr i16 ESPERA = 0, SIN_ESPERA = 1;  // modes of SonidoJuego
 
 // Cursor ids by LadoHueco, and the one of the manual ordering.
-constexpr i16 CURSOR_PROHIBIDO = 12, CURSOR_CRUZ = 15;
-constexpr i16 CURSORES_LADO[] = {CURSOR_PROHIBIDO, 25, 26, 27, 28};
+constexpr i16 CURSORES_LADO[] = {cursor::PROHIBIDO, cursor::NORTE, cursor::ESTE, cursor::SUR,
+                                 cursor::OESTE};
 
 constexpr i32 JUGADAS_POR_PIEZA = 4;  // of the animated shuffle before its first test
 constexpr i16 PAUSA_JUGADA = 15;      // ms at speed 50
@@ -59,7 +58,7 @@ void JuegaPieza(i16 piece, bool espera) {
     Gbl.YOrigen = Gbl.Piezas[piece].Y;
     SubePieza(PosicionEnOrden(piece));
     DeslizaPieza(Gbl.XOrigen, Gbl.YOrigen, Gbl.HuecoX, Gbl.HuecoY, piece);
-    SonidoJuego(espera ? ESPERA : SIN_ESPERA, SONIDO_DESLIZA);
+    SonidoJuego(espera ? ESPERA : SIN_ESPERA, sonido::DESLIZA);
 }
 
 void HuecoAlOrigen() {
@@ -70,7 +69,7 @@ void HuecoAlOrigen() {
 bool CursorDeslizante(i16 piece) {
     Gbl.PiezaActual = piece;
     if (Gbl.OrdenManual) {
-        Gbl.CursorDeseado = CURSOR_CRUZ;
+        Gbl.CursorDeseado = cursor::CRUZ;
         return false;
     }
     LadoDelHueco(piece);
@@ -79,7 +78,7 @@ bool CursorDeslizante(i16 piece) {
 }
 
 void PulsaDeslizante() {
-    if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
+    if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == cursor::PROHIBIDO) return;
     CambiaCrono(CRONO_MARCHA);
     // Deliberate: ArrastrandoPieza stays set after the run: the release closes the move.
     JuegaPieza(Gbl.PiezaActual, true);

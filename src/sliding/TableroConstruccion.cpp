@@ -27,8 +27,6 @@ constexpr i16 GROSOR_MARCO = 3;
 constexpr i32 FUERA_MARCO = 2;  // from the board to the frame's corner
 constexpr i32 CRECE_MARCO = 3;  // by how much its sides are longer than the board's
 
-constexpr i32 BORDE_MUESTRA = 15;  // from the sample view to the screen's edges
-
 // Paints the board's part of the picture on a rectangle. Deliberate: the picture in Pic_FonTamModi
 // is taken from the margins on, not from its corner.
 void EstiraImagen(Superficie& destino, i32 x, i32 y, i32 ancho, i32 alto) {
@@ -51,8 +49,8 @@ void PreparaMuestra() {
     Pic_Muestra.Tamano(Entero(Gbl.AnchoPuzzle / 2.0), Entero(Gbl.AltoPuzzle / 2.0));
     EstiraImagen(Pic_Muestra, 0, 0, Pic_Muestra.Width(), Pic_Muestra.Height());
     EnmarcaMuestra();
-    Pic_Muestra.Mueve(Gbl.AnchoPantalla - Pic_Muestra.Width() - BORDE_MUESTRA,
-                      Gbl.AltoPantalla - Pic_Muestra.Height() - BORDE_MUESTRA);
+    Pic_Muestra.Mueve(Gbl.AnchoPantalla - Pic_Muestra.Width() - MUESTRA_AL_BORDE,
+                      Gbl.AltoPantalla - Pic_Muestra.Height() - MUESTRA_AL_BORDE);
     Pic_Muestra.Visible = Gbl.MostrarMuestra;
 }
 

@@ -18,6 +18,7 @@
 #include "records/Archivo.h"
 #include "records/Surtido.h"
 #include "records/Texto.h"
+#include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
 #include "settings/Mandos.h"
@@ -34,7 +35,6 @@ namespace tessario {
 namespace {
 
 constexpr i32 ANCHO_MINIMO = 800, ALTO_MINIMO = 600;  // display mode offered below that width
-constexpr u32 ESPERA_SUGERENCIA = 15000;              // ms between two hints
 constexpr i32 BORDE_MESA = 2;                         // Mesa reaches out of the screen by that
 
 constexpr const char* FICHERO_SONDA = "CSCD.WRK";
@@ -52,20 +52,8 @@ constexpr FicheroTrasladado TRASLADO[] = {{"", "TSR33.INI"},   {"", "TSR2133.INI
                                           {"", "TSR2233.INI"}, {"", "TSR2333.INI"},
                                           {"", "TESSA33.HIS"}, {"Archivo/", "MODELOS.TPU"}};
 
-constexpr const char* NOMBRES_FORMAS[] = {"Rectángulos",
-                                          "Curvados",
-                                          "Irregulares",
-                                          "Triángulos",
-                                          "Círculos en Rectángulos",
-                                          "Rectángulos en Rectángulos",
-                                          "Elipses en Rectángulos",
-                                          "Estrellas en Rectángulos"};
 constexpr const char* TEXTOS_OPCIONES[] = {"Guardar este puzzle", "Cargar un puzzle",
                                            "Borrar un puzzle", "Guardar como modelo"};
-constexpr const char* NOMBRES_TANGRAM[] = {
-    "Triángulo grande",  "Triángulo grande", "Triángulo mediano", "Triángulo pequeño",
-    "Triángulo pequeño", "Cuadrado",         "Paralelogramo"};
-constexpr i16 GEMELAS[] = {2, 1, 0, 5, 4, 0, 0};
 
 // ---------------------------------------------------------------- folders
 
@@ -139,9 +127,11 @@ void Copia(const T& origen, Destino& destino) {
 
 void LlenaTextos() {
     Copia(TEXTOS_OPCIONES, Gbl.TextosOpciones);
-    Copia(NOMBRES_FORMAS, Gbl.NombresFormas);
-    Copia(NOMBRES_TANGRAM, Gbl.NombresTangram);
-    Copia(GEMELAS, Gbl.TGemela);
+    for (i16 f = 0; f < FORMAS_DE_PIEZA; ++f) Gbl.NombresFormas[f] = FichaDeForma(f).Nombre;
+    for (i16 p = 1; p <= PIEZAS_TANGRAM; ++p) {
+        Gbl.NombresTangram[p] = FichaDeTangram(p).Nombre;
+        Gbl.TGemela[p] = FichaDeTangram(p).Gemela;
+    }
     Gbl.LetrasPiezas = "ABCDEFGHIJKLMNÑOPQRSTUVW";
 }
 

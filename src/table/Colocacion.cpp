@@ -1,6 +1,7 @@
 #include "table/Colocacion.h"
 
 #include "core/Errores.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -16,10 +17,9 @@ namespace tessario {
 
 namespace {
 
-constexpr Color COLOR_BIEN = 0x00FF00;  // green
-constexpr Color COLOR_MAL = 0x0000FF;   // red
-constexpr i16 TECLA_V = 86;             // turns the parallelogram over
-constexpr i16 SONIDO_COLOCADA = 51;
+constexpr Color COLOR_BIEN = paleta::VERDE;
+constexpr Color COLOR_MAL = paleta::ROJO;
+constexpr i16 TECLA_V = 86;                           // turns the parallelogram over
 constexpr i16 PAUSA_GIRO = 110, PAUSA_COLOCADA = 15;  // ms
 
 void MuestraPieza(i16 piece) {
@@ -49,7 +49,7 @@ void ColocaPieza(i16 piece) {
     const Pieza z = Gbl.Piezas[piece];
     RegistraMovimiento(z.X, z.Y, z.Giro, z.Volteo, z.XBien, z.YBien, z.GiroBien, z.VolteoBien);
     DeslizaPieza(z.X, z.Y, z.XBien, z.YBien, piece);
-    SonidoJuego(0, SONIDO_COLOCADA);
+    SonidoJuego(0, sonido::EN_SITIO);
     MuestraColocadas();
     Pausa(PAUSA_COLOCADA);
 }

@@ -7,6 +7,7 @@
 #include "panel/Cronometro.h"
 #include "panel/CursorMesa.h"
 #include "panel/Grabadora.h"
+#include "rules/Catalogo.h"
 #include "table/Tareas.h"
 
 namespace tessario {
@@ -14,9 +15,6 @@ namespace tessario {
 namespace {
 
 constexpr i16 ATRAS = 1;
-constexpr i16 BOTON_COLOCADAS = 10;  // command pressed for the player
-constexpr i16 SONIDO_TECLA = 6, SONIDO_RECHAZO = 11;
-constexpr i16 CURSOR_NORMAL = 0;
 
 bool SePuedeDeshacer() {
     return !DentroDeTarea() && !Gbl.GrabadoraEncendida && PuedeEncenderGrabadora();
@@ -27,19 +25,19 @@ bool SePuedeDeshacer() {
 void Deshaz() {
     Pic_SelOpciones.Visible = false;
     if (!SePuedeDeshacer()) {
-        SonidoJuego(1, SONIDO_RECHAZO);
+        SonidoJuego(1, sonido::RECHAZO);
         return;
     }
     // Moves are replayed in the pieces' own looks.
-    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(orden::COLOCADAS));
     DetieneCrono();
-    SonidoJuego(1, SONIDO_TECLA);
+    SonidoJuego(1, sonido::TECLA);
     // Deliberate: unlike one step back of the recorder, the first move goes back too.
     Sigue([] { ReproduceMovimiento(ATRAS); });
     ReponeCrono();
     // What the pointer found may have gone from under it.
     Gbl.PiezaActual = 0;
-    AplicaCursor(CURSOR_NORMAL);
+    AplicaCursor(cursor::NORMAL);
 }
 
 }  // namespace tessario

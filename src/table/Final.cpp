@@ -12,7 +12,7 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 PAUSA_FINAL = 500, SONIDO_RESUELTO = 14;
+constexpr i16 PAUSA_FINAL = 500;
 
 // A result that was helped along is not offered: the question would promise what cannot be.
 void OfreceAlHistorico() {
@@ -29,7 +29,7 @@ void FinDeJuego() {
     CambiaCrono(CRONO_PARO);
     Pausa(PAUSA_FINAL);
     Sigue([] { EntraEnCompleto(); });
-    SonidoJuego(1, SONIDO_RESUELTO);
+    SonidoJuego(1, sonido::RESUELTO);
     Avisa(aviso::RESUELTO);
     Sigue([] { OfreceAlHistorico(); });
     Gbl.PuzzleArchivable = false;

@@ -11,6 +11,7 @@
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
+#include "rules/Catalogo.h"
 #include "session/CopiaSeguridad.h"
 #include "session/Traidos.h"
 #include "table/Opciones.h"
@@ -23,10 +24,8 @@ namespace tessario {
 namespace {
 
 constexpr i32 INTERVALO_TIC = 1000;  // ms
-constexpr i16 BOTON_PERSONALIZAR = 2, BOTON_SALIR = 7;
 constexpr i16 TECLA_MENU = 93, TECLA_F10 = 121, SHIFT_SOLO = 1;
 constexpr i16 TECLA_PEGAR = 'V', CON_CONTROL = 2;
-constexpr i32 SUGERENCIA_ANCHO = 423, SUGERENCIA_ALTO = 64;
 
 // The work that a request waited for may have left it forbidden; a piece that came into hand since
 // is dropped first.
@@ -179,7 +178,7 @@ void ConectaTabla() {
 void ConectaBoton(i16 i) {
     Cuadro& boton = Pic_Boton(i);
     Gbl.BotonEstado[i] = BOTON_USABLE;
-    PonCursor(boton, "ManoIndice");
+    PonCursor(boton, cursor::MANO_INDICE);
     boton.TabStop = true;
     boton.MouseDown = [i](i16 Button, i16 Shift, float X, float Y) {
         Atiende([&] { Pic_Boton_MouseDown(i, Button, Shift, X, Y); });
@@ -208,8 +207,8 @@ void ConectaTira() {
 
 // A picture brought to the table is one for the settings to take; `toma` tells whether it is one.
 void LlevaAPersonal(const std::function<bool()>& toma) {
-    if (Gbl.Barajando || OrdenProhibida(BOTON_PERSONALIZAR) || !toma()) return;
-    Pulsa(Pic_Boton(BOTON_PERSONALIZAR));
+    if (Gbl.Barajando || OrdenProhibida(orden::PERSONALIZAR) || !toma()) return;
+    Pulsa(Pic_Boton(orden::PERSONALIZAR));
 }
 
 void ConectaVentana() {
@@ -233,7 +232,7 @@ void ConectaVentana() {
     // has closed the window already.
     Mesa.QueryUnload = [](bool& Cancela) {
         Cancela = true;
-        Pulsa(Pic_Boton(BOTON_SALIR));
+        Pulsa(Pic_Boton(orden::SALIR));
     };
     Timer1.Interval = INTERVALO_TIC;
     Timer1.Enabled = true;

@@ -3,11 +3,13 @@
 #include "core/Avisos.h"
 #include "core/Errores.h"
 #include "core/Numeros.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
 #include "panel/Cronometro.h"
 #include "platform/Plataforma.h"
+#include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
@@ -20,13 +22,12 @@ namespace {
 
 constexpr i32 ANCHO_PANEL = 150, ALTO_FILA = 18, BORDE = 4;
 constexpr i32 TEXTO_X = 14;
-constexpr i16 OPCION_MODELO = 4;  // stands apart, below a separator
-constexpr Color GRIS = 0x808080, BLANCO = 0xFFFFFF, AZUL = 0xFF0000, NEGRO = 0;
-constexpr Color FONDO_PANEL = 0xD2E9F4;
+using paleta::GRIS, paleta::BLANCO, paleta::AZUL, paleta::NEGRO;
+constexpr Color FONDO_PANEL = paleta::CREMA;
 const Fuente LETRA{Familia::Sans, 13, false, false};
 
 // What the window of saved puzzles opens for, by option.
-constexpr i16 MODO_DE_OPCION[] = {0, 2, 1, 3, 4};
+constexpr i16 MODO_DE_OPCION[] = {0, CARGUA_GUARDAR, CARGUA_CARGAR, CARGUA_BORRAR, CARGUA_MODELO};
 
 i32 OpcionesEnPanel() {
     i32 n = 0;
@@ -48,7 +49,7 @@ void LineaPanel(i32 x1, i32 y1, i32 x2, i32 y2, Color color, int forma = 0) {
 void PintaFila(i16 opcion, i32 j) {
     const i32 w = Pic_SelOpciones.Width();
     const i32 y = j * ALTO_FILA + BORDE;
-    if (opcion == OPCION_MODELO) {
+    if (opcion == opcion::MODELO) {  // stands apart
         LineaPanel(0, y - 3, w - 1, y - 3, GRIS);
         LineaPanel(0, y - 2, w - 1, y - 2, BLANCO);
     }
@@ -104,7 +105,7 @@ void MuestraOpcionesSelec() {
         if (Gbl.OpcionesActivas[i]) PintaFila(i, j++);
     PintaMarco();
     ColocaPanel();
-    PonCursor(Pic_SelOpciones, "ManoIndice");
+    PonCursor(Pic_SelOpciones, cursor::MANO_INDICE);
     if (activas > 0) Pic_SelOpciones.Visible = true;
 }
 
@@ -136,7 +137,7 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
     if (Gbl.OpcionResaltada == 0) return;
     Pic_SelOpciones.Visible = false;
     const i16 opcion = OpcionDeFila(Gbl.OpcionResaltada);
-    if (opcion < 1 || opcion > OPCION_MODELO) return;
+    if (opcion < 1 || opcion > opcion::MODELO) return;
     if (!DentroDeTarea()) {
         CumpleOpcion(opcion);
         return;
@@ -148,11 +149,11 @@ void Pic_SelOpciones_MouseUp(i16, i16, float, float) {
 void CumpleOpcion(i16 opcion) {
     // Deliberate: only loading and saving wait for the recorder; deleting and saving a model do
     // not.
-    if (opcion <= 2 && Gbl.GrabadoraEncendida) {
+    if (opcion <= opcion::CARGAR && Gbl.GrabadoraEncendida) {
         Avisa(aviso::ARCHIVO_GRABADORA);
         return;
     }
-    if (PreparaOrden(ORDEN_OPCION)) AbreCargua(MODO_DE_OPCION[opcion]);
+    if (PreparaOrden(orden::OPCION)) AbreCargua(MODO_DE_OPCION[opcion]);
 }
 
 }  // namespace tessario

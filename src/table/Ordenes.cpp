@@ -12,6 +12,7 @@
 #include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "platform/Plataforma.h"
+#include "rules/Catalogo.h"
 #include "rules/Despacho.h"
 #include "rules/Juego.h"
 #include "rules/PuzzBas.h"
@@ -26,10 +27,6 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 ORDEN_BARAJAR = 1, ORDEN_AYUDA = 6, ORDEN_MODELO = 8, ORDEN_COLOCADAS = 10,
-              ORDEN_ORDENAR = 11, ORDEN_RESOLVER = 12;
-constexpr i16 SONIDO_BOTON = 9;
-constexpr i16 SUGERENCIA_TUTOR = 52;
 constexpr i16 PAUSA_ANTES_MUESTRA = 5, PAUSA_TRAS_MUESTRA = 35, PAUSA_OCULTA = 15;
 
 // ---------------------------------------------------------------- what surrounds the commands
@@ -114,7 +111,7 @@ void LlamaAlTutor() {
             return;
         }
         Gbl.TutorEsperando = true;
-        Sugerencia(SUGERENCIA_TUTOR);
+        Sugerencia(sugerencia::TUTOR_ESPERA);
     });
 }
 
@@ -215,7 +212,7 @@ bool SinMuestra() {
 const struct {
     void (*hace)();
     bool (*prohibida)();
-} ORDENES[12] = {
+} ORDENES[ORDENES_DE_LA_TIRA] = {
     {Baraja, ConGrabadora},
     {Personaliza, ConGrabadora},
     {LlamaAlTutor, SinLugares},
@@ -232,26 +229,26 @@ const struct {
 
 // ---------------------------------------------------------------- a press, before its command
 void TerminaOtrasOrdenes(i16 Index) {
-    if (Index != ORDEN_COLOCADAS && Gbl.MostrandoColocadas) {
+    if (Index != orden::COLOCADAS && Gbl.MostrandoColocadas) {
         Gbl.MostrandoColocadas = false;
         Sigue([] { MostrarPiezasBienoMal(); });
     }
-    if (Index != ORDEN_RESOLVER) Gbl.ResolviendoPuzzle = false;
-    if (Index != ORDEN_ORDENAR) Gbl.OrdenandoPiezas = false;
+    if (Index != orden::RESOLVER) Gbl.ResolviendoPuzzle = false;
+    if (Index != orden::ORDENAR) Gbl.OrdenandoPiezas = false;
 }
 
 // The work under way ends. A press of the button that began it asks for nothing else.
 void PulsaDentroDeTarea(i16 Index) {
-    const bool laSuya = (Index == ORDEN_RESOLVER && Gbl.ResolviendoPuzzle) ||
-                        (Index == ORDEN_ORDENAR && Gbl.OrdenandoPiezas) ||
-                        (Index == ORDEN_BARAJAR && Gbl.Barajando);
+    const bool laSuya = (Index == orden::RESOLVER && Gbl.ResolviendoPuzzle) ||
+                        (Index == orden::ORDENAR && Gbl.OrdenandoPiezas) ||
+                        (Index == orden::BARAJAR && Gbl.Barajando);
     TerminaTareas();
     if (!laSuya) Aplaza(Suceso::Orden, Index);
 }
 
 // Another command while the pieces are being set up by hand. True: it may go on.
 bool DejaOrdenManual(i16 Index) {
-    if (Index == ORDEN_ORDENAR || !Gbl.OrdenManual) return true;
+    if (Index == orden::ORDENAR || !Gbl.OrdenManual) return true;
     if (TieneSolucion()) {
         // Deliberate: only the arranging command itself begins the set-up board as a new puzzle.
         Gbl.OrdenManual = false;
@@ -259,7 +256,7 @@ bool DejaOrdenManual(i16 Index) {
     }
     // With the recorder on, the board cannot be dealt anew: what may be asked for then leaves it
     // alone.
-    return Index == ORDEN_AYUDA || Index == ORDEN_MODELO || OrdenProhibida(ORDEN_ORDENAR);
+    return Index == orden::AYUDA || Index == orden::MODELO || OrdenProhibida(orden::ORDENAR);
 }
 
 }  // namespace
@@ -272,7 +269,7 @@ void Pic_Boton_MouseMove(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
     const bool prohibida = OrdenProhibida(Index);
     const bool estaba = Gbl.BotonEstado[Index] == BOTON_PROHIBIDO;
     if (prohibida == estaba) return;
-    PonCursor(Pic_Boton(Index), prohibida ? "Prohibido" : "ManoIndice");
+    PonCursor(Pic_Boton(Index), prohibida ? cursor::SENAL_PROHIBIDO : cursor::MANO_INDICE);
     Gbl.BotonEstado[Index] = prohibida ? BOTON_PROHIBIDO : BOTON_USABLE;
 }
 
@@ -280,7 +277,7 @@ void Pic_Boton_MouseDown(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
     Pic_SelOpciones.Visible = false;
     if (Gbl.BotonEstado[Index] == BOTON_PROHIBIDO) return;
     Gbl.TutorEsperando = false;
-    SonidoJuego(0, SONIDO_BOTON);
+    SonidoJuego(0, sonido::BOTON);
     // What the recorder allows leaves the pieces alone: an automatic replay goes on after it.
     if (DentroDeTarea() && !DentroDeAvance()) {
         PulsaDentroDeTarea(Index);
@@ -297,8 +294,8 @@ void Pic_Boton_MouseDown(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, 
 bool PreparaOrden(i16 Index) {
     TerminaOtrasOrdenes(Index);
     if (DejaOrdenManual(Index)) return true;
-    Pic_Boton_MouseMove(ORDEN_ORDENAR, 0, 0, 0, 0);  // its state must be fresh
-    Pic_Boton_MouseDown(ORDEN_ORDENAR, BOTON_IZQUIERDO, 0, 0, 0);
+    Pic_Boton_MouseMove(orden::ORDENAR, 0, 0, 0, 0);  // its state must be fresh
+    Pic_Boton_MouseDown(orden::ORDENAR, BOTON_IZQUIERDO, 0, 0, 0);
     return false;
 }
 

@@ -15,7 +15,6 @@ void CumpleOrden(i16 Index);
 // Ends what the other commands have left on the table, as each command does first. False: the
 // board that is being set up has no solution, and the arranging command ran in this one's place.
 bool PreparaOrden(i16 Index);
-inline constexpr i16 ORDEN_OPCION = 0;  // what a choice in the options panel counts as
 // Applies the enabling rule.
 void Pic_Boton_MouseMove(i16 Index, i16 Button, i16 Shift, float X, float Y);
 // Is the command forbidden now?

@@ -14,6 +14,7 @@
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 #include "table/Atraccion.h"
@@ -27,15 +28,8 @@ namespace tessario {
 
 namespace {
 
-// Cursor ids of the table.
-constexpr i16 CURSOR_NORMAL = 0, CURSOR_RELOJ = 11, CURSOR_PROHIBIDO = 12, CURSOR_DISENO = 20,
-              CURSOR_BIEN = 21, CURSOR_MAL = 22, CURSOR_TUTOR = 24;
-
-constexpr i16 SONIDO_GIRO = 6, SONIDO_TOMA = 50, SONIDO_EN_SITIO = 51, SONIDO_SUELTA = 52;
 constexpr i16 PAUSA_GIRO = 160;
-constexpr i16 BOTON_COLOCADAS = 10, BOTON_ORDENAR = 11;  // commands pressed for the player
-constexpr i16 TECLA_DESHACER = 26;                       // Ctrl+Z
-constexpr i16 OPCION_MODELO = 4;
+constexpr i16 TECLA_DESHACER = 26;  // Ctrl+Z
 
 // The options panel shows itself; what a choice in it does is not the mouse machine's business.
 void PintaOpciones() {
@@ -64,9 +58,9 @@ void CogePieza() {
         return;
     }
     TomaPieza(Gbl.XPulsado, Gbl.YPulsado, piece);
-    PonCursor(Pic_Trabajo, "ManoCerrada");
-    SonidoJuego(0, SONIDO_TOMA);
-    Gbl.CursorActual = CURSOR_NORMAL;
+    PonCursor(Pic_Trabajo, cursor::MANO_CERRADA);
+    SonidoJuego(0, sonido::TOMA);
+    Gbl.CursorActual = cursor::NORMAL;
 }
 
 void BuscaPieza(i32 x, i32 y);
@@ -75,7 +69,7 @@ void BuscaPieza(i32 x, i32 y);
 // while it lasted, so it looks again.
 void TerminaColocadas() {
     if (!Gbl.MostrandoColocadas) return;
-    Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    Pulsa(Pic_Boton(orden::COLOCADAS));
     BuscaPieza(Gbl.XPulsado, Gbl.YPulsado);
 }
 
@@ -86,12 +80,12 @@ void PulsaIzquierdo() {
     }
     TerminaColocadas();
     if (JuegoEnCurso().OrdenaAMano && Gbl.PiezaActual == 0 && Gbl.OrdenManual) {
-        Pulsa(Pic_Boton(BOTON_ORDENAR));
+        Pulsa(Pic_Boton(orden::ORDENAR));
         return;
     }
     if (Gbl.PiezaActual == 0) return;
-    if (!JuegoEnCurso().SeArrastra && Gbl.CursorDeseado == CURSOR_PROHIBIDO) return;
-    if (Gbl.CursorDeseado == CURSOR_TUTOR) {
+    if (!JuegoEnCurso().SeArrastra && Gbl.CursorDeseado == cursor::PROHIBIDO) return;
+    if (Gbl.CursorDeseado == cursor::TUTOR) {
         TutorIndicando();
         return;
     }
@@ -114,7 +108,7 @@ void ConRegistroDeGiro(F&& gira) {
 
 void PasoDeGiro() {
     GiraPieza();
-    SonidoJuego(0, SONIDO_GIRO);
+    SonidoJuego(0, sonido::TECLA);
 }
 
 // Until the right button is released. Whatever else comes in meanwhile is kept.
@@ -207,8 +201,8 @@ bool HoverParado() {
 // What the pointer finds on a piece that can be dragged.
 void CursorDePieza(i16 piece) {
     Gbl.PiezaActual = piece;
-    Gbl.CursorDeseado = PiezaEnSuSitio(piece) ? CURSOR_BIEN : CURSOR_MAL;
-    if (CreandoFiguras()) Gbl.CursorDeseado = CURSOR_DISENO;
+    Gbl.CursorDeseado = PiezaEnSuSitio(piece) ? cursor::BIEN : cursor::MAL;
+    if (CreandoFiguras()) Gbl.CursorDeseado = cursor::DISENO;
 }
 
 // Is the piece under the point? True ends the walk down the stack.
@@ -224,14 +218,14 @@ bool PruebaPieza(i16 piece, i32 x, i32 y) {
 }
 
 void BuscaPieza(i32 x, i32 y) {
-    Gbl.CursorDeseado = CURSOR_NORMAL;
+    Gbl.CursorDeseado = cursor::NORMAL;
     Gbl.PiezaActual = 0;
     bool hallada = false;
     for (i32 i = 1; i <= Gbl.NumPiezas && !hallada; ++i)
         Sigue([&] { hallada = PruebaPieza(Gbl.OrdenPiezas[i], x, y); });
     if (Gbl.TutorEsperando)
-        Gbl.CursorDeseado = Gbl.CursorDeseado == CURSOR_MAL ? CURSOR_TUTOR : CURSOR_NORMAL;
-    if (Gbl.TareaAutomatica) Gbl.CursorDeseado = CURSOR_RELOJ;
+        Gbl.CursorDeseado = Gbl.CursorDeseado == cursor::MAL ? cursor::TUTOR : cursor::NORMAL;
+    if (Gbl.TareaAutomatica) Gbl.CursorDeseado = cursor::RELOJ;
     if (Gbl.CursorDeseado != Gbl.CursorActual) AplicaCursor(Gbl.CursorDeseado);
 }
 
@@ -246,7 +240,7 @@ void AsientaPieza(i16 piece) {
     const Pieza& p = Gbl.Piezas[piece];
     const bool movido = p.X != Gbl.XOrigen || p.Y != Gbl.YOrigen;
     const bool enSitio = PiezaEnSuSitio(piece);
-    if (movido) SonidoJuego(1, enSitio ? SONIDO_EN_SITIO : SONIDO_SUELTA);
+    if (movido) SonidoJuego(1, enSitio ? sonido::EN_SITIO : sonido::CAE);
     if (!enSitio) MantieneALaVista(piece);
 }
 
@@ -278,7 +272,7 @@ constexpr i16 GIRO_AL_VOLTEAR[8] = {0, 3, 2, 1, 4, 3, 6, 1};
 // The piece that has two faces is turned over where it lies.
 void VolteaPieza() {
     const i16 volteable = JuegoEnCurso().PiezaQueVoltea;
-    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(BOTON_COLOCADAS));
+    if (Gbl.MostrandoColocadas) Pulsa(Pic_Boton(orden::COLOCADAS));
     Pieza& p = Gbl.Piezas[volteable];
     Pieza antes = p;
     const bool enMano = Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle;
@@ -295,7 +289,7 @@ void VolteaPieza() {
     Pic_Trabajo_Paint();
     // Deliberate: this pushes the piece under the pointer, which need not be this one.
     Sigue([] { JuegoEnCurso().SeparaPieza(); });
-    SonidoJuego(0, PiezaEnSuSitio(volteable) ? SONIDO_EN_SITIO : SONIDO_SUELTA);
+    SonidoJuego(0, PiezaEnSuSitio(volteable) ? sonido::EN_SITIO : sonido::CAE);
     MuestraColocadas();
     RegistraMovimiento(antes, p);
     if (!enMano) return;
@@ -376,8 +370,8 @@ bool Pic_Trabajo_MouseWheel(i16 Pasos, float X, float Y) {
 
 void ActivaOpciones() {
     // Deliberate: an option that has become active stays so until the program ends.
-    for (i32 i = 1; i < OPCION_MODELO; ++i) Gbl.OpcionesActivas[i] = true;
-    if (CreandoFiguras()) Gbl.OpcionesActivas[OPCION_MODELO] = true;
+    for (i32 i = 1; i < opcion::MODELO; ++i) Gbl.OpcionesActivas[i] = true;
+    if (CreandoFiguras()) Gbl.OpcionesActivas[opcion::MODELO] = true;
     Sigue([] { PintaOpciones(); });
 }
 

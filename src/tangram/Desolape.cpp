@@ -13,21 +13,17 @@
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Raster.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
 
 namespace {
 
-constexpr i16 PIEZAS_TANGRAM = 7;
-constexpr i16 ULTIMO_TRIANGULO = 5;
 constexpr i16 SIN_EMPUJE = 99;       // in TCaminoPilas: no push
 constexpr i16 EMPUJES_EN_CALMA = 5;  // pushes after which the choice is shaken
 constexpr i32 PASO_DE_BUSQUEDA = 2;  // pixels between the rings of the search for a free place
 
-// Directions clockwise from north.
-constexpr i16 DIRECCIONES = 8;
-constexpr std::array<Punto, DIRECCIONES> PASOS = {
-    {{0, -1}, {1, -1}, {1, 0}, {1, 1}, {0, 1}, {-1, 1}, {-1, 0}, {-1, -1}}};
+constexpr i16 DIRECCIONES = RUMBOS.size();
 
 // One way out of an overlap: its direction and what it costs, pixels walked plus one.
 struct Salida {
@@ -107,7 +103,7 @@ bool ChocaMovida(const Perfil& a, const Perfil& b, i32 dx, i32 dy) {
 // Pixel by pixel in one direction until the two are clear of each other. Other pieces are not
 // looked at. A region moved by whole pixels is the region of the moved polygon.
 i32 CosteDeSalida(const Perfil& a, const Perfil& b, i16 d) {
-    const Punto paso = PASOS[static_cast<std::size_t>(d)];
+    const Punto paso = RUMBOS[static_cast<std::size_t>(d)];
     i32 pasos = 0;
     do {
         ++pasos;
@@ -129,7 +125,7 @@ Salidas OrdenaSalidas(const Region& a, const Region& b) {
 // The push of a way out. A diagonal one splits the cost between the axes, and the y part takes the
 // odd pixel.
 Punto Empuje(const Salida& s) {
-    const Punto paso = PASOS[static_cast<std::size_t>(s.direccion)];
+    const Punto paso = RUMBOS[static_cast<std::size_t>(s.direccion)];
     const bool diagonal = paso.x != 0 && paso.y != 0;
     const i32 dx = diagonal ? s.coste / 2 : s.coste;
     const i32 dy = diagonal ? s.coste - dx : s.coste;
@@ -260,13 +256,13 @@ bool HayPiezaActual() {
 
 }  // namespace
 
-Region TRegionPieza(i16 piece) {
+Region TRegionPieza(i16 piece, i32 dx, i32 dy) {
     const Pieza& p = Gbl.Piezas[piece];
-    const i32 esquinas = piece <= ULTIMO_TRIANGULO ? 3 : 4;
+    const i32 esquinas = FichaDeTangram(piece).Vertices;
     const auto fila = static_cast<std::size_t>(piece);
     Gbl.TPoligono.Redimensiona(esquinas);
     for (i32 k = 1; k <= esquinas; ++k)
-        Gbl.TPoligono[k] = {p.X + Gbl.TVerticeX[fila][k], p.Y + Gbl.TVerticeY[fila][k]};
+        Gbl.TPoligono[k] = {p.X + dx + Gbl.TVerticeX[fila][k], p.Y + dy + Gbl.TVerticeY[fila][k]};
     return CreatePolygonRgn(std::span(&Gbl.TPoligono[1], static_cast<std::size_t>(esquinas)));
 }
 

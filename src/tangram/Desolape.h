@@ -18,6 +18,6 @@ void TDesolapaPieza();
 
 // The region of a piece's polygon where the piece stands now, from its corners in TVerticeX and
 // TVerticeY.
-Region TRegionPieza(i16 piece);
+Region TRegionPieza(i16 piece, i32 dx = 0, i32 dy = 0);
 
 }  // namespace tessario

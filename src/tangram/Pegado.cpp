@@ -1,12 +1,13 @@
 #include "tangram/Pegado.h"
 
 #include <cstdlib>
-#include <span>
 
 #include "core/Errores.h"
 #include "core/PuzzGbl.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
+#include "rules/Catalogo.h"
+#include "tangram/Desolape.h"
 
 namespace tessario {
 
@@ -23,12 +24,8 @@ constexpr Busqueda BUSQUEDA_ALTERNATIVA = {6, 0.15, true};
 constexpr i16 PRIMERA_DISTANCIA = 2;
 constexpr i16 HOLGURA = 2;  // taken back from the pull at the first overlap
 
-// Directions clockwise from north, in eighths.
-constexpr i32 PASO_X[8] = {0, 1, 1, 1, 0, -1, -1, -1};
-constexpr i32 PASO_Y[8] = {-1, -1, 0, 1, 1, 1, 0, -1};
-
-// The direction in which the other centre lies, dx to the right and dy down. Error 11 when the
-// centres coincide.
+// The direction in which the other centre lies, in eighths clockwise from north, dx to the right
+// and dy down. Error 11 when the centres coincide.
 i32 Direccion(i32 dx, i32 dy, double umbral) {
     const i32 ax = std::abs(dx), ay = std::abs(dy);
     if (ax + ay == 0) throw ErrorEjecucion(ERROR_DIVISION);
@@ -46,17 +43,13 @@ Region RegionDePieza(i16 piece, i32 x, i32 y) {
     const Pieza& z = Gbl.Piezas[piece];
     TMidePieza(piece, z.Giro, z.Volteo);
     TVertices(piece, z.Giro, z.Volteo);
-    const i32 n = piece <= 5 ? 3 : 4;
-    Gbl.TPoligono.Redimensiona(n);
-    for (i32 k = 1; k <= n; ++k)
-        Gbl.TPoligono[k] = {z.X + x + Gbl.TVerticeX[static_cast<std::size_t>(piece)][k],
-                            z.Y + y + Gbl.TVerticeY[static_cast<std::size_t>(piece)][k]};
-    return CreatePolygonRgn({&Gbl.TPoligono[1], static_cast<std::size_t>(n)});
+    return TRegionPieza(piece, x, y);
 }
 
 // One step further the two would lie on each other: the piece in hand stops just clear.
 bool PruebaContacto(i16 distancia, i32 direccion, const Region& otra) {
-    const i32 x = PASO_X[direccion] * distancia, y = PASO_Y[direccion] * distancia;
+    const Punto rumbo = RUMBOS[static_cast<std::size_t>(direccion)];
+    const i32 x = rumbo.x * distancia, y = rumbo.y * distancia;
     const Region mia = RegionDePieza(Gbl.PiezaActual, x, y);
     if (CombineRgn(Gbl.RegionAux5, mia, otra, RGN_AND) <= REGION_VACIA) return false;
     Pieza& z = Gbl.Piezas[Gbl.PiezaActual];
@@ -82,7 +75,7 @@ bool PruebaPareja(const Busqueda& b, i16 distancia, i16 otra, i32 a, i32 c) {
 
 void BuscaContacto(const Busqueda& b, i32 a, i32 c) {
     for (i16 distancia = PRIMERA_DISTANCIA; distancia <= b.ultimaDistancia; ++distancia)
-        for (i16 otra = 1; otra <= 7; ++otra)
+        for (i16 otra = 1; otra <= PIEZAS_TANGRAM; ++otra)
             if (otra != Gbl.PiezaActual && PruebaPareja(b, distancia, otra, a, c)) return;
 }
 

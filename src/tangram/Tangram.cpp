@@ -9,10 +9,12 @@
 #include "core/Superficies.h"
 #include "panel/Barajado.h"
 #include "panel/Colocadas.h"
+#include "panel/Sugerencias.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
 #include "pieces/Moldes.h"
 #include "pieces/Raster.h"
+#include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "tangram/Completado.h"
 #include "tangram/Desolape.h"
@@ -23,8 +25,6 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 PIEZAS_TANGRAM = 7;
-constexpr i16 ULTIMO_TRIANGULO = 5, PIEZA_CUADRADO = 6, PIEZA_PARALELOGRAMO = 7;
 constexpr i32 SEPARACION = 20;  // pixels between the column of pieces and the strip
 
 // ---------------------------------------------------------------- sizes
@@ -43,8 +43,8 @@ void LlenaTablas() {
         Gbl.TAlto[pieza] = m.alto;
         Gbl.TDiagonal[pieza] = m.diagonal;
     }
-    Gbl.TAlto[7] = Entero(std::sqrt(0.5) * 125.0 / 2.0);
-    Gbl.TAncho[7] = Corto(3 * Gbl.TAlto[7]);
+    Gbl.TAlto[tangram::PARALELOGRAMO] = Entero(std::sqrt(0.5) * 125.0 / 2.0);
+    Gbl.TAncho[tangram::PARALELOGRAMO] = Corto(3 * Gbl.TAlto[tangram::PARALELOGRAMO]);
 }
 
 void MideTangram() {
@@ -108,18 +108,11 @@ void OrdenaTangram() {
 }
 
 // ---------------------------------------------------------------- turning
-// After how many eighths of a turn a piece looks the same again.
-i16 Periodo(i16 piece) {
-    if (piece == PIEZA_CUADRADO) return 2;
-    if (piece == PIEZA_PARALELOGRAMO) return 4;
-    return 8;
-}
-
 bool GiroCorrectoTangram(i16 piece) {
     const Pieza& p = Gbl.Piezas[piece];
-    if (piece < PIEZA_CUADRADO) return p.Giro == p.GiroBien;
-    if ((p.Giro - p.GiroBien) % Periodo(piece) != 0) return false;
-    return piece != PIEZA_PARALELOGRAMO || p.Volteo == p.VolteoBien;
+    if (EsTriangulo(piece)) return p.Giro == p.GiroBien;
+    if ((p.Giro - p.GiroBien) % FichaDeTangram(piece).Periodo != 0) return false;
+    return !FichaDeTangram(piece).Voltea || p.Volteo == p.VolteoBien;
 }
 
 // Deliberate: uneven tables by the new giro; they follow the triangles' own corners, not a turn
@@ -128,7 +121,7 @@ constexpr double TRIANGULO_X[8] = {-0.4, 0, 0.4, -0.4, 0, 0.4, -0.1, 0.1};
 constexpr double TRIANGULO_Y[8] = {-0.1, 0.1, -0.4, 0, 0.4, -0.4, 0, 0.4};
 
 Punto SaltoDeGiro(i16 piece, i16 nuevo) {
-    if (piece <= ULTIMO_TRIANGULO) {
+    if (EsTriangulo(piece)) {
         if (nuevo < 0 || nuevo > 7) throw ErrorEjecucion(ERROR_INDICE);
         const i16 lado = Gbl.TAncho[piece];
         return {Entero(lado * TRIANGULO_X[nuevo]), Entero(lado * TRIANGULO_Y[nuevo])};
@@ -155,7 +148,6 @@ bool CambiaGemela(i16 piece) {
 }
 
 // ---------------------------------------------------------------- tutor
-constexpr i16 SONIDO_TUTOR = 55;
 constexpr i16 PAUSA_DESTELLO = 130, PAUSA_ENTRE = 170;
 
 // The piece vanishes and so does its part of the silhouette; then both come back.
@@ -165,7 +157,7 @@ void SenalaSitio(i16 piece) {
     for (i16 i = 1; i <= PIEZAS_TANGRAM; ++i)
         if (i != piece) PonPieza(i);
     Pic_Trabajo_Paint();
-    SonidoJuego(1, SONIDO_TUTOR);
+    SonidoJuego(1, sonido::TUTOR);
     Pausa(PAUSA_DESTELLO);
     TBorraFigura(piece);
     TPintaFigura(Pic_Imagen, piece);
@@ -218,7 +210,7 @@ double Dificultad() {
 const Juego JUEGO_TANGRAM = {
     .Numero = JuegoTangram,
     .Nombre = "Juego del Tangram",
-    .Sugerencia = 23,
+    .Sugerencia = sugerencia::TANGRAM,
     .PiezasPorDefecto = PIEZAS_TANGRAM,
     .Imagen = UsoDeImagen::Ninguno,
     .Giros = 8,
@@ -226,7 +218,7 @@ const Juego JUEGO_TANGRAM = {
     .GuardaModelos = true,
     .PiezasConNombre = true,
     .SeAtraen = true,
-    .PiezaQueVoltea = PIEZA_PARALELOGRAMO,
+    .PiezaQueVoltea = tangram::PARALELOGRAMO,
     .Mide = MideTangram,
     .Crea = [](bool nuevo) { CreaTangram(Booleano(nuevo).Valor()); },
     .Baraja = BarajaTangram,

@@ -5,6 +5,7 @@
 
 #include "core/Cadenas.h"
 #include "core/Errores.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -34,7 +35,7 @@ constexpr std::size_t LARGO_EXTENSION = 4;
 constexpr i32 LARGO_NOMBRE = 64;         // characters of a name
 constexpr i32 LARGO_NOMBRE_PUZZLE = 25;  // of the name that stands in the record
 constexpr i16 INTRO = 13;
-constexpr Color COBALTO = 0x9A3F1F;
+using paleta::COBALTO;
 
 // Window pixels. The texts were set for lines of this width.
 namespace lugar {
@@ -88,7 +89,7 @@ bool BuscaFichero() {
 void ActivaBoton(bool activo) {
     Cuadro& boton = *UsoActual().boton;
     if (activo)
-        PonCursor(boton, "ManoIndice");
+        PonCursor(boton, cursor::MANO_INDICE);
     else
         PonPuntero(boton, PUNTERO_PROHIBIDO);
 }
@@ -129,7 +130,7 @@ void Lis_CarGua_Click() {
 // ---------------------------------------------------------------- what the buttons do
 
 void Suena() {
-    SonidoJuego(1, SONIDO_BOTON_VENTANA);
+    SonidoJuego(1, sonido::BOTON);
 }
 
 // A file of another game changes the game: the one that is left is kept as at any such change.

@@ -6,11 +6,9 @@
 
 #include "platform/Controles.h"
 #include "platform/Tipos.h"
+#include "rules/Catalogo.h"
 
 namespace tessario {
-
-// Values of ModoCargua.
-inline constexpr i16 CARGUA_CARGAR = 1, CARGUA_GUARDAR = 2, CARGUA_BORRAR = 3, CARGUA_MODELO = 4;
 
 extern Ventana Cargua;
 extern Etiqueta Tex_TituloCargua, Tex_MensajeCargua;  // `Tex_Titulo`, `Tex_Mensaje`

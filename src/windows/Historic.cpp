@@ -32,7 +32,6 @@ Lista Lis_Ordenar;
 
 namespace {
 
-constexpr i16 SONIDO_VIAJE = 6, SONIDO_ORDEN = 7;
 constexpr i16 PAUSA_VIAJE = 180;
 constexpr i32 AYUDA_HISTORICO = 2161;
 
@@ -157,7 +156,7 @@ bool PuedeIr(i16 boton) {
 
 void Viaja(i16 boton) {
     if (!PuedeIr(boton)) return;
-    SonidoJuego(1, SONIDO_VIAJE);
+    SonidoJuego(1, sonido::TECLA);
     Gbl.BotonAdeAtr = boton;
     DibujaAdeAtr(Pic_BotAdeAtr, boton);
     Pausa(PAUSA_VIAJE);
@@ -168,7 +167,7 @@ void Viaja(i16 boton) {
 }
 
 void AcabaViaje() {
-    if (std::exchange(Gbl.BotonAdeAtr, i16{0}) != 0) SonidoJuego(1, SONIDO_VIAJE);
+    if (std::exchange(Gbl.BotonAdeAtr, i16{0}) != 0) SonidoJuego(1, sonido::TECLA);
 }
 
 void Pic_BotAdeAtr_MouseMove(float X, float Y) {
@@ -179,7 +178,7 @@ void Pic_BotAdeAtr_MouseMove(float X, float Y) {
     if (boton == 0)
         PonPuntero(Pic_BotAdeAtr, PUNTERO_NORMAL);
     else
-        PonCursor(Pic_BotAdeAtr, PuedeIr(boton) ? "ManoIndice" : "Prohibido");
+        PonCursor(Pic_BotAdeAtr, PuedeIr(boton) ? cursor::MANO_INDICE : cursor::SENAL_PROHIBIDO);
 }
 
 void Pic_BotAdeAtr_MouseDown(float X, float Y) {
@@ -190,13 +189,13 @@ void Pic_BotAdeAtr_MouseDown(float X, float Y) {
 void Pic_Barras_Click(float X) {
     const i32 lugar = BarraEn(Pic_Barras, X);
     if (lugar < 0) return;
-    SonidoJuego(1, SONIDO_VIAJE);
+    SonidoJuego(1, sonido::TECLA);
     Gbl.PosicionActual = lugar;
     Redibuja();
 }
 
 void EligeOrden(i16 orden) {
-    SonidoJuego(1, SONIDO_ORDEN);
+    SonidoJuego(1, sonido::SUELTA);
     Gbl.OrdenHistoricoActual = orden;
     CargaLisOrdenar();
     Gbl.PosicionActual = 0;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/Cadenas.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "rules/Juego.h"
 #include "windows/Historic.h"
@@ -14,8 +15,8 @@ namespace tessario {
 
 namespace {
 
-constexpr Color COBALTO = 0x9A3F1F, COBALTO_CLARO = 0xC98A6A, TERRACOTA = 0x3C51B2;
-constexpr Color BLANCO = 0xFFFFFF, GRIS = 0x808080, ESMALTE = 0xE4F2FB, ESMALTE_OSCURO = 0xBCD4E4;
+using paleta::COBALTO, paleta::TERRACOTA, paleta::BLANCO, paleta::GRIS;
+constexpr Color COBALTO_CLARO = 0xC98A6A, ESMALTE = 0xE4F2FB, ESMALTE_OSCURO = 0xBCD4E4;
 constexpr int RECTA = pluma::Desde | pluma::ConColor;
 constexpr int LLENA = RECTA | pluma::Caja | pluma::Llena;
 

@@ -6,9 +6,11 @@
 
 #include "core/Cadenas.h"
 #include "core/Numeros.h"
+#include "core/Paleta.h"
 #include "panel/Cronometro.h"
 #include "records/Historial.h"
 #include "records/Texto.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 
@@ -18,7 +20,7 @@ namespace {
 
 constexpr i32 ANCHO_PANEL = 398;
 constexpr i32 ETIQUETA_X = 20, PRIMERA_LINEA = 20, PASO = 15, CORTE = 10, BAJO_ULTIMA = 35;
-constexpr Color TINTA_ETIQUETA = 0, TINTA_VALOR = 0x800080;
+constexpr Color TINTA_ETIQUETA = paleta::NEGRO, TINTA_VALOR = 0x800080;
 const Fuente LETRA{Familia::Mono, 12, false, false};
 constexpr i32 ANCHO_LETRA = 7;  // of every character of that font, pixels
 
@@ -27,7 +29,7 @@ constexpr i32 COLUMNA_MEDIDAS = 20;                        // of a Tangram piece
 
 // The bar of the share solved, below its line's text.
 constexpr i32 BARRA_DEBAJO = 13, BARRA_ANCHO = 200, BARRA_ALTO = 2;
-constexpr Color BARRA_LLENA = 0x9A3F1F, BARRA_VACIA = 0xC6DDEC;
+constexpr Color BARRA_LLENA = paleta::COBALTO, BARRA_VACIA = 0xC6DDEC;
 
 using Condicion = bool (*)(const Ficha&);
 using Valor = std::string (*)(const Ficha&);
@@ -134,7 +136,7 @@ std::string ClasePiezas(const Ficha& f) {
 
 std::string FormaPiezas(const Ficha& f) {
     const i16 forma = f.Datos.Forma;
-    return forma >= 0 && forma <= 7 ? Gbl.NombresFormas[forma] : std::string();
+    return EsForma(forma) ? Gbl.NombresFormas[forma] : std::string();
 }
 
 i32 Porcentaje() {

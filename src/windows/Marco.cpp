@@ -1,5 +1,6 @@
 #include "windows/Marco.h"
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -16,8 +17,8 @@ constexpr i32 TITULO_ARRIBA = 8;
 // The long button's face in Pic_BmpVario.
 constexpr i32 LARGA_X = 102, LARGA_ANCHO = 131, LARGA_SUELTA = 30, LARGA_PULSADA = 54;
 constexpr Fuente LETRA_TITULO{Familia::Sans, 13, true, false};
-constexpr Color SOMBRA = 0x808080, LUZ = 0xFFFFFF;
-constexpr Color COBALTO = 0x9A3F1F, TERRACOTA = 0x3C51B2;
+constexpr Color SOMBRA = paleta::GRIS, LUZ = paleta::BLANCO;
+using paleta::COBALTO, paleta::TERRACOTA;
 
 }  // namespace
 
@@ -62,7 +63,7 @@ void ReiniciaBoton(Cuadro& boton, const char* nombre, const char* accesible) {
     boton.Nombre = nombre;
     boton.NombreAccesible = accesible;
     boton.TabStop = true;
-    PonCursor(boton, "ManoIndice");
+    PonCursor(boton, cursor::MANO_INDICE);
 }
 
 void ColocaBoton(Cuadro& boton, Tesela tesela, const Ventana& v, i32 derecha) {
@@ -78,7 +79,7 @@ void PintaTeselaLarga(Superficie& boton, bool pulsada) {
 }
 
 void SaleDe(Ventana& v) {
-    SonidoJuego(1, SONIDO_BOTON_VENTANA);
+    SonidoJuego(1, sonido::BOTON);
     Sistema().Cierra(v);
 }
 
@@ -88,7 +89,7 @@ void SaleConEscape(Ventana& v, i16 caracter) {
 }
 
 void AyudaDesdeVentana(i32 tema) {
-    SonidoJuego(1, SONIDO_BOTON_VENTANA);
+    SonidoJuego(1, sonido::BOTON);
     Ayuda(tema);
 }
 

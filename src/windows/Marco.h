@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "core/Paleta.h"
 #include "platform/Controles.h"
 
 namespace tessario {
@@ -14,9 +15,8 @@ enum Tesela : i16 { TeselaCargar = 2, TeselaGuardar, TeselaBorrar, TeselaAyuda =
 inline constexpr i32 LADO_BOTON = 48;  // of a square button, pixels
 inline constexpr i32 ENTRE_BOTONES = 15;
 inline constexpr i32 PIE_VENTANA = 17;  // below the buttons
-inline constexpr i16 SONIDO_BOTON_VENTANA = 9;
 
-inline constexpr Color CREMA_VENTANA = 0xD2E9F4;  // the ground, as in messages
+inline constexpr Color CREMA_VENTANA = paleta::CREMA;  // the ground, as in messages
 
 // Gives the window its size, the middle of the screen, and its ground with its frame.
 void PreparaVentana(Ventana& v, i32 ancho, i32 alto);

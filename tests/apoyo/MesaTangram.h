@@ -9,6 +9,7 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "pieces/Formas.h"
 #include "platform/Region.h"
+#include "rules/Catalogo.h"
 #include "rules/Despacho.h"
 #include "rules/Medidas.h"
 #include "rules/PuzzBas.h"
@@ -16,8 +17,6 @@
 #include "tangram/Desolape.h"
 
 namespace tessario {
-
-inline constexpr i16 PIEZAS_TANGRAM = 7;
 
 // A new game 23 on a screen of the platform's size.
 inline void AbreTangram(i16 modo) {
