@@ -13,6 +13,7 @@
 #include "panel/Cronometro.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
+#include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Movimientos.h"
 #include "table/Ordenes.h"
@@ -38,8 +39,6 @@ constexpr const char* TEXTO_INSOLUBLE =
     "para que el programa baraje automáticamente  las  piezas  y  obtenga  una  configuración "
     "soluble.  Si pulsa el botón Cancelar podrá seguir ordenando las piezas hasta obtener  una  "
     "configuración  que  permita su solución.";
-
-constexpr i16 ORDEN_MODELO = 8, ORDEN_ORDENAR = 11, ORDEN_ESTADISTICAS = 4;
 
 const std::vector<i16> CENTRADO = {1, 2, 3, 4, 0, 5, 6, 7, 8};
 const std::vector<i16> INSOLUBLE = {1, 2, 3, 4, 5, 6, 8, 7, 0};
@@ -418,7 +417,7 @@ TEST_F(Movimientos, ButtonElevenBringsTheClockBackToItsFormerState) {
     for (const bool enMarcha : {true, false}) {
         Gbl.OrdenManual = true;
         CambiaCrono(enMarcha ? 1 : 2);
-        PulsaOrden(ORDEN_ORDENAR);
+        PulsaOrden(orden::ORDENAR);
         EXPECT_FALSE(Gbl.OrdenManual);
         EXPECT_EQ(static_cast<bool>(Gbl.CronoEnMarcha), enMarcha);
         EXPECT_EQ(Mesa.MousePointer, PUNTERO_NORMAL);
@@ -431,7 +430,7 @@ TEST_F(Movimientos, AnotherButtonLeavesASolvableOrderingWithoutANewPuzzle) {
     Gbl.NumMovimientos = 2;
     Gbl.SegundosJuego = 99;
     Gbl.Dificultad = 33;
-    PulsaOrden(ORDEN_ESTADISTICAS);
+    PulsaOrden(orden::ESTADISTICAS);
     EXPECT_FALSE(Gbl.OrdenManual);
     EXPECT_EQ(Gbl.NumMovimientos, 2);
     EXPECT_EQ(Gbl.SegundosJuego, 99);
@@ -443,7 +442,7 @@ TEST_F(Movimientos, AnotherButtonOnAnUnsolvableOrderingAsksInItsPlace) {
     MesaCon(3, INSOLUBLE);
     Gbl.OrdenManual = true;
     P().respuestas = {false};
-    PulsaOrden(ORDEN_ESTADISTICAS);
+    PulsaOrden(orden::ESTADISTICAS);
     EXPECT_TRUE(Gbl.OrdenManual);
     ASSERT_EQ(P().avisos.size(), 1U);
     EXPECT_EQ(P().avisos[0].titulo, TITULO_INSOLUBLE);
@@ -454,7 +453,7 @@ TEST_F(Movimientos, SampleButtonGoesThroughOnAnUnsolvableOrdering) {
     MesaCon(3, INSOLUBLE);
     Gbl.OrdenManual = true;
     Gbl.MostrarMuestra = false;
-    PulsaOrden(ORDEN_MODELO);
+    PulsaOrden(orden::MODELO);
     EXPECT_TRUE(Gbl.OrdenManual);
     EXPECT_TRUE(Gbl.MostrarMuestra);
     EXPECT_TRUE(P().avisos.empty());
@@ -463,8 +462,8 @@ TEST_F(Movimientos, SampleButtonGoesThroughOnAnUnsolvableOrdering) {
 TEST_F(Movimientos, PressBesideThePiecesEndsTheManualOrdering) {
     MesaCon(3, CENTRADO);
     Gbl.OrdenManual = true;
-    Pic_Boton(ORDEN_ORDENAR).MouseDown = [](i16 b, i16 s, float x, float y) {
-        Pic_Boton_MouseDown(ORDEN_ORDENAR, b, s, x, y);
+    Pic_Boton(orden::ORDENAR).MouseDown = [](i16 b, i16 s, float x, float y) {
+        Pic_Boton_MouseDown(orden::ORDENAR, b, s, x, y);
     };
     Pic_Trabajo_MouseMove(0, 0, 5, 5);
     Pic_Trabajo_MouseDown(BOTON_IZQUIERDO, 0, 5, 5);
