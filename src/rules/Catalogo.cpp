@@ -1,7 +1,5 @@
 #include "rules/Catalogo.h"
 
-#include <limits>
-
 #include "core/Fallos.h"
 #include "core/PuzzGbl.h"
 
@@ -9,7 +7,6 @@ namespace tessario {
 
 namespace {
 
-constexpr float SIN_TOPE = std::numeric_limits<float>::max();
 constexpr Paridad CUALQUIERA = Paridad::Cualquiera, IMPAR = Paridad::Impar, PAR = Paridad::Par;
 
 // Deliberate: the triangles' cells are odd in width and even in height; their cut needs it.

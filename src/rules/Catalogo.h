@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <limits>
 
 #include "platform/Tipos.h"
 
@@ -25,6 +26,8 @@ enum Forma : i16 {
 }  // namespace forma
 inline constexpr i16 FORMAS_DE_PIEZA = 8;
 
+inline constexpr float SIN_TOPE = std::numeric_limits<float>::max();
+
 enum class Paridad { Cualquiera, Impar, Par };
 
 struct FichaForma {
@@ -36,8 +39,11 @@ struct FichaForma {
     i16 CeldaMinima;       // sides of a cell, pixels: grids within these two are offered,
     i16 CeldaMaxima;
     i16 LadoMaximo;  // up to so many pieces a side
+
+    bool Limitada() const { return Minima > 0 || Maxima < SIN_TOPE; }
 };
 
+// Of the catalogue's shapes, 0 to 7?
 bool EsForma(i16 numero);
 // Do the pieces of FormaPiezas interlock?
 bool SeCortaConPlantillas();

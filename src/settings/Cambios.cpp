@@ -49,7 +49,7 @@ Punto PasoDe(i16 KeyCode) {
 }
 
 void Tecla() {
-    SonidoJuego(1, SONIDO_TECLA);
+    SonidoJuego(1, sonido::TECLA);
 }
 
 // ---------------------------------------------------------------- switches and knobs

@@ -16,6 +16,7 @@
 #include "platform/Ficheros.h"
 #include "platform/Plataforma.h"
 #include "records/Texto.h"
+#include "rules/Catalogo.h"
 #include "rules/Juego.h"
 #include "rules/Medidas.h"
 #include "session/Ampliacion.h"
@@ -188,7 +189,7 @@ bool AdaptaZoom() {
     const std::string ancho = std::to_string(w), alto = std::to_string(h);
     if (!ZoomValido(w, h, zoom)) {
         PintaMedida(w, h);
-        SonidoJuego(1, SONIDO_RECHAZO);
+        SonidoJuego(1, sonido::RECHAZO);
         Avisa(aviso::IMAGEN_RECHAZADA, {ancho, alto});
         Sistema().Presenta();
         PonZoom(Gbl.AlEntrar.ZoomImagen);
@@ -203,36 +204,28 @@ bool AdaptaZoom() {
 // ---------------------------------------------------------------- shapes that a picture allows
 
 // Outside the bounds of its width over height a shape cannot be cut.
-struct ProporcionForma {
-    i16 forma;
-    float minima, maxima;
-};
-constexpr ProporcionForma PROPORCIONES[] = {
-    {2, 0.476F, 2.1F}, {3, 0, 2.625F}, {1, 0.416F, 2.4F}, {7, 0.416F, 2.4F}};
+bool SePuedeCortar(const FichaForma& ficha) {
+    return !ficha.Limitada() ||
+           (Gbl.ProporcionImagen >= ficha.Minima && Gbl.ProporcionImagen <= ficha.Maxima);
+}
 
 void PermiteFormas() {
-    for (const ProporcionForma& p : PROPORCIONES) Pic_TipPuz[p.forma].Enabled = true;
-    for (const ProporcionForma& p : PROPORCIONES) {
-        if (Gbl.ProporcionImagen >= p.minima && Gbl.ProporcionImagen <= p.maxima) continue;
-        if (Gbl.FormaPiezas == p.forma) {
+    for (i16 f = 0; f < FORMAS_DE_PIEZA; ++f)
+        if (FichaDeForma(f).Limitada()) Pic_TipPuz[f].Enabled = true;
+    for (i16 f = 0; f < FORMAS_DE_PIEZA; ++f) {
+        if (SePuedeCortar(FichaDeForma(f))) continue;
+        if (Gbl.FormaPiezas == f) {
             Gbl.CambiandoForma = true;
-            Pulsa(Pic_TipPuz[0]);
+            Pulsa(Pic_TipPuz[forma::RECTANGULOS]);
             Gbl.CambiandoForma = false;
         }
-        Pic_TipPuz[p.forma].Enabled = false;
+        Pic_TipPuz[f].Enabled = false;
     }
     PintaFormas();
 }
 
 // ---------------------------------------------------------------- grids
 
-// Limits of a cell, pixels, and the finest grid, by whether the cells are cut into triangles.
-constexpr i16 FORMA_TRIANGULOS = 3;
-constexpr i32 CELDA_MAXIMA = 140;
-constexpr struct {
-    i32 celda_minima;
-    i16 ultimo;
-} REJILLAS[] = {{25, 20}, {50, 15}};
 constexpr i16 LADO_MINIMO = 3, LADO_MAXIMO_DESLIZANTES = 8;
 constexpr i16 SIN_REJILLA = 99;
 
@@ -244,8 +237,10 @@ std::string FilaDeRejilla(i32 n) {
     return fila + " -> " + Derecha(total, 3);
 }
 
-bool CabeRejilla(i32 n, const Punto& imagen, i32 minima) {
-    const auto cabe = [minima](i32 lado) { return lado >= minima && lado <= CELDA_MAXIMA; };
+bool CabeRejilla(i32 n, const Punto& imagen, const FichaForma& ficha) {
+    const auto cabe = [&](i32 lado) {
+        return lado >= ficha.CeldaMinima && lado <= ficha.CeldaMaxima;
+    };
     return cabe(imagen.x / n) && cabe(imagen.y / n);
 }
 
@@ -363,13 +358,14 @@ void ImagenCambia() {
 void CargaLisNroPiezas() {
     const Juego& juego = JuegoEnCurso();
     Lis_NroPiezas.Clear();
-    const auto& rejilla = REJILLAS[Gbl.FormaPiezas == FORMA_TRIANGULOS ? 1 : 0];
-    const i16 ultimo = juego.TieneFormas ? rejilla.ultimo : LADO_MAXIMO_DESLIZANTES;
+    const FichaForma& ficha =
+        FichaDeForma(EsForma(Gbl.FormaPiezas) ? Gbl.FormaPiezas : i16{forma::RECTANGULOS});
+    const i16 ultimo = juego.TieneFormas ? ficha.LadoMaximo : LADO_MAXIMO_DESLIZANTES;
     const Punto imagen = TamanoConZoom();
     i16 mejor = SIN_REJILLA;
     i32 indice = 0;
     for (i16 n = LADO_MINIMO; n <= ultimo; ++n) {
-        if (juego.TieneFormas && !CabeRejilla(n, imagen, rejilla.celda_minima)) continue;
+        if (juego.TieneFormas && !CabeRejilla(n, imagen, ficha)) continue;
         Lis_NroPiezas.AddItem(FilaDeRejilla(n));
         // Of two that are equally near the finer one.
         if (std::abs(n - Gbl.PiezasPorLado) > std::abs(mejor - Gbl.PiezasPorLado)) continue;
@@ -386,10 +382,10 @@ void CargaLisNroPiezas() {
 }
 
 void File1_Click() {
-    if (!Gbl.Cargando) SonidoJuego(1, SONIDO_TECLA);
+    if (!Gbl.Cargando) SonidoJuego(1, sonido::TECLA);
     if (!LeeElegida()) {
         // The picture in use stays the puzzle's, and stays on show.
-        if (!Gbl.Cargando) SonidoJuego(1, SONIDO_RECHAZO);
+        if (!Gbl.Cargando) SonidoJuego(1, sonido::RECHAZO);
         return;
     }
     CalculaTamanos();
@@ -410,13 +406,13 @@ void File1_Click() {
 void File1_DblClick() {}
 
 void Dir1_Change() {
-    if (!Gbl.Cargando) SonidoJuego(1, SONIDO_TECLA);
+    if (!Gbl.Cargando) SonidoJuego(1, sonido::TECLA);
     ListaCarpeta(Dir1.Path);
     File1.Selecciona(0);
 }
 
 void Drive1_Change() {
-    SonidoJuego(1, SONIDO_TECLA);
+    SonidoJuego(1, sonido::TECLA);
     // A medium that went away while it was listed: the lists stay where they are.
     if (!EsCarpeta(Drive1.Drive)) {
         Drive1.Drive = LugarDe(Dir1.Path);
@@ -433,7 +429,7 @@ void Spin1_Change() {
     const double h = Int(Pic_FonTamReal.Height() * static_cast<double>(v) / 100);
     if (w > IMAGEN_ANCHO_MAX || h > IMAGEN_ALTO_MAX || w < IMAGEN_ANCHO_MIN ||
         h < IMAGEN_ALTO_MIN) {
-        SonidoJuego(1, SONIDO_RECHAZO);
+        SonidoJuego(1, sonido::RECHAZO);
         Avisa(aviso::ZOOM_EXCESIVO);
         Spin1.Value = Gbl.ZoomImagen;
     } else {
@@ -445,7 +441,7 @@ void Spin1_Change() {
 }
 
 void Lis_NroPiezas_Click() {
-    if (!Gbl.Cargando && !Gbl.CargandoArchivo) SonidoJuego(1, SONIDO_TECLA);
+    if (!Gbl.Cargando && !Gbl.CargandoArchivo) SonidoJuego(1, sonido::TECLA);
     if (Lis_NroPiezas.ListIndex < 0) return;
     i32 lado = 0;
     const std::string& fila =

@@ -133,14 +133,14 @@ void MuestraBotonPortapapeles() {
 
 void Pic_BotPortapapeles_MouseDown() {
     PintaBotonLargo(Pic_BotPortapapeles, ROTULO_PORTAPAPELES, true);
-    SonidoJuego(1, SONIDO_TECLA);
+    SonidoJuego(1, sonido::TECLA);
     TomaPortapapeles();
     const i16 velocidad = Gbl.VelocidadJuego;
     Gbl.VelocidadJuego = VELOCIDAD_NORMAL;
     Pausa(PAUSA_PORTAPAPELES);
     Gbl.VelocidadJuego = velocidad;
     PintaBotonLargo(Pic_BotPortapapeles, ROTULO_PORTAPAPELES, false);
-    SonidoJuego(1, SONIDO_SUELTA);
+    SonidoJuego(1, sonido::SUELTA);
 }
 
 void ImportaImagenTraida() {

@@ -107,7 +107,7 @@ Cuadro& NuevoBoton(Cuadro& c, const char* nombre, Control* contenedor, const Sit
     c.PonBackColor(FONDO_VENTANA);
     c.NombreAccesible = accesible;
     c.TabStop = c.Resalta = true;
-    PonCursor(c, "ManoIndice");
+    PonCursor(c, cursor::MANO_INDICE);
     return c;
 }
 
@@ -117,7 +117,7 @@ Buleano& NuevoBuleano(i16 indice, const char* rotulo, const Sitio& sitio,
     b.Nombre += "(" + std::to_string(indice) + ")";
     b.Caption = rotulo;
     b.TabStop = true;
-    PonCursor(b, "ManoIndice");
+    PonCursor(b, cursor::MANO_INDICE);
     return b;
 }
 
@@ -141,7 +141,7 @@ void NuevosSelectores() {
         s.Nombre += "(" + std::to_string(i) + ")";
         s.Caption = ROTULOS[i - 1];
         s.TabStop = true;
-        PonCursor(s, "ManoIndice");
+        PonCursor(s, cursor::MANO_INDICE);
     }
     Sel(SEL_MODO).Textos = {"Crear figuras o nuevos modelos", "Resolver modelos archivados"};
 }
@@ -172,7 +172,7 @@ void NuevoZoom() {
     Spin1.Max = ZOOM_MAXIMO;
     Spin1.Incremento = ZOOM_PASO;
     Spin1.TabStop = true;
-    PonCursor(Spin1, "ManoIndice");
+    PonCursor(Spin1, cursor::MANO_INDICE);
     Nuevo(Pic_InfoTamBmp, "Pic_InfoTamBmp", &Pic_ZoomImagen, {7, 53, 154, 27});
     Nuevo(Pic_TamRelIma, "Pic_TamRelIma", &Pic_ZoomImagen, {167, 20, 80, 60}).NombreAccesible =
         "La imagen en la pantalla";
@@ -208,7 +208,7 @@ void NuevoColor(Cuadro& panel, CampoColor& campo, const char* nombre, const char
     Nuevo(campo.Seleccion, prefijo, &panel, {5, 19, 184, 34}).Nombre += "Sel";
     campo.Seleccion.PonBackColor(FONDO_VENTANA);
     campo.Seleccion.TabStop = true;
-    PonCursor(campo.Seleccion, "ManoIndice");
+    PonCursor(campo.Seleccion, cursor::MANO_INDICE);
     Nuevo(campo.Marca, prefijo, &campo.Seleccion, {0, 0, COLOR_MARCA, COLOR_MARCA}).Nombre +=
         "Marca";
     Nuevo(campo.Muestra, prefijo, &panel, {5, 56, 184, 24}).Nombre += "Mue";
@@ -221,7 +221,7 @@ void NuevoFactor() {
     p.Caption = "Porcentaje";
     p.NombreAccesible = "Factor de atracción, porcentaje";
     p.TabStop = true;
-    PonCursor(p, "ManoIndice");
+    PonCursor(p, cursor::MANO_INDICE);
     Nuevo(Pic_Prueba, "Pic_Prueba", &Pic_FactorPegado, {8, 65, 131, 115})
         .PonBackColor(FONDO_VENTANA);
     Nuevo(Pic_PruebaPeq, "Pic_PruebaPeq", &Pic_Prueba, {53, 45, 29, 23});
@@ -238,7 +238,7 @@ void NuevoPrograma() {
                              {VELOCIDAD_X, VELOCIDAD_Y, VELOCIDAD_ANCHO, VELOCIDAD_ALTO});
     p.Caption = "Velocidad de juego";
     p.TabStop = true;
-    PonCursor(p, "ManoIndice");
+    PonCursor(p, cursor::MANO_INDICE);
     NuevoBoton(Pic_BotAyuda, "Pic_BotAyuda", nullptr, {0, 0, LADO_BOTON, LADO_BOTON}, "Ayuda");
     NuevoBoton(Pic_BotSalir, "Pic_BotSalir", nullptr, {0, 0, LADO_BOTON, LADO_BOTON}, "Salir");
 }
@@ -415,7 +415,7 @@ void PintaFormas() {
                FORMA_TESELA_X + FORMA_TESELA_PASO * i, 0, SRCCOPY);
         if (!c.Enabled) Apaga(c);
         if (c.Enabled && i != Gbl.FormaPiezas)
-            PonCursor(c, "ManoIndice");
+            PonCursor(c, cursor::MANO_INDICE);
         else
             PonPuntero(c, PUNTERO_NORMAL);
     }
@@ -467,7 +467,7 @@ void PonTextosDeFondo() {
 void PonPunterosDeListas() {
     const auto pon = [](Control& c, bool llena) {
         if (c.Enabled && llena)
-            PonCursor(c, "ManoIndice");
+            PonCursor(c, cursor::MANO_INDICE);
         else
             PonPuntero(c, PUNTERO_NORMAL);
     };

@@ -58,7 +58,6 @@ Potenciometro& Pot(i16 indice);  // 1 and 2
 inline constexpr i16 ZOOM_MINIMO = 5, ZOOM_MAXIMO = 995, ZOOM_PASO = 5;
 
 inline constexpr const char* PATRON_IMAGENES = "*.bmp;*.rle;*.wmf;*.emf;*.jpg";
-inline constexpr i16 SONIDO_TECLA = 6, SONIDO_SUELTA = 7, SONIDO_BOTON = 9, SONIDO_RECHAZO = 11;
 
 // All records as in a program just started, without events.
 void Reinicia();

@@ -215,14 +215,14 @@ void BuleanoJuego_Change(i16 nuevo) {
     Bul(nuevo).Value = true;  // one of the group is always on
     if (nuevo != actual) {
         Bul(actual).Value = false;
-        SonidoJuego(1, SONIDO_TECLA);
+        SonidoJuego(1, sonido::TECLA);
         Avisa(aviso::CAMBIO_JUEGO);
         if (Gbl.RespuestaMensaje) {
             EmpiezaOtroJuego(nuevo);
         } else {
             Bul(nuevo).Value = false;
             Bul(actual).Value = true;
-            SonidoJuego(1, SONIDO_TECLA);
+            SonidoJuego(1, sonido::TECLA);
         }
     }
     Gbl.CambiandoSelector = false;
@@ -278,7 +278,7 @@ void Pic_BotSalir_Click() {
     Sigue([] { AseguraImagen(); });
     if (UsaImagen() && !Gbl.ImagenValida) return;
     PonPuntero(Personal, PUNTERO_RELOJ);
-    SonidoJuego(1, SONIDO_BOTON);
+    SonidoJuego(1, sonido::BOTON);
     Gbl.ColoresCambiados = CambiaronColores();
     Sigue([] { PreguntaReinicio(); });
     if (!Gbl.ParametrosCambiados) Sigue([] { ConservaOpciones(); });
@@ -297,7 +297,7 @@ void Pic_BotSalir_Click() {
 }
 
 void Pic_BotAyuda_Click() {
-    SonidoJuego(1, SONIDO_BOTON);
+    SonidoJuego(1, sonido::BOTON);
     Ayuda(TEMA_PERSONAL);
 }
 

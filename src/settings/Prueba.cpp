@@ -30,7 +30,6 @@ constexpr i32 PASOS_A_MANO = 15, PASOS_SOLA = 26;
 constexpr i32 PARPADEOS = 6;
 constexpr i16 PAUSA_A_MANO = 22, PAUSA_OCULTA = 45, PAUSA_VISIBLE = 140, PAUSA_SOLA = 4,
               PAUSA_FINAL = 200;
-constexpr i16 SONIDO_ENCAJA = 51;
 
 constexpr int CAJA = pluma::Desde | pluma::ConColor | pluma::Relativo | pluma::Caja;
 
@@ -66,7 +65,7 @@ void PintaPrueba() {
 
 void Pic_BotPrueba_MouseDown() {
     PintaBotonLargo(Pic_BotPrueba, ROTULO, true);
-    SonidoJuego(1, SONIDO_TECLA);
+    SonidoJuego(1, sonido::TECLA);
     LlevaPieza(0);
     const i32 k = static_cast<i32>(Int((100 - Gbl.FactorAtraccion) * PASOS_SOLA / 100.0));
     for (i32 i = 1; i <= k + PASOS_A_MANO; ++i) {
@@ -78,10 +77,10 @@ void Pic_BotPrueba_MouseDown() {
         LlevaPieza(PASOS_A_MANO + i);
         Pausa(PAUSA_SOLA);
     }
-    SonidoJuego(1, SONIDO_ENCAJA);
+    SonidoJuego(1, sonido::EN_SITIO);
     Pausa(PAUSA_FINAL);
     PintaBotonLargo(Pic_BotPrueba, ROTULO, false);
-    SonidoJuego(1, SONIDO_SUELTA);
+    SonidoJuego(1, sonido::SUELTA);
 }
 
 }  // namespace tessario
