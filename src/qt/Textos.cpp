@@ -12,6 +12,7 @@ constexpr std::size_t ANCHOS_GUARDADOS = 4096;  // widths kept for one font befo
 constexpr i16 LETRA_MINIMA = 9;                 // pixels; nothing is set smaller to fit
 constexpr i32 CASI_LLENO = 85;                  // percent of the width from which a line is full
 constexpr i32 ENSANCHE_MAXIMO = 3;              // a blank grows by at most so many of its own width
+constexpr i32 APRIETO = 4;                      // a blank may lose this part of its width
 constexpr i32 REBORDE = 3;                      // glyphs may reach out of their box by so much
 
 QString Qs(std::string_view t) {
@@ -31,11 +32,17 @@ QString Pliega(const QString& p) {
     return p.left(sangria) + p.mid(sangria).simplified();
 }
 
+// The least width of a line: its blanks may give way a little, as a printer sets a tight line.
+i32 AnchoApretado(const QString& renglon, const QFontMetrics& m) {
+    const auto huecos = static_cast<i32>(renglon.trimmed().count(u' '));
+    return m.horizontalAdvance(renglon) - huecos * m.horizontalAdvance(u' ') / APRIETO;
+}
+
 // Where the line that begins at `inicio` ends: after the last word that fits, its blank not
 // counted; a word wider than the line is cut within.
 qsizetype FinDeRenglon(const QString& p, qsizetype inicio, const QFontMetrics& m, i32 ancho) {
     const auto cabe = [&](qsizetype fin) {
-        return m.horizontalAdvance(p.mid(inicio, fin - inicio)) <= ancho;
+        return AnchoApretado(p.mid(inicio, fin - inicio), m) <= ancho;
     };
     qsizetype corte = inicio;
     for (qsizetype i = inicio; i < p.size();) {
@@ -152,6 +159,10 @@ std::vector<Renglon> Textos::Renglones(const Fuente& f, std::string_view texto, 
     return salida;
 }
 
+i32 Textos::AnchoMinimo(const Fuente& f, const Renglon& r) {
+    return AnchoApretado(r.texto, Entrada(f).medida);
+}
+
 void Textos::PintaRenglon(QPainter& p, const Fuente& f, const Renglon& r, i32 y, i32 ancho,
                           bool centrado) {
     const QFontMetrics& m = Entrada(f).medida;
@@ -159,7 +170,8 @@ void Textos::PintaRenglon(QPainter& p, const Fuente& f, const Renglon& r, i32 y,
     const QStringList palabras = r.texto.split(u' ', Qt::SkipEmptyParts);
     const auto huecos = static_cast<i32>(palabras.size()) - 1;
     const i32 blanco = m.horizontalAdvance(u' ');
-    if (!r.lleno || huecos < 1 || sobra <= 0 || sobra > huecos * blanco * ENSANCHE_MAXIMO) {
+    const bool ajusta = sobra < 0 || (r.lleno && sobra <= huecos * blanco * ENSANCHE_MAXIMO);
+    if (huecos < 1 || !ajusta) {
         p.drawText(centrado ? sobra / 2 : 0, base, r.texto);
         return;
     }

@@ -41,6 +41,8 @@ public:
     // whose end the text was broken, and a paragraph's last line that nearly fills the width while
     // another paragraph follows. A path is broken after a slash.
     std::vector<Renglon> Renglones(const Fuente& f, std::string_view texto, i32 ancho);
+    // How narrow a line can be set: its blanks give way by a fourth, no more.
+    i32 AnchoMinimo(const Fuente& f, const Renglon& r);
     // Paints one line with its top at y; a full one from edge to edge.
     void PintaRenglon(QPainter& p, const Fuente& f, const Renglon& r, i32 y, i32 ancho,
                       bool centrado);

@@ -165,7 +165,11 @@ TEST_F(VistaDeMandos, TheSwitchTurnsWithAPressAndWithSpace) {
     Abre(v, {&b});
     Pulsa(v, 10, 12);
     EXPECT_TRUE(b.Value);
+    const unsigned bajoPuntero = Punto(v, 8, 12);
+    Mueve(v, 200, 150);
+    Eventos();
     EXPECT_EQ(Punto(v, 8, 12), 0x1C459CU) << "lit";
+    EXPECT_NE(bajoPuntero, 0x1C459CU) << "and lifted under the pointer";
     Tecla(v, Qt::Key_Tab);
     Tecla(v, Qt::Key_Space);
     EXPECT_FALSE(b.Value);

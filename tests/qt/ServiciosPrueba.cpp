@@ -74,8 +74,7 @@ TEST_F(VistaDeServicios, EveryMessageFitsTheLinesThatItIsGiven) {
         const std::string texto = TextoDe(*a, {a->muestra[0], a->muestra[1]});
         const auto renglones = t.Renglones(Fuente{}, texto, ANCHO);
         EXPECT_LE(renglones.size(), static_cast<std::size_t>(a->modo)) << texto;
-        for (const Renglon& r : renglones)
-            EXPECT_LE(P().AnchoTexto(Fuente{}, r.texto.toStdString()), ANCHO) << texto;
+        for (const Renglon& r : renglones) EXPECT_LE(t.AnchoMinimo(Fuente{}, r), ANCHO) << texto;
         EXPECT_LE(P().AnchoTexto(titulo, a->titulo), ANCHO) << a->titulo;
     }
 }
@@ -176,6 +175,9 @@ TEST_F(VistaDeServicios, AFullLineGoesFromEdgeToEdge) {
     const auto [izq3, der3] = Extremos(t, {"  HH HH", true}, 60, false);
     EXPECT_GE(izq3, 14) << "an indent stays";
     EXPECT_GE(der3, 57);
+    // One a little too wide is squeezed: 56 pixels of text on 54.
+    EXPECT_LE(Extremos(t, {"HH HH HH", false}, 54, false).second, 53);
+    EXPECT_GE(Extremos(t, {"HH HH HH", false}, 54, false).second, 50);
     // A line of few words is not torn apart, one word not at all.
     EXPECT_LT(Extremos(t, {"HH HH", true}, 200, false).second, 40);
     EXPECT_LT(Extremos(t, {"HHHH", true}, 60, false).second, 30);
