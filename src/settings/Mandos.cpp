@@ -54,6 +54,7 @@ constexpr i32 ANCHO_BULEANO = 206, ALTO_BULEANO = 24,
 constexpr i32 ALTO_COLOR = 85, PASO_COLOR = 100;
 constexpr i32 LADO_BOTON = 48, BOTON_DESDE_ABAJO = 65, AYUDA_DESDE_DERECHA = 157,
               SALIR_DESDE_DERECHA = 68;
+constexpr i32 LETRA_BOTON_LARGO = 11;  // the captions fill the long buttons
 constexpr i32 VELOCIDAD_X = 502, VELOCIDAD_Y = 388, VELOCIDAD_Y_MODELOS = 374;
 constexpr i32 VELOCIDAD_ANCHO = 132, VELOCIDAD_ALTO = 40;
 
@@ -159,6 +160,7 @@ void NuevaImagen() {
         c->TabStop = true;
     NuevoBoton(Pic_BotPortapapeles, "Pic_BotPortapapeles", &Pic_ImagenPuzz,
                {42, 150, 171, ALTO_BOTON_LARGO}, "Cargar imagen del Portapapeles");
+    Pic_BotPortapapeles.Font.Tamano = LETRA_BOTON_LARGO;
     Nuevo(Pic_MostrarImagen, "Pic_MostrarImagen", &Pic_ImagenPuzz, {8, 182, 240, 180});
     Pic_MostrarImagen.NombreAccesible = "Vista previa";
 }
@@ -227,7 +229,7 @@ void NuevoFactor() {
     Nuevo(Pic_PruebaPeq, "Pic_PruebaPeq", &Pic_Prueba, {53, 45, 29, 23});
     NuevoBoton(Pic_BotPrueba, "Pic_BotPrueba", &Pic_Prueba, {15, 83, 98, ALTO_BOTON_LARGO},
                "Probar atracción");
-    Pic_BotPrueba.Font.Tamano = 11;  // its caption fills it
+    Pic_BotPrueba.Font.Tamano = LETRA_BOTON_LARGO;
 }
 
 void NuevoPrograma() {
