@@ -12,7 +12,6 @@ namespace tessario {
 
 namespace {
 
-constexpr i16 SONIDO_RECHAZO = 11;
 constexpr const char* NOMBRE_ARRASTRADA = "Imagen arrastrada";
 constexpr const char* NOMBRE_PORTAPAPELES = "tsportap";  // the history knows it by that name
 
@@ -40,7 +39,7 @@ bool TomaAlguno(const std::vector<std::string>& ficheros) {
 }
 
 bool NoEsImagen() {
-    SonidoJuego(1, SONIDO_RECHAZO);
+    SonidoJuego(1, sonido::RECHAZO);
     Avisa(aviso::NO_ES_IMAGEN);
     return false;
 }
