@@ -478,7 +478,7 @@ unsigned Programa::ColorDeCuadro(int i) {
     return colores[i % 10];
 }
 
-void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int alto, int n) {
+std::string Programa::ImagenDeCuadros(int ancho, int alto, int n) {
     // 24-bit BMP, rows from the bottom, each padded to four bytes.
     const int fila = (ancho * 3 + 3) / 4 * 4;
     std::string b(static_cast<std::size_t>(54 + fila * alto), '\0');
@@ -500,7 +500,11 @@ void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int 
             const unsigned c = ColorDeCuadro(y * n / alto * n + x * n / ancho);
             pon(54 + (alto - 1 - y) * fila + x * 3, c, 3);
         }
-    EscribeBytes("Imagenes/" + nombre, b);
+    return b;
+}
+
+void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int alto, int n) {
+    EscribeBytes("Imagenes/" + nombre, ImagenDeCuadros(ancho, alto, n));
 }
 
 void Programa::Lanzalo(const Entorno& entorno) {

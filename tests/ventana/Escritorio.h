@@ -122,7 +122,8 @@ public:
     void EscribeGlobal(int juego, int velocidad, bool sonido = false, bool sugerencias = false);
     void EscribePartida(const PartidaGuardada& p);
     void EscribeBytes(const std::string& nombre, const std::string& bytes);
-    // A picture of big flat squares of distinct colours, n a side: BMP in Imagenes/.
+    // A picture of big flat squares of distinct colours, n a side: a BMP, or one in Imagenes/.
+    static std::string ImagenDeCuadros(int ancho, int alto, int n);
     void EscribeImagenDeCuadros(const std::string& nombre, int ancho, int alto, int n);
     static unsigned ColorDeCuadro(int i);
 

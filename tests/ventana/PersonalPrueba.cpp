@@ -1,7 +1,9 @@
 // The settings window of the real program, by mouse and keyboard.
+#include <cstdlib>
 #include <filesystem>
 
 #include "ventana/Escritorio.h"
+#include "ventana/Oferta.h"
 
 namespace tessario::ventana {
 namespace {
@@ -20,6 +22,8 @@ struct Lugar {
 constexpr Lugar FICHEROS{155, 104}, FORMA_4{320, 161}, FONDO_ROJO{319, 508};
 constexpr Lugar DESLIZANTES{260, 44}, MOVILES{60, 44};
 constexpr Lugar FACTOR_0{506, 100}, FACTOR_100{586, 100}, FACTOR_50{545, 100}, PRUEBA{566, 235};
+constexpr Lugar DEL_PORTAPAPELES{141, 237};  // the button that takes its picture
+constexpr const char* PEGADA = "tsportap.bmp";
 constexpr int FILA_FICHERO = 15;  // height of a row of the list
 
 class Ajustes {
@@ -39,6 +43,13 @@ public:
     void PulsaSalir() { Pulsa({612, marco_.alto - 41}); }
     bool Cerrada() {
         return e_.Espera([&] { return !e_.HayVentana(PERSONAL); });
+    }
+    // Leaves with yes to a new puzzle.
+    bool Reempieza() {
+        PulsaSalir();
+        const bool cerrada = e_.Responde(PARAMETROS, true) && Cerrada();
+        e_.EsperaQuieto();
+        return cerrada;
     }
     const Escritorio::Marco& Marco() const { return marco_; }
 
@@ -64,6 +75,117 @@ PartidaGuardada Rompecabezas(Programa& programa) {
         p.piezas.push_back(q);
     }
     return p;
+}
+
+// Pixels of the screen that are near a colour.
+int Cerca(const Foto& f, unsigned color) {
+    constexpr int MARGEN = 6;
+    int n = 0;
+    for (const unsigned p : f.pixeles) {
+        bool cerca = true;
+        for (const int canal : {0, 8, 16})
+            cerca = cerca && std::abs(static_cast<int>(p >> canal & 255U) -
+                                      static_cast<int>(color >> canal & 255U)) <= MARGEN;
+        n += cerca;
+    }
+    return n;
+}
+
+// A colour that pictures of squares have with 3 or more a side, and not with 2.
+unsigned ColorNuevo() {
+    return Programa::ColorDeCuadro(6);
+}
+
+// A jigsaw in play whose picture has no ColorNuevo.
+PartidaGuardada SinColorNuevo(Programa& programa) {
+    PartidaGuardada p = Rompecabezas(programa);
+    programa.EscribeImagenDeCuadros(p.imagen, p.anchoImagen, p.altoImagen, 2);
+    return p;
+}
+
+TEST(PersonalVentana, AMetafileAndAPhotographBecomePuzzles) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    fs::copy_file(std::string(TESSARIO_DATOS) + "metaficheros/w_paisaje-1.wmf",
+                  programa.Carpeta() + "Imagenes/ab.WMF");
+    const std::string bmp = programa.Carpeta() + "cuadros.bmp";
+    programa.EscribeBytes("cuadros.bmp", Programa::ImagenDeCuadros(640, 480, 3));
+    const std::string orden = "convert '" + bmp + "' -quality 95 -sampling-factor 1x1 '" +
+                              programa.Carpeta() + "Imagenes/ac.jpg'";
+    ASSERT_EQ(std::system(orden.c_str()), 0);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    const struct {
+        int fila;
+        unsigned color;
+        const char* foto;
+    } casos[] = {{1, 0x5A96DC, "personal-metafichero"}, {2, ColorNuevo(), "personal-jpeg"}};
+    for (const auto& c : casos) {
+        EXPECT_EQ(Cerca(e.Mira(), c.color), 0) << c.foto;
+        ASSERT_TRUE(ajustes.Abre()) << c.foto;
+        ajustes.PulsaFichero(c.fila);
+        e.EsperaQuieto();
+        EXPECT_GT(Cerca(e.Mira(), c.color), 50) << c.foto;  // in the preview
+        ASSERT_TRUE(ajustes.Reempieza()) << c.foto;
+        const Foto mesa = e.Mira();
+        mesa.Guarda(c.foto);
+        EXPECT_GT(Cerca(mesa, c.color), 2000) << c.foto;
+    }
+    ASSERT_TRUE(programa.Sale());
+    const PartidaLeida p = programa.LeePartida(21);
+    EXPECT_EQ(p.imagen, "ac.jpg");
+    EXPECT_EQ(p.piezas.size(), 25U);
+    EXPECT_TRUE(p.archivable);
+}
+
+// The clipboard's picture, brought by `pega`, which leaves the window open, becomes a puzzle.
+void PegaYReempieza(const char* foto, const std::function<bool(Escritorio&, Ajustes&)>& pega) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    ASSERT_TRUE(programa.Arranca());
+    EXPECT_EQ(Cerca(e.Mira(), ColorNuevo()), 0);
+    Ajustes ajustes(e, programa);
+    const Oferta oferta(e, "image/bmp", Programa::ImagenDeCuadros(400, 300, 3));
+    ASSERT_TRUE(pega(e, ajustes));
+    e.EsperaQuieto();
+    e.Mira().Guarda(foto);
+    ASSERT_TRUE(ajustes.Reempieza());
+    EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 1000);
+    ASSERT_TRUE(programa.Sale());
+    EXPECT_EQ(programa.LeePartida(21).imagen, PEGADA);
+    EXPECT_TRUE(fs::exists(programa.Carpeta() + "Imagenes/" + PEGADA));
+}
+
+TEST(PersonalVentana, APicturePastedOnTheTableOpensTheWindowWithIt) {
+    PegaYReempieza("personal-pegada-mesa", [](Escritorio& e, Ajustes& ajustes) {
+        e.TeclaConControl("v");
+        return ajustes.Espera();
+    });
+}
+
+TEST(PersonalVentana, APictureIsPastedInTheWindow) {
+    PegaYReempieza("personal-pegada", [](Escritorio& e, Ajustes& ajustes) {
+        const bool abierta = ajustes.Abre();
+        e.TeclaConControl("v");
+        return abierta;
+    });
+}
+
+TEST(PersonalVentana, TheButtonTakesTheClipboardsPicture) {
+    PegaYReempieza("personal-boton-portapapeles", [](Escritorio& e, Ajustes& ajustes) {
+        // The button's place in the window; its last columns are edge and tile, without letters.
+        constexpr int X = 56, Y = 227, ANCHO = 171, ALTO = 23, FINAL = 4;
+        const bool abierta = ajustes.Abre();
+        const Foto f = e.Mira();
+        const int x = ajustes.Marco().x + X + ANCHO - FINAL, y = ajustes.Marco().y + Y;
+        for (int j = y; j < y + ALTO; ++j) EXPECT_EQ(f.En(x, j), f.En(x + 1, j)) << j;
+        ajustes.Pulsa(DEL_PORTAPAPELES);
+        return abierta;
+    });
 }
 
 TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
