@@ -123,6 +123,34 @@ PartidaGuardada Tangram(const Programa& programa, int modelo) {
     return p;
 }
 
+// The part of a photo that a window takes.
+Foto Recorta(const Foto& foto, const Escritorio::Marco& m) {
+    Foto parte;
+    parte.ancho = m.ancho;
+    parte.alto = m.alto;
+    for (int y = m.y; y < m.y + m.alto; ++y)
+        for (int x = m.x; x < m.x + m.ancho; ++x) parte.pixeles.push_back(foto.En(x, y));
+    return parte;
+}
+
+// The settings window of the program in play: only that is kept.
+bool TomaAjustes(const char* nombre, int juego,
+                 const std::function<PartidaGuardada(Programa&)>& partida) {
+    constexpr int PERSONALIZAR = 2;
+    Escritorio e(GRANDE.ancho, GRANDE.alto);
+    Programa programa(e);
+    programa.EscribeGlobal(juego, 60, true, true);
+    programa.EscribePartida(partida(programa));
+    Escritorio::Marco marco;
+    if (!programa.Arranca()) return false;
+    programa.PulsaBoton(PERSONALIZAR);
+    if (!e.Espera([&] { return e.BuscaVentana("Personalizar", marco); })) return false;
+    e.Mueve(GRANDE.ancho - 5, GRANDE.alto - 5);
+    e.EsperaQuieto();
+    Recorta(e.Mira(), marco).Guarda(nombre);
+    return true;
+}
+
 // `luego` opens what the picture is to show on top of the table.
 bool Toma(const char* nombre, Pantalla pantalla, int juego,
           const std::function<PartidaGuardada(Programa&)>& partida,
@@ -230,12 +258,32 @@ int main() {
              }) &&
         Toma("estadisticas", CHICA, 21, AMedias,
              [](Escritorio&, Programa& programa) { programa.PulsaBoton(4); }) &&
-        Toma("cargar", CHICA, 21, AMedias, [](Escritorio& e, Programa&) {
-            e.Pulsa(300, 560, 3);
-            e.EsperaQuieto();
-            e.Pulsa(330, 560);
-            e.EsperaQuieto();
-            e.Pulsa(300, 241);
+        Toma("cargar", CHICA, 21, AMedias,
+             [](Escritorio& e, Programa&) {
+                 e.Pulsa(300, 560, 3);
+                 e.EsperaQuieto();
+                 e.Pulsa(330, 560);
+                 e.EsperaQuieto();
+                 e.Pulsa(300, 241);
+             }) &&
+        TomaAjustes("ajustes-moviles", 21,
+                    [](Programa&) {
+                        PartidaGuardada p = Rompecabezas("Puerto.jpg", 640, 480, 6, 2, {}, {});
+                        p.colorFondo = 0x336600;
+                        return p;
+                    }) &&
+        TomaAjustes("ajustes-deslizantes", 22,
+                    [](Programa&) {
+                        PartidaGuardada p = Deslizantes("Jardin.jpg");
+                        p.colorFondo = 0x663333;
+                        p.colorPiezas = 0x009900;
+                        return p;
+                    }) &&
+        TomaAjustes("ajustes-tangram", 23, [](Programa& programa) {
+            PartidaGuardada p = Tangram(programa, 50);
+            p.colorFondo = 0x663300;
+            p.colorPiezas = 0x3399FF;
+            return p;
         });
     return bien ? 0 : 1;
 }
