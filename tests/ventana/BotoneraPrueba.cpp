@@ -8,7 +8,8 @@ namespace {
 constexpr int ANCHO = 1024, ALTO = 768;
 constexpr int BOTONERA = ANCHO - 141;  // its left edge
 constexpr unsigned VERDE = 0x00FF00, ROJO = 0xFF0000;
-constexpr const char *AYUDA = "Ayuda de Tessario", *SALIR = "Salir de TESSARIO";
+constexpr const char *AYUDA = "Ayuda de Tessario", *SALIR = "Salir de TESSARIO",
+                     *AJUSTES = "Personalizar";
 
 // A screen, the program on it, and what the tests do with both.
 struct Juego {
@@ -34,6 +35,30 @@ struct Juego {
         e.EsperaQuieto(120);
         e.Tecla("Escape");
         return e.Espera([&] { return !e.HayVentana(titulo); });
+    }
+    // Settings, statistics and history come and go, and the table is as before.
+    // Leaving the settings asks when the puzzle has cells of a size that they do not offer.
+    void VisitaVentanas(bool pregunta = false) {
+        const Foto antes = Mira();
+        VisitaAjustes(pregunta);
+        EXPECT_TRUE(AbreYCierra(4, "Estadísticas"));
+        VisitaHistorico();
+        EXPECT_EQ(Mira().Diferencia(antes, 0, 0, BOTONERA, ALTO), 0);
+    }
+    void VisitaAjustes(bool pregunta) {
+        Escritorio::Marco marco;
+        programa.PulsaBoton(2);
+        ASSERT_TRUE(e.Espera([&] { return e.BuscaVentana(AJUSTES, marco); }));
+        e.EsperaQuieto(120);
+        // Its exit button: 48 a side, 20 from the right, 17 from the bottom.
+        e.Pulsa(marco.x + marco.ancho - 44, marco.y + marco.alto - 41);
+        if (pregunta) EXPECT_TRUE(e.Responde("Parámetros del puzzle", false));
+        EXPECT_TRUE(e.Espera([&] { return !e.HayVentana(AJUSTES); }));
+    }
+    void VisitaHistorico() {
+        programa.PulsaBoton(5);
+        EXPECT_TRUE(e.Responde("Error leyendo el fichero histórico", false)) << "there is none yet";
+        EXPECT_TRUE(AbreYCierra(0, "Histórico de puzzles resueltos"));
     }
     bool AyudaSeAbreYSeCierra() {
         programa.PulsaBoton(6);
@@ -80,11 +105,7 @@ TEST(BotoneraVentana, JigsawButtonsDoWhatTheyAreFor) {
     const PartidaGuardada p = Moviles();
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    EXPECT_EQ(j.Cambia(2), 0);
-    EXPECT_TRUE(j.AbreYCierra(4, "Estadísticas"));
-    j.programa.PulsaBoton(5);
-    EXPECT_TRUE(j.e.Responde("Error leyendo el fichero histórico", false)) << "there is none yet";
-    EXPECT_TRUE(j.AbreYCierra(0, "Histórico de puzzles resueltos"));
+    j.VisitaVentanas(true);  // cells of 160 pixels
 
     // The sample comes and goes: a third of the table's corner.
     EXPECT_GT(j.Cambia(8), 5000);
@@ -167,7 +188,7 @@ TEST(BotoneraVentana, WithTheRecorderOnOnlyWhatChangesNothingWorks) {
     j.e.Arrastra(c.x, c.y, c.x + 20, c.y + 10);
     j.PulsaGrabadora();
     for (int boton : {1, 2, 3, 4, 9, 10, 11, 12}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
-    EXPECT_EQ(j.Cambia(5), 0);
+    j.VisitaHistorico();
     EXPECT_GT(j.Cambia(8), 5000) << "the sample may be looked at";
     EXPECT_TRUE(j.AyudaSeAbreYSeCierra());
     j.programa.PulsaBoton(7);
@@ -236,11 +257,7 @@ TEST(BotoneraVentana, SlidingButtonsDoWhatTheyAreFor) {
     const PartidaGuardada p = Deslizantes({1, 2, 3, 4, 5, 6, 8, 9}, 7);
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    EXPECT_EQ(j.Cambia(2), 0);
-    EXPECT_TRUE(j.AbreYCierra(4, "Estadísticas"));
-    j.programa.PulsaBoton(5);
-    EXPECT_TRUE(j.e.Responde("Error leyendo el fichero histórico", false)) << "there is none yet";
-    EXPECT_TRUE(j.AbreYCierra(0, "Histórico de puzzles resueltos"));
+    j.VisitaVentanas();
     EXPECT_EQ(j.Cambia(8), 0) << "numbers have no sample";
     EXPECT_EQ(j.Cambia(9), 0) << "not there in this game";
     const Foto normal = j.Mira();
@@ -339,7 +356,8 @@ TEST(BotoneraVentana, InTheTangramsDesignModeOnlyShuffleAndArrangeMovePieces) {
     const PartidaGuardada p = Tangram(1);
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    for (int boton : {2, 3, 4, 5, 8, 9, 10, 12}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
+    for (int boton : {3, 8, 9, 10, 12}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
+    j.VisitaVentanas();
     EXPECT_TRUE(j.AyudaSeAbreYSeCierra());
     const Foto antes = j.Mira();
     j.programa.PulsaBoton(11);
@@ -370,7 +388,8 @@ TEST(BotoneraVentana, InTheTangramsModelsShuffleAsksAndTheAidsWork) {
     const PartidaGuardada p = Tangram(2);
     Juego j(p);
     ASSERT_TRUE(j.programa.Arranca());
-    for (int boton : {2, 4, 5, 8}) EXPECT_EQ(j.Cambia(boton), 0) << boton;
+    EXPECT_EQ(j.Cambia(8), 0);
+    j.VisitaVentanas();
     const Foto normal = j.Mira();
     j.programa.PulsaBoton(10);
     const Foto colores = j.Mira();
