@@ -1,4 +1,5 @@
-// The settings window as the records need it: a puzzle that wants a picture asks the player for one.
+// The settings window as the records need it: a puzzle that wants a picture asks the player for
+// one.
 #pragma once
 
 namespace tessario {

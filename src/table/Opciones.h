@@ -8,7 +8,8 @@
 namespace tessario {
 
 void MuestraOpcionesSelec();
-// Makes the options active and opens the panel without a mouse: in the middle of the view, the first row lit and the keyboard on it.
+// Makes the options active and opens the panel without a mouse: in the middle of the view, the
+// first row lit and the keyboard on it.
 void AbreOpcionesConTeclado();
 std::vector<Rect> ZonasOpciones();  // its rows
 void Pic_SelOpciones_MouseMove(i16 Button, i16 Shift, float X, float Y);

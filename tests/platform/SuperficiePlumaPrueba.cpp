@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "apoyo/PlataformaPrueba.h"
 #include "apoyo/Azar.h"
+#include "apoyo/PlataformaPrueba.h"
 
 namespace tessario {
 

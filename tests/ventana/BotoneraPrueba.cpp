@@ -52,7 +52,9 @@ struct Juego {
         e.EsperaQuieto(120);
         // Its exit button: 48 a side, 20 from the right, 17 from the bottom.
         e.Pulsa(marco.x + marco.ancho - 44, marco.y + marco.alto - 41);
-        if (pregunta) EXPECT_TRUE(e.Responde("Parámetros del puzzle", false));
+        if (pregunta) {
+            EXPECT_TRUE(e.Responde("Parámetros del puzzle", false));
+        }
         EXPECT_TRUE(e.Espera([&] { return !e.HayVentana(AJUSTES); }));
     }
     void VisitaHistorico() {
