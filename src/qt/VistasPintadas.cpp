@@ -45,7 +45,8 @@ bool VistaCuadro::EsBoton() const {
 }
 
 void VistaCuadro::RepintaSiResalta() {
-    if (cuadro_.Resalta) update();
+    // A window that goes takes the pointer out of its views when their records may be gone.
+    if (Viva() && cuadro_.Resalta) update();
 }
 void VistaCuadro::AlApretar(QPointF) {
     hundido_ = true;
