@@ -427,6 +427,19 @@ TEST_F(Registros, BoardSavedOnAnotherScreenTakesTheGridOfThisOne) {
     EXPECT_EQ(Gbl.PiezasColocadas, 14);
 }
 
+// (2160 - 65) / 6 = 349.17: cells of 349, a board of 1396, upper margin (2095 - 1396) / 2 = 349.
+TEST_F(Registros, BoardTakesTheGridOfALargeScreenToItsLastCell) {
+    Tablero(4);
+    std::swap(Gbl.Piezas[15].X, Gbl.HuecoX);
+    Gbl.AltoPantalla = 2160;
+    Relee();
+    EXPECT_EQ(ErrorPendiente(), 0);
+    EXPECT_EQ(Gbl.Piezas[15].Y, 349 + 3 * 349);
+    EXPECT_EQ(Gbl.HuecoY, 349 + 3 * 349);
+    EXPECT_EQ(Gbl.Piezas[15].X - Gbl.Piezas[1].X, 3 * 349);
+    EXPECT_EQ(Gbl.PiezasColocadas, 14);
+}
+
 TEST_F(Registros, WhileColoursChangeThePiecesAreNotLaid) {
     Tablero();
     Gbl.ColoresCambiados = true;
