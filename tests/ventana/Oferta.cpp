@@ -3,7 +3,12 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
+#include <algorithm>
+#include <cctype>
 #include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -37,6 +42,118 @@ void Responde(Display* d, const XSelectionRequestEvent& p, const std::string& ti
     XFlush(d);
 }
 
+// --- Dragging, by the fifth version of the protocol that toolkits share.
+
+constexpr long VERSION = 5;
+
+long Atomo(Display* d, const char* nombre) {
+    return static_cast<long>(XInternAtom(d, nombre, False));
+}
+
+// The nearest window from the root down to the point that takes part in drags; 0: none.
+Window DestinoEn(Display* d, int x, int y) {
+    const Window raiz = DefaultRootWindow(d);
+    const Atom aware = XInternAtom(d, "XdndAware", False);
+    for (Window w = raiz; w != None;) {
+        Atom tipo = None;
+        int formato = 0;
+        unsigned long n = 0, resto = 0;
+        unsigned char* datos = nullptr;
+        XGetWindowProperty(d, w, aware, 0, 1, False, XA_ATOM, &tipo, &formato, &n, &resto, &datos);
+        if (datos) XFree(datos);
+        if (tipo == XA_ATOM) return w;
+        Window hija = None;
+        int dentroX = 0, dentroY = 0;
+        XTranslateCoordinates(d, raiz, w, x, y, &dentroX, &dentroY, &hija);
+        w = hija;
+    }
+    return None;
+}
+
+class Arrastre {
+public:
+    Arrastre(const Escritorio& e, std::string tipo, std::string bytes)
+        : d_(XOpenDisplay(e.Nombre().c_str())), tipo_(std::move(tipo)), bytes_(std::move(bytes)) {
+        if (!d_) throw std::runtime_error("no second connection to the private display");
+        yo_ = XCreateSimpleWindow(d_, DefaultRootWindow(d_), 0, 0, 1, 1, 0, 0, 0);
+        XSetSelectionOwner(d_, XInternAtom(d_, "XdndSelection", False), yo_, CurrentTime);
+        XSync(d_, False);
+    }
+    ~Arrastre() { XCloseDisplay(d_); }
+    Arrastre(const Arrastre&) = delete;
+    Arrastre& operator=(const Arrastre&) = delete;
+
+    Acogida A(int x, int y) {
+        Acogida r;
+        destino_ = DestinoEn(d_, x, y);
+        r.hayDestino = destino_ != None;
+        if (!r.hayDestino) return r;
+        Manda("XdndEnter", VERSION << 24, Atomo(d_, tipo_.c_str()), 0, 0);
+        Manda("XdndPosition", 0, static_cast<long>(x) << 16 | y, CurrentTime,
+              Atomo(d_, "XdndActionCopy"));
+        const long* estado = Espera("XdndStatus");
+        r.admitida = estado && (estado[1] & 1);
+        if (!r.admitida) {
+            Manda("XdndLeave", 0, 0, 0, 0);
+            return r;
+        }
+        Manda("XdndDrop", 0, CurrentTime, 0, 0);
+        const long* fin = Espera("XdndFinished");
+        r.recogida = fin && (fin[1] & 1);
+        return r;
+    }
+
+private:
+    void Manda(const char* mensaje, long a, long b, long c, long d) {
+        XEvent e{};
+        e.xclient.type = ClientMessage;
+        e.xclient.window = destino_;
+        e.xclient.message_type = XInternAtom(d_, mensaje, False);
+        e.xclient.format = 32;
+        const long datos[] = {static_cast<long>(yo_), a, b, c, d};
+        std::copy(std::begin(datos), std::end(datos), e.xclient.data.l);
+        XSendEvent(d_, destino_, False, NoEventMask, &e);
+        XFlush(d_);
+    }
+    // Hands out the data until the window sends this message; null: it never did.
+    const long* Espera(const char* mensaje) {
+        const Atom clase = XInternAtom(d_, mensaje, False);
+        const auto fin = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+        while (std::chrono::steady_clock::now() < fin) {
+            while (XPending(d_)) {
+                XNextEvent(d_, &suceso_);
+                if (suceso_.type == SelectionRequest)
+                    Responde(d_, suceso_.xselectionrequest, tipo_, bytes_);
+                if (suceso_.type == ClientMessage && suceso_.xclient.message_type == clase)
+                    return suceso_.xclient.data.l;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+        return nullptr;
+    }
+
+    Display* d_ = nullptr;
+    Window yo_ = None, destino_ = None;
+    std::string tipo_, bytes_;
+    XEvent suceso_{};
+};
+
+// Letters, digits and what never needs hiding stay as they are.
+std::string ComoUri(const std::string& ruta) {
+    std::string uri = "file://";
+    for (const char c : ruta) {
+        if (std::isalnum(static_cast<unsigned char>(c)) || std::strchr("/-._~", c)) {
+            uri += c;
+            continue;
+        }
+        char hex[4];
+        std::snprintf(hex, sizeof hex, "%%%02X",
+                      static_cast<unsigned>(static_cast<unsigned char>(c)));
+        uri += hex;
+    }
+    return uri + "\r\n";
+}
+
 }  // namespace
 
 Oferta::Oferta(const Escritorio& e, std::string tipo, std::string bytes)
@@ -63,6 +180,15 @@ void Oferta::Atiende(const std::stop_token& fin) {
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
+}
+
+Acogida Suelta(const Escritorio& e, int x, int y, const std::string& tipo,
+               const std::string& bytes) {
+    return Arrastre(e, tipo, bytes).A(x, y);
+}
+
+Acogida SueltaFichero(const Escritorio& e, int x, int y, const std::string& ruta) {
+    return Suelta(e, x, y, "text/uri-list", ComoUri(ruta));
 }
 
 }  // namespace tessario::ventana

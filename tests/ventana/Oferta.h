@@ -1,5 +1,5 @@
 // Another program with something to give: it owns a selection of the private X server and hands out
-// one kind of data, from a thread and a connection of its own.
+// one kind of data over a connection of its own, on the clipboard or dragged onto a window.
 #pragma once
 
 #include <string>
@@ -9,9 +9,10 @@
 
 namespace tessario::ventana {
 
+// On the clipboard, from a thread of its own.
 class Oferta {
 public:
-    // On the clipboard: `tipo` is "image/bmp", "text/uri-list" ...
+    // `tipo` is "image/bmp", "text/uri-list" ...
     Oferta(const Escritorio& e, std::string tipo, std::string bytes);
     ~Oferta();
     Oferta(const Oferta&) = delete;
@@ -25,5 +26,19 @@ private:
     std::string tipo_, bytes_;
     std::jthread hilo_;
 };
+
+// How the window under the pointer took what was dragged there.
+struct Acogida {
+    bool hayDestino = false;  // a window there takes part in drags at all
+    bool admitida = false;    // it would take this
+    bool recogida = false;    // dropped, it told that it has taken it
+};
+
+// Drags onto a point of the screen and drops there. It returns when the window has told that it has
+// taken the data, or has refused it.
+Acogida Suelta(const Escritorio& e, int x, int y, const std::string& tipo,
+               const std::string& bytes);
+// The same with a file.
+Acogida SueltaFichero(const Escritorio& e, int x, int y, const std::string& ruta);
 
 }  // namespace tessario::ventana

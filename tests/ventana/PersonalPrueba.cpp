@@ -1,6 +1,7 @@
 // The settings window of the real program, by mouse and keyboard.
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "ventana/Escritorio.h"
 #include "ventana/Oferta.h"
@@ -12,7 +13,8 @@ namespace fs = std::filesystem;
 
 constexpr const char *PERSONAL = "Personalizar", *PARAMETROS = "Parámetros del puzzle",
                      *JUEGO = "Lista 'JUEGO ACTUAL'",
-                     *SIN_AJUSTES = "Error en la carga de datos iniciales";
+                     *SIN_AJUSTES = "Error en la carga de datos iniciales",
+                     *NO_VALIDA = "Imagen no válida";
 constexpr int BOTON_PERSONALIZAR = 2;
 
 // Points of the window, in its own pixels.
@@ -186,6 +188,89 @@ TEST(PersonalVentana, TheButtonTakesTheClipboardsPicture) {
         ajustes.Pulsa(DEL_PORTAPAPELES);
         return abierta;
     });
+}
+
+// A picture of another kind in a folder of another program, by a name that has to be written round.
+std::string FotoAjena(Programa& programa, int n) {
+    const std::string carpeta = programa.Carpeta() + "Mis imágenes/";
+    fs::create_directories(carpeta);
+    programa.EscribeBytes("cuadros.bmp", Programa::ImagenDeCuadros(640, 480, n));
+    const std::string foto = carpeta + "Una señal.png";
+    const std::string orden = "convert '" + programa.Carpeta() + "cuadros.bmp' '" + foto + "'";
+    EXPECT_EQ(std::system(orden.c_str()), 0);
+    return foto;
+}
+
+TEST(PersonalVentana, AFileDroppedOnTheTableOpensTheWindowWithIt) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    const std::string foto = FotoAjena(programa, 3);
+    ASSERT_TRUE(programa.Arranca());
+    EXPECT_EQ(Cerca(e.Mira(), ColorNuevo()), 0);
+    const Acogida acogida = SueltaFichero(e, 300, 400, foto);
+    EXPECT_TRUE(acogida.recogida);
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Espera());
+    e.Mira().Guarda("personal-soltada-mesa");
+    EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 1000);  // in the preview
+    ASSERT_TRUE(ajustes.Reempieza());
+    EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 2000);
+    ASSERT_TRUE(programa.Sale());
+    EXPECT_EQ(programa.LeePartida(21).imagen, "Una señal.bmp");
+    std::ifstream copia(programa.Carpeta() + "Imagenes/Una señal.bmp", std::ios::binary);
+    EXPECT_EQ(std::string({char(copia.get()), char(copia.get())}), "BM");
+}
+
+TEST(PersonalVentana, AFileDroppedOnTheWindowIsChosenAndTheTableBelowTakesNone) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    const std::string foto = FotoAjena(programa, 3);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    const Escritorio::Marco& m = ajustes.Marco();
+    const Acogida debajo = SueltaFichero(e, m.x / 2, m.y + 40, foto);
+    EXPECT_TRUE(debajo.hayDestino);
+    EXPECT_FALSE(debajo.admitida);
+    e.EsperaQuieto();
+    EXPECT_EQ(Cerca(e.Mira(), ColorNuevo()), 0);
+    EXPECT_TRUE(SueltaFichero(e, m.x + m.ancho / 2, m.y + m.alto / 2, foto).recogida);
+    e.EsperaQuieto();
+    e.Mira().Guarda("personal-soltada");
+    EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 1000);
+    ASSERT_TRUE(ajustes.Reempieza());
+    ASSERT_TRUE(programa.Sale());
+    EXPECT_EQ(programa.LeePartida(21).imagen, "Una señal.bmp");
+}
+
+TEST(PersonalVentana, ADroppedFileThatIsNoPictureIsToldAndChangesNothing) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    programa.EscribeBytes("carta.txt", "Querida abuela:\n");
+    const std::string carta = programa.Carpeta() + "carta.txt";
+    ASSERT_TRUE(programa.Arranca());
+    EXPECT_TRUE(SueltaFichero(e, 300, 400, carta).recogida);
+    ASSERT_TRUE(e.Responde(NO_VALIDA, false));
+    e.EsperaQuieto();
+    EXPECT_FALSE(e.HayVentana(PERSONAL));
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    const Foto antes = e.Mira();
+    const Escritorio::Marco& m = ajustes.Marco();
+    EXPECT_TRUE(SueltaFichero(e, m.x + m.ancho / 2, m.y + m.alto / 2, carta).recogida);
+    ASSERT_TRUE(e.Responde(NO_VALIDA, false));
+    e.EsperaQuieto();
+    EXPECT_EQ(e.Mira().Diferencia(antes, m.x, m.y, m.ancho, m.alto - 100), 0);
+    ajustes.PulsaSalir();
+    ASSERT_TRUE(ajustes.Cerrada());  // without a question
+    ASSERT_TRUE(programa.Sale());
+    EXPECT_EQ(programa.LeePartida(21).imagen, "aa.bmp");
 }
 
 TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
