@@ -26,6 +26,7 @@
 #include "rules/PuzzBas.h"
 #include "session/Ampliacion.h"
 #include "session/Apertura.h"
+#include "session/Pegada.h"
 #include "session/Reparacion.h"
 
 namespace tessario {
@@ -59,6 +60,7 @@ std::string RutaDeImagen() {
 }
 
 void CargaImagenReal() {
+    DevuelvePegada(Gbl.RutaImagen);
     auto mapa = std::make_shared<Mapa>();
     const i32 error = Sistema().CargaImagen(RutaDeImagen(), *mapa);
     if (error != 0) throw ErrorEjecucion(Corto(error));

@@ -12,8 +12,6 @@ namespace tessario {
 // The zoomed picture of the puzzle in play, as it was when the window opened.
 extern Superficie Pic_FonTamModiMem;
 
-inline constexpr const char* FICHERO_PORTAPAPELES = "tsportap.bmp";
-
 // The picture of the chosen file, or the model's figure, into Pic_FonTamReal and the preview.
 void CargaMostrarImagen();
 // The same after the sizes; then the zoomed picture and what tells of its size.

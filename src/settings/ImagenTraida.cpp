@@ -9,8 +9,10 @@
 #include "core/Servicios.h"
 #include "panel/Adornos.h"
 #include "platform/Plataforma.h"
+#include "records/Historial.h"
 #include "records/Texto.h"
 #include "rules/Juego.h"
+#include "session/Pegada.h"
 #include "settings/Imagen.h"
 #include "settings/Mandos.h"
 
@@ -67,17 +69,28 @@ void EligeEn(const std::string& carpeta, const std::string& nombre) {
     EligeFichero(nombre);
 }
 
+// Writes a picture; the puzzle's own one of that name lies aside until the window is left.
+bool Escribe(const std::string& ruta, const Mapa& mapa) {
+    const std::string& propia = Gbl.AlEntrar.RutaImagen;
+    const bool apartada = HayApartada(propia);
+    if (!ApartaPegada(ruta, propia)) return false;
+    if (Sistema().GuardaImagen(ruta, mapa) == 0) return true;
+    if (!apartada) DevuelvePegada(propia);
+    return false;
+}
+
 void TomaPortapapeles() {
     Mapa mapa;
     if (!Sistema().PortapapelesTieneImagen() || !Sistema().PortapapelesImagen(mapa)) return;
     Gbl.ImagenLeida.clear();  // the file of that name has another picture now
-    if (Sistema().GuardaImagen(CarpetaEnCurso() + FICHERO_PORTAPAPELES, mapa) == 0) {
-        EligeFichero(FICHERO_PORTAPAPELES);
+    const std::string nombre(IMAGEN_PORTAPAPELES);
+    if (Escribe(CarpetaEnCurso() + nombre, mapa)) {
+        EligeFichero(nombre);
         return;
     }
     // A folder that cannot be written: the program's own always can.
-    if (Sistema().GuardaImagen(Gbl.CarpetaPrograma + FICHERO_PORTAPAPELES, mapa) == 0)
-        EligeEn(Gbl.CarpetaPrograma, FICHERO_PORTAPAPELES);
+    if (Escribe(Gbl.CarpetaPrograma + nombre, mapa))
+        EligeEn(Gbl.CarpetaPrograma, nombre);
     else
         Avisa(aviso::IMAGEN_SIN_GUARDAR);
 }
@@ -118,7 +131,7 @@ bool EstaEntreLasPropias(const std::string& ruta) {
 std::string GuardaEn(const std::string& carpeta, const ImagenTraida_& t) {
     bool hecha = false;
     const std::string nombre = NombreLibre(carpeta, t, hecha);
-    if (hecha || Sistema().GuardaImagen(carpeta + nombre, *t.Dibujo) == 0) return nombre;
+    if (hecha || Escribe(carpeta + nombre, *t.Dibujo)) return nombre;
     return {};
 }
 

@@ -12,6 +12,7 @@
 #include "pieces/Composicion.h"
 #include "pieces/Raster.h"
 #include "platform/Plataforma.h"
+#include "records/Historial.h"
 #include "records/Texto.h"
 #include "rules/Colores.h"
 #include "rules/Juego.h"
@@ -20,6 +21,7 @@
 #include "session/Configuracion.h"
 #include "session/Dificultad.h"
 #include "session/Montaje.h"
+#include "session/Pegada.h"
 #include "settings/Cambios.h"
 #include "settings/Imagen.h"
 #include "settings/Mandos.h"
@@ -113,6 +115,11 @@ bool CambiaronColores() {
     return Difieren(colores) || Difieren(contraste) || Difieren(borde) || Difieren(factor);
 }
 
+// The file has the name that it had, and another picture.
+bool CambioLaPegada() {
+    return UsaImagen() && HayApartada(Gbl.AlEntrar.RutaImagen);
+}
+
 bool CambiaronParametros() {
     constexpr std::string DatosRutas::*rutas[] = {&DatosRutas::RutaImagen,
                                                   &DatosRutas::FicheroImagen};
@@ -120,7 +127,8 @@ bool CambiaronParametros() {
                                           &DatosJuego::ModoJuego, &DatosJuego::TipoFondo};
     constexpr i16 DatosAjustes::*zoom[] = {&DatosAjustes::ZoomImagen};
     constexpr Booleano DatosAjustes::*giro[] = {&DatosAjustes::PermitirGiro};
-    return Difieren(rutas) || Difieren(juego) || Difieren(zoom) || Difieren(giro);
+    return Difieren(rutas) || Difieren(juego) || Difieren(zoom) || Difieren(giro) ||
+           CambioLaPegada();
 }
 
 bool CambioElModelo() {
@@ -140,7 +148,7 @@ void AseguraImagen() {
 
 // The clipboard may hold something else by now: the picture is written again from what is shown.
 void SalvaPortapapeles() {
-    if (Gbl.FicheroImagen == FICHERO_PORTAPAPELES)
+    if (Gbl.FicheroImagen == IMAGEN_PORTAPAPELES)
         Sistema().GuardaImagen(Gbl.RutaImagen, Pic_FonTamReal.Dibujo());
 }
 
@@ -187,6 +195,10 @@ void Personal_Unload() {
     std::error_code e;
     fs::remove(FicheroCopia(), e);
     fs::current_path(Gbl.CarpetaPrograma, e);  // a medium that was listed can be taken out
+    if (Gbl.ParametrosCambiados)
+        OlvidaApartada(Gbl.AlEntrar.RutaImagen);
+    else
+        DevuelvePegada(Gbl.AlEntrar.RutaImagen);
     Gbl.Cargando = Gbl.CargandoArchivo = Gbl.CambiandoSelector = false;
     Gbl.CambiandoModo = Gbl.RepintandoPiezas = Gbl.CambiandoForma = false;
     Gbl.AlEntrar = FotoPartida{};

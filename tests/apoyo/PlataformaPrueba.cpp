@@ -179,6 +179,7 @@ i32 PlataformaPrueba::CargaAjena(const std::string& ruta, Mapa& destino) {
 }
 
 i32 PlataformaPrueba::GuardaImagen(const std::string& ruta, const Mapa& imagen) {
+    if (guardaFalla) return 75;
     guardadas[ruta] = imagen;
     imagenes[ruta] = imagen;
     std::ofstream(ruta, std::ios::binary) << "BM";

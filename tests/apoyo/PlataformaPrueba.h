@@ -37,6 +37,7 @@ public:
     std::map<std::string, Mapa> ajenas;  // pictures of foreign kinds by path, beside `imagenes`
     std::map<std::string, i32> erroresImagen;  // paths that fail, by error number
     std::map<std::string, Mapa> recursos;      // by name; others are made up (see below)
+    bool guardaFalla = false;                  // no picture can be written
     bool hayPortapapeles = false;
     Mapa portapapeles;
     std::vector<std::string> portapapelesFicheros;

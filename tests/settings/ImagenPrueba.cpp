@@ -618,6 +618,105 @@ TEST_F(ImagenVentana, AnotherClipboardPictureTakesThePlaceOfTheLast) {
     });
 }
 
+// The puzzle's own picture came from the clipboard, and another one is there now.
+class PegadaDosVeces : public ImagenVentana {
+protected:
+    void SetUp() override {
+        ImagenVentana::SetUp();
+        MovilesDe(NOMBRE, 640, 480);
+        Crea("Imagenes/tsportap.bmp", PRIMERA);
+        P().imagenes[Ruta()] = Mapa(640, 480, 0x112233);
+        P().hayPortapapeles = true;
+        P().portapapeles = Mapa(640, 480, 0x445566);
+    }
+    void TearDown() override {
+        EXPECT_FALSE(fs::exists(Apartada()));
+        ImagenVentana::TearDown();
+    }
+    std::string Ruta() { return P().carpeta + "Imagenes/" + NOMBRE; }
+    std::string Apartada() { return P().carpeta + "Imagenes/tsportap.cse"; }
+    // What the file holds: the bytes of the first one, or of any that was written since.
+    std::string EnDisco() { return Contenido("Imagenes/tsportap.bmp"); }
+
+    static constexpr const char *NOMBRE = "tsportap.bmp", *PRIMERA = "the first", *OTRA = "BM";
+};
+
+TEST_F(PegadaDosVeces, LeavingAsksAndYesTakesTheNewOne) {
+    Visita([&] {
+        Pulsa(Pic_BotPortapapeles);
+        EXPECT_EQ(PixelDe(Pic_MostrarImagen.Point(120, 90)), 0x445566U);
+        EXPECT_TRUE(P().avisos.empty());
+        P().guardadas.clear();
+        Sal({true});
+    });
+    ASSERT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(P().avisos[0].titulo, "Parámetros del puzzle");
+    EXPECT_EQ(EnDisco(), OTRA);
+    EXPECT_EQ(P().guardadas[Ruta()].Pixeles[0], 0x445566U);
+}
+
+TEST_F(PegadaDosVeces, NoBringsTheFormerOneBack) {
+    for (const bool boton : {true, false}) {
+        P().avisos.clear();
+        Visita([&] {
+            if (boton)
+                Pulsa(Pic_BotPortapapeles);
+            else
+                Personal.KeyDown('V', 2);
+            // A second one in the same visit is not taken for the puzzle's.
+            P().portapapeles = Mapa(640, 480, 0x778899);
+            Pulsa(Pic_BotPortapapeles);
+            EXPECT_EQ(EnDisco(), OTRA);
+            EXPECT_EQ(Contenido("Imagenes/tsportap.cse"), PRIMERA);
+            Sal({false});
+        });
+        EXPECT_EQ(P().avisos.size(), 1U) << boton;
+        EXPECT_EQ(EnDisco(), PRIMERA) << boton;
+        EXPECT_EQ(Gbl.RutaImagen, Ruta());
+    }
+}
+
+TEST_F(PegadaDosVeces, AChangeOfGameBringsItBackToo) {
+    Visita([&] {
+        Pulsa(Pic_BotPortapapeles);
+        P().respuestas.push_back(true);
+        Bul(22).Pon(true);
+    });
+    EXPECT_EQ(Gbl.JuegoActual, 22);
+    EXPECT_EQ(EnDisco(), PRIMERA);
+}
+
+TEST_F(PegadaDosVeces, AnEndInBetweenLosesNothing) {
+    fs::rename(Ruta(), Apartada());
+    Crea("Imagenes/tsportap.bmp", OTRA);
+    const std::string record = EscribePuzzle();
+    LeePuzzle(record);
+    EXPECT_EQ(EnDisco(), PRIMERA);
+}
+
+TEST_F(PegadaDosVeces, WhatCannotBeWrittenLeavesTheFormerOne) {
+    P().guardaFalla = true;
+    Visita([&] {
+        Pulsa(Pic_BotPortapapeles);
+        EXPECT_EQ(EnDisco(), PRIMERA);
+        EXPECT_EQ(P().avisos.size(), 1U);  // that it could not be saved
+        Sal();
+    });
+    EXPECT_EQ(P().avisos.size(), 1U);
+    EXPECT_EQ(EnDisco(), PRIMERA);
+}
+
+TEST_F(ImagenVentana, AFileBesideAPictureOfAnotherNameIsNobodysFormerPicture) {
+    const std::string vecina = Crea("Imagenes/a.cse", "otra cosa");
+    Visita([&] {
+        Lis_NroPiezas.Selecciona(1);
+        Sal({true});
+    });
+    EXPECT_EQ(Contenido("Imagenes/a.cse"), "otra cosa");
+    LeePuzzle(EscribePuzzle());
+    EXPECT_EQ(Contenido("Imagenes/a.cse"), "otra cosa");
+}
+
 TEST_F(ImagenVentana, InAnotherFolderThanTheListedOneTheFileIsWrittenAndNotChosen) {
     P().hayPortapapeles = true;
     P().portapapeles = Mapa(500, 400);

@@ -190,6 +190,36 @@ TEST(PersonalVentana, TheButtonTakesTheClipboardsPicture) {
     });
 }
 
+TEST(PersonalVentana, ASecondPasteAsksAndNoLeavesTheFormerPicture) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    PartidaGuardada p = SinColorNuevo(programa);
+    programa.EscribeImagenDeCuadros(PEGADA, p.anchoImagen, p.altoImagen, 2);
+    p.imagen = PEGADA;
+    programa.EscribePartida(p);
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    const Oferta oferta(e, "image/bmp", Programa::ImagenDeCuadros(400, 300, 3));
+    const std::string fichero = programa.Carpeta() + "Imagenes/" + PEGADA;
+    const auto bytes = fs::file_size(fichero);
+    ASSERT_TRUE(ajustes.Abre());
+    e.TeclaConControl("v");
+    e.EsperaQuieto();
+    EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 1000);
+    EXPECT_NE(fs::file_size(fichero), bytes);
+    ajustes.PulsaSalir();
+    ASSERT_TRUE(e.Responde(PARAMETROS, false));
+    ASSERT_TRUE(ajustes.Cerrada());
+    e.EsperaQuieto();
+    EXPECT_EQ(Cerca(e.Mira(), ColorNuevo()), 0);
+    EXPECT_EQ(fs::file_size(fichero), bytes);
+    ASSERT_TRUE(programa.Sale());
+    ASSERT_TRUE(programa.Arranca());
+    EXPECT_EQ(Cerca(e.Mira(), ColorNuevo()), 0);
+    EXPECT_EQ(programa.LeePartida(21).piezas.size(), 16U);
+}
+
 // A picture of another kind in a folder of another program, by a name that has to be written round.
 std::string FotoAjena(Programa& programa, int n) {
     const std::string carpeta = programa.Carpeta() + "Mis imágenes/";
