@@ -1,6 +1,5 @@
 // The program: makes the platform on the real window system and hands over to the game.
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QMessageBox>
 #include <cstdio>
 
@@ -9,6 +8,7 @@
 #include "qt/Estilo.h"
 #include "qt/Pantalla.h"
 #include "qt/PlataformaQt.h"
+#include "qt/Quejas.h"
 #include "qt/Senales.h"
 #include "qt/Unica.h"
 #include "session/CopiaSeguridad.h"
@@ -36,8 +36,7 @@ int main(int argc, char** argv) {
     // Whole factors only: a picture box's pixel is a square of the screen's pixels.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Floor);
-    // A damaged picture is told in the game, not on the terminal.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
+    CallaQuejas();
     int sinArgumentos = 1;
     Q_UNUSED(argc)
     QApplication aplicacion(sinArgumentos, argv);

@@ -6,6 +6,7 @@ namespace tessario {
 
 extern const char* const DATOS;            // tests/datos/
 extern const char* const CARPETA_MODELOS;  // resources/modelos/
+extern const char* const CARPETA_ESTRENO;  // resources/estreno/
 extern const char* const FICHERO_SURTIDO;  // the supplied models
 
 }  // namespace tessario

@@ -47,6 +47,7 @@ constexpr int SALIR_X = 612, SALIR_Y = 511, TANGRAM_X = 500, TANGRAM_Y = 44;
 TEST(ArranqueVentana, WithoutAUsablePictureTheSettingsStayOpenAndAnotherGameCanBeChosen) {
     Escritorio e(800, 600);
     Programa programa(e);
+    programa.QuitaAjustes();
     VaciaImagenes(programa);
     for (const bool malas : {false, true}) {
         if (malas) PonImagenesMalas(programa);
@@ -67,6 +68,43 @@ TEST(ArranqueVentana, WithoutAUsablePictureTheSettingsStayOpenAndAnotherGameCanB
         ASSERT_TRUE(programa.Sale()) << malas;
         EXPECT_EQ(programa.LeePartida(23).piezas.size(), 7U);
         EXPECT_FALSE(fs::exists(programa.Carpeta() + "Archivo/TESSA33.CSE"));
+    }
+}
+
+// A new player: the table is laid, nothing is asked, and the pieces are there to be taken.
+TEST(ArranqueVentana, AFreshHomeStartsStraightToALaidTable) {
+    for (const auto& [ancho, alto] : {std::pair{800, 600}, {1280, 1024}}) {
+        Escritorio e(ancho, alto);
+        Programa programa(e);
+        programa.Lanzalo();
+        bool otra = false;
+        ASSERT_TRUE(e.Espera(
+            [&] {
+                otra = otra || e.HayVentana(SIN_AJUSTES) || e.HayVentana(PERSONAL) ||
+                       e.HayVentana(SIN_IMAGEN);
+                return e.HayVentana("TESSARIO  3.3");
+            },
+            30000));
+        EXPECT_FALSE(otra) << "a message before the welcome";
+        ASSERT_TRUE(programa.LlegaALaMesa());
+        const Foto mesa = e.Mira();
+        mesa.Guarda("estreno-" + std::to_string(ancho));
+        // The frame of the puzzle is empty, and a piece can be taken from beside it and laid in it.
+        const PartidaLeida p = programa.LeePartida(21);
+        ASSERT_EQ(p.piezas.size(), 25U);
+        EXPECT_EQ(p.imagen, "Puerto.jpg");
+        constexpr unsigned FONDO = 0x003333;
+        constexpr int ANCHO_PUZZLE = 350, ALTO_PUZZLE = 260, MEDIA_X = 35, MEDIA_Y = 26;
+        EXPECT_EQ(mesa.Cuenta(0, 0, ANCHO_PUZZLE, ALTO_PUZZLE, FONDO), ANCHO_PUZZLE * ALTO_PUZZLE);
+        const PiezaGuardada& q = p.piezas[0];
+        EXPECT_LT(mesa.Cuenta(q.x, q.y, 2 * MEDIA_X, 2 * MEDIA_Y, FONDO), MEDIA_X * MEDIA_Y);
+        e.Arrastra(q.x + MEDIA_X, q.y + MEDIA_Y, q.xBien + MEDIA_X + 3, q.yBien + MEDIA_Y + 2);
+        ASSERT_TRUE(programa.Sale());
+        const PartidaLeida despues = programa.LeePartida(21);
+        EXPECT_EQ(despues.piezas[0].x, q.xBien);
+        EXPECT_EQ(despues.piezas[0].y, q.yBien);
+        EXPECT_EQ(despues.movimientos, 1);
+        EXPECT_EQ(programa.Errores(), "");
     }
 }
 

@@ -405,6 +405,8 @@ Programa::Programa(Escritorio& e) : e_(e) {
         if (fs::exists(origen / sub))
             fs::copy(origen / sub, carpeta_ + sub,
                      fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    for (const auto& f : fs::directory_iterator(TESSARIO_ESTRENO))
+        fs::copy_file(f.path(), carpeta_ + f.path().filename().string());
 }
 
 Programa::~Programa() {
@@ -414,6 +416,12 @@ Programa::~Programa() {
         for (const char* sub : {"", "Imagenes", "Archivo"})
             std::filesystem::permissions(carpeta_ + sub, std::filesystem::perms::owner_all, error);
     std::filesystem::remove_all(carpeta_, error);
+}
+
+void Programa::QuitaAjustes() {
+    namespace fs = std::filesystem;
+    for (const auto& f : fs::directory_iterator(TESSARIO_ESTRENO))
+        fs::remove(carpeta_ + f.path().filename().string());
 }
 
 void Programa::EscribeBytes(const std::string& nombre, const std::string& bytes) {

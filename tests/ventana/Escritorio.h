@@ -112,7 +112,7 @@ struct PartidaLeida {
 
 class Programa {
 public:
-    // A folder of its own with the real program, the pictures and the models.
+    // A folder of its own with the real program, the pictures, the models and the first games.
     explicit Programa(Escritorio& e);
     ~Programa();
     Programa(const Programa&) = delete;
@@ -121,6 +121,8 @@ public:
     // Files that the program will find. velocidad 0 to 100.
     void EscribeGlobal(int juego, int velocidad, bool sonido = false, bool sugerencias = false);
     void EscribePartida(const PartidaGuardada& p);
+    // A first start with no settings at all, for a program that came without any.
+    void QuitaAjustes();
     void EscribeBytes(const std::string& nombre, const std::string& bytes);
     // A picture of big flat squares of distinct colours, n a side: a BMP, or one in Imagenes/.
     static std::string ImagenDeCuadros(int ancho, int alto, int n);

@@ -306,6 +306,7 @@ TEST(PersonalVentana, ADroppedFileThatIsNoPictureIsToldAndChangesNothing) {
 TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
     Escritorio e(800, 600);
     Programa programa(e);
+    programa.QuitaAjustes();
     programa.EscribeImagenDeCuadros("AA.bmp", 480, 360, 3);
     programa.EscribeImagenDeCuadros("AB.bmp", 400, 300, 3);
     programa.EscribeGlobal(21, 100);
@@ -383,6 +384,7 @@ TEST(PersonalVentana, ACancelledRestartLeavesTheGameInPlay) {
 TEST(PersonalVentana, AGameLeftInPlayIsThereAgain) {
     Escritorio e(1024, 768);
     Programa programa(e);
+    programa.QuitaAjustes();
     programa.EscribeGlobal(21, 100);
     const PartidaGuardada antes = Rompecabezas(programa);
     programa.EscribePartida(antes);

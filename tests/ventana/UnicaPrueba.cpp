@@ -9,6 +9,7 @@ namespace {
 class UnicaVentana : public testing::Test {
 protected:
     void SetUp() override {
+        programa.QuitaAjustes();
         programa.EscribeGlobal(22, 100);
         programa.Lanzalo();
         ASSERT_TRUE(e.Responde("Error en la carga de datos iniciales", false));
