@@ -175,6 +175,7 @@ struct DatosBanderas {
     i16 BotonesMensaje = 0;                   // 1 one button, 2 yes and no
     i16 AyudaMensaje = 0;                     // its help topic; 0 none
     std::string TituloMensaje, TextoMensaje;  // of the open message
+    Rect LibreDeMensajes;                     // of the screen; left in view where there is room
     i16 ErrorApertura = 0;                    // number of a trapped file error
     i16 ErrorPendiente = 0;                   // last error that was suppressed
     u32 MarcaPausa = 0;                       // moment the running delay began, ms; 0 none
@@ -257,6 +258,7 @@ struct DatosRaton {
     i16 XPulsado = 0, YPulsado = 0;  // its point, table pixels
     i16 XOrigen = 0, YOrigen = 0;    // the piece before the current move
     i16 XRaton = 0, YRaton = 0;      // last drag point
+    i32 XVisto = -1, YVisto = -1;    // last point of the table under the pointer; -1 none yet
 };
 
 // ---------------------------------------------------------------- panel, clock, hints

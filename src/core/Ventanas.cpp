@@ -205,6 +205,7 @@ void ReiniciaVentanas() {
         b.cuadro->Nombre = b.nombre;
         b.cuadro->ToolTipText = b.palabra;
         b.cuadro->Visible = false;
+        b.cuadro->Resalta = true;
         Mensajes.Controles.push_back(b.cuadro);
     }
 

@@ -47,7 +47,7 @@ constexpr LugarAparato LUGAR_CRONOME{10, 11, 58, 45};
 constexpr LugarAparato LUGAR_INFOCOLO{10, 61, 58, 25};
 constexpr LugarAparato LUGAR_GRABADORA{77, 11, 50, 75};
 constexpr Rect LUGAR_CROTIME{3, 20, 55, 42};  // in Pic_Cronome
-constexpr Color COLOR_CRONOME = 0xA85028;
+constexpr Color COLOR_CRONOME = 0xA85028, COLOR_GRABADORA = COLOR_CRONOME;
 
 void LineaRecta(Superficie& s, i32 x1, i32 y1, i32 x2, i32 y2, Color color) {
     s.Line(pluma::ConColor | pluma::Desde, x1, y1, x2, y2, color);
@@ -71,6 +71,7 @@ void ColocaBotones() {
         boton.Tamano(LADO_BOTON, LADO_BOTON);
         boton.ToolTipText = lugar.ayuda;
         boton.Visible = i != orden::OCULTAS || JuegoEnCurso().OrdenOcultas;
+        boton.PonBackColor(COLOR_TIRA);  // what a forbidden command fades to
         BitBlt(boton, 0, 0, LADO_BOTON, LADO_BOTON, Pic_BmpBoton, (i - 1) * PASO_BOTON, 0, SRCCOPY);
     }
 }
@@ -100,6 +101,7 @@ void ColocaAparatos(i32 y) {
     ColocaAparato(Pic_Grabadora, LUGAR_GRABADORA, y, visible);
     Pic_CroTime.Mueve(LUGAR_CROTIME.Izq, LUGAR_CROTIME.Arr);
     Pic_CroTime.Tamano(LUGAR_CROTIME.Ancho(), LUGAR_CROTIME.Alto());
+    Pic_Grabadora.PonBackColor(COLOR_GRABADORA);
     BitBlt(Pic_Grabadora, 0, 0, LUGAR_GRABADORA.ancho, LUGAR_GRABADORA.alto, Pic_BmpVario, 0, 0,
            SRCCOPY);
     if (!visible) return;

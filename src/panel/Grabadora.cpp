@@ -79,6 +79,17 @@ bool Activa(Tecla t) {
     return false;
 }
 
+// Does what the key stands for go on?
+bool EnMarcha(Tecla t) {
+    return (t == Mando && Gbl.GrabadoraEncendida) || (t == AtrasAuto && Gbl.AutoAtras) ||
+           (t == AdelanteAuto && Gbl.AutoAdelante);
+}
+
+Rect CajaDe(Tecla t) {
+    const Zona& z = De(t);
+    return RectDe(z.x, z.y, z.ancho, z.alto);
+}
+
 const char* Letrero(Tecla t) {
     switch (t) {
         case Mando:
@@ -238,9 +249,15 @@ void PulsaMandoGrabadora() {
 std::vector<Rect> ZonasGrabadora() {
     std::vector<Rect> zonas;
     for (i32 t = Mando; t < Ninguna; ++t)
-        if (Activa(static_cast<Tecla>(t)))
-            zonas.push_back(RectDe(ZONAS[t].x, ZONAS[t].y, ZONAS[t].ancho, ZONAS[t].alto));
+        if (Activa(static_cast<Tecla>(t))) zonas.push_back(CajaDe(static_cast<Tecla>(t)));
     return zonas;
+}
+
+void CarasGrabadora(std::vector<Cara>& caras) {
+    for (i32 i = Mando; i < Ninguna; ++i) {
+        const auto t = static_cast<Tecla>(i);
+        caras.push_back({CajaDe(t), !Activa(t), EnMarcha(t)});
+    }
 }
 
 void Pic_Grabadora_MouseDown(i16, i16, float X, float Y) {

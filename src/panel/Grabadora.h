@@ -7,6 +7,7 @@
 
 namespace tessario {
 
+struct Cara;   // of platform/Controles.h
 struct Pieza;  // of core/PuzzGbl.h
 
 // Appends a move of the piece on top of the stack: as it was, and as it is.
@@ -32,6 +33,9 @@ bool EsMandoGrabadora(float X, float Y);
 void PulsaMandoGrabadora();
 // The keys that can be pressed now, in the panel's pixels.
 std::vector<Rect> ZonasGrabadora();
+// All keys with their states: those that cannot be pressed, the switch that is on, the automatic
+// run that is at work.
+void CarasGrabadora(std::vector<Cara>& caras);
 void Pic_Grabadora_MouseDown(i16 Button, i16 Shift, float X, float Y);
 void Pic_Grabadora_MouseMove(i16 Button, i16 Shift, float X, float Y);
 

@@ -66,6 +66,16 @@ private:
     i32 ancho_ = 0, alto_ = 0;
 };
 
+// A part of a picture that acts as a button, and the state that its view shows beyond the pixels:
+// what is forbidden fades to the surface's ground, what is on is framed. What the pointer and a
+// press do to it the view sees for itself; a faded part shows neither.
+struct Cara {
+    Rect Donde;  // in the picture's pixels
+    bool Apagada = false;
+    bool Encendida = false;
+    friend bool operator==(const Cara&, const Cara&) = default;
+};
+
 // A picture box: a surface that can be seen and clicked. The view shows its pixels.
 struct Cuadro : Control, Superficie {
     i32 Width() const override { return Superficie::Width(); }
@@ -76,6 +86,9 @@ struct Cuadro : Control, Superficie {
     // The parts that can be pressed now, each on its own: the keyboard stops at each of them. Not
     // set: the whole picture is one.
     std::function<std::vector<Rect>()> Zonas;
+    // Appends the parts as they are now, in an order of their own; asked after every event. Not
+    // set: a picture that lights up is one part, any other none.
+    std::function<void(std::vector<Cara>&)> Caras;
 };
 
 // A line or block of fixed text, wrapped at its width, runs of blanks kept.
@@ -102,6 +115,7 @@ struct Lista : Control {
     struct Elemento {
         std::string Texto;
         i32 Dato = 0;
+        bool Marca = false;  // a tick is drawn at the row's right end
     };
     bool Ordenada = false;  // the text order is kept; equal texts in order of arrival
     std::vector<Elemento> Elementos;

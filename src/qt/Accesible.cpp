@@ -29,6 +29,15 @@ QString Valor(const Control& c) {
     return {};
 }
 
+// A picture that is one button, by what it shows of its state.
+void PonCara(QAccessible::State& s, const Cuadro& c) {
+    std::vector<Cara> caras;
+    if (c.Caras) c.Caras(caras);
+    if (caras.size() != 1) return;
+    if (caras[0].Apagada) s.disabled = true;
+    s.checkable = s.checked = caras[0].Encendida;
+}
+
 class VistaAccesible : public QAccessibleWidget {
 public:
     explicit VistaAccesible(Vista& v) : QAccessibleWidget(&v, Papel(v.control())), vista_(v) {}
@@ -40,6 +49,7 @@ public:
             s.checkable = true;
             s.checked = b->Value;
         }
+        if (const auto* c = dynamic_cast<const Cuadro*>(&vista_.control())) PonCara(s, *c);
         return s;
     }
     QString text(QAccessible::Text t) const override {

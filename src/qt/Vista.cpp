@@ -252,7 +252,7 @@ void Vista::Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool 
         anillo_ = false;
         update();
     }
-    if (b == Qt::LeftButton) AlApretar(p);
+    if (MuestraPulsada(b)) AlApretar(p);
     if (control_.MouseDown)
         anfitrion().Entrega([&] {
             control_.MouseDown(boton, ShiftDe(m), static_cast<float>(p.x()),
@@ -264,13 +264,14 @@ void Vista::Aprieta(Qt::MouseButton b, Qt::KeyboardModifiers m, QPointF p, bool 
 void Vista::Mueve(Qt::MouseButtons b, Qt::KeyboardModifiers m, QPointF p) {
     if (b == Qt::NoButton) anfitrion().RevisaPulsadas();
     if (!Viva()) return;
+    AlPasar(p);
     if (b & Qt::LeftButton) AlArrastrar(p);
     Apunta(b, m, p);
 }
 
 void Vista::Suelta(Qt::MouseButton b, QPointF p) {
     if (!anfitrion().TomaPulsada(this, b) || !Viva()) return;
-    if (b == Qt::LeftButton) AlSoltar(p);
+    if (MuestraPulsada(b)) AlSoltar(p);
     anfitrion().MiraBajoElPuntero(true);
     if (!Viva() || !control_.Enabled) return;
     const i16 boton = BotonDe(b);
@@ -306,9 +307,12 @@ void Vista::PulsaConTeclado() {
             anfitrion().Entrega([&] { evento(BOTON_IZQUIERDO, 0, x, y); });
     };
     Apunta(Qt::NoButton, {}, {x, y});
+    if (!Viva()) return;
+    AlApretar(medio);
     entrega(control_.MouseDown);
     entrega(control_.MouseUp);
     if (Viva() && control_.Enabled && control_.Click) anfitrion().Entrega(control_.Click);
+    if (Viva()) AlSoltar(medio);
 }
 
 // --- The parts of a picture that the keyboard reaches one by one.
@@ -405,7 +409,9 @@ void Vista::PintaAnillo(QPainter& p, QRect r) const {
 }
 
 void Vista::Mira(QPointF p) {
-    if (Viva() && control_.Enabled) Apunta(Qt::NoButton, {}, p);
+    if (!Viva() || !control_.Enabled) return;
+    AlPasar(p);
+    Apunta(Qt::NoButton, {}, p);
 }
 
 }  // namespace tessario

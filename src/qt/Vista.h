@@ -53,9 +53,11 @@ protected:
     virtual bool TeclaPropia(const QKeyEvent&) { return false; }  // true: used up
     virtual bool EsBoton() const { return false; }                // Space and Enter press it
     virtual QWidget* Interior() { return nullptr; }  // a standard widget that fills the view
-    virtual void AlApretar(QPointF) {}               // looks of the press and the release
+    virtual void AlPasar(QPointF) {}                 // looks of the pointer over the view
+    virtual void AlApretar(QPointF) {}               // and of the press and the release
     virtual void AlArrastrar(QPointF) {}
     virtual void AlSoltar(QPointF) {}
+    virtual bool MuestraPulsada(Qt::MouseButton b) const { return b == Qt::LeftButton; }
 
     void PonInterior(QWidget* w);  // adopts the standard widget: its events come through here
     void PintaAnillo(QPainter& p, QRect r) const;

@@ -1,26 +1,60 @@
 #include "qt/VistasPintadas.h"
 
+#include <QEnterEvent>
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+
+#include "qt/Estilo.h"
 
 namespace tessario {
+
+namespace {
+
+// What a state adds to the picture.
+const QColor LUZ(255, 255, 255, 60), SOMBRA(0, 0, 0, 40);    // lifted, sunk
+constexpr int VELO = 168;                                    // of the ground over what is forbidden
+constexpr int MARCO = 3, MARCO_FINO = 2, PARTE_MENUDA = 24;  // frame of what is on, pixels
+
+QRect De(const Rect& r) {
+    return {r.Izq, r.Arr, r.Ancho(), r.Alto()};
+}
+
+QColor Fondo(const Superficie& s) {
+    return QColor::fromRgb(PixelDe(s.BackColor()));
+}
+
+QImage Lienzo(const Superficie& s) {
+    return {reinterpret_cast<const uchar*>(s.Fila(0)), s.Width(), s.Height(),
+            static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32};
+}
+
+// A bright frame within a dark line: seen on any ground, and without its colour.
+void PintaMarco(QPainter& p, const QRect& r) {
+    const int grueso = std::min(r.width(), r.height()) < PARTE_MENUDA ? MARCO_FINO : MARCO;
+    for (int i = 0; i < grueso; ++i) {
+        p.setPen(i == 0 ? estilo::TINTA : estilo::ORO);
+        p.drawRect(r.adjusted(i, i, -i - 1, -i - 1));
+    }
+}
+
+}  // namespace
 
 void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
     QPainter p(&w);
     const QRect limites(0, 0, s.Width(), s.Height());
     if (limites.isEmpty()) {
-        p.fillRect(e.rect(), QColor::fromRgb(PixelDe(s.BackColor())));
+        p.fillRect(e.rect(), Fondo(s));
         return;
     }
-    const QImage lienzo(reinterpret_cast<const uchar*>(s.Fila(0)), s.Width(), s.Height(),
-                        static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32);
+    const QImage lienzo = Lienzo(s);
     for (const QRect& r : e.region()) {
         const QRect dentro = r & limites;
         if (!dentro.isEmpty()) p.drawImage(dentro.topLeft(), lienzo, dentro);
     }
     const QRegion fuera = e.region() - limites;
-    for (const QRect& r : fuera) p.fillRect(r, QColor::fromRgb(PixelDe(s.BackColor())));
+    for (const QRect& r : fuera) p.fillRect(r, Fondo(s));
 }
 
 VistaCuadro::VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre)
@@ -29,14 +63,15 @@ VistaCuadro::VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre)
 }
 
 i32 VistaCuadro::SincronizaPropio() {
+    const i32 area = MiraCaras();
     const Rect r = Interseccion(cuadro_.TomaSucio(), cuadro_.Limites());
-    if (r.Vacio() || !isVisible()) return 0;
+    if (r.Vacio() || !isVisible()) return area;
     // Only what lies within the container can be seen.
     const QRect vista = parentWidget()->rect().translated(-pos());
     const QRect cambio = QRect(r.Izq, r.Arr, r.Ancho(), r.Alto()) & vista;
-    if (cambio.isEmpty()) return 0;
+    if (cambio.isEmpty()) return area;
     update(cambio);
-    return cambio.width() * cambio.height();
+    return area + cambio.width() * cambio.height();
 }
 
 // A picture that takes no keys of its own acts as a button.
@@ -44,36 +79,92 @@ bool VistaCuadro::EsBoton() const {
     return !cuadro_.KeyPress && !cuadro_.KeyDown;
 }
 
-void VistaCuadro::RepintaSiResalta() {
-    // A window that goes takes the pointer out of its views when their records may be gone.
-    if (Viva() && cuadro_.Resalta) update();
+// The states are asked for after every event; only what differs is painted.
+i32 VistaCuadro::MiraCaras() {
+    nuevas_.clear();
+    if (cuadro_.Caras)
+        cuadro_.Caras(nuevas_);
+    else if (cuadro_.Resalta)
+        nuevas_.push_back({cuadro_.Limites()});
+    if (nuevas_ == caras_) return 0;
+    i32 area = 0;
+    for (std::size_t i = 0; i < std::max(caras_.size(), nuevas_.size()); ++i) {
+        const bool igual = i < caras_.size() && i < nuevas_.size() && caras_[i] == nuevas_[i];
+        for (const auto* c : {&caras_, &nuevas_}) {
+            if (igual || i >= c->size()) continue;
+            const QRect r = De((*c)[i].Donde);
+            update(r);
+            area += r.width() * r.height();
+        }
+    }
+    caras_.swap(nuevas_);
+    return area;
 }
-void VistaCuadro::AlApretar(QPointF) {
-    hundido_ = true;
-    RepintaSiResalta();
+
+int VistaCuadro::CaraEn(QPointF p) const {
+    for (std::size_t i = 0; i < caras_.size(); ++i)
+        if (De(caras_[i].Donde).contains(p.toPoint())) return static_cast<int>(i);
+    return NINGUNA;
+}
+
+void VistaCuadro::Repinta(int cara) {
+    const auto i = static_cast<std::size_t>(cara);
+    if (cara != NINGUNA && i < caras_.size()) update(De(caras_[i].Donde));
+}
+
+void VistaCuadro::Pon(int& cual, int cara) {
+    // A window that goes takes the pointer out of its views when their records may be gone.
+    if (!Viva() || cual == cara) return;
+    Repinta(cual);
+    cual = cara;
+    Repinta(cual);
+}
+
+void VistaCuadro::AlPasar(QPointF p) {
+    Pon(bajo_, CaraEn(p));
+}
+void VistaCuadro::AlApretar(QPointF p) {
+    Pon(hundida_, CaraEn(p));
 }
 void VistaCuadro::AlSoltar(QPointF) {
-    hundido_ = false;
-    RepintaSiResalta();
+    Pon(hundida_, NINGUNA);
 }
-void VistaCuadro::enterEvent(QEnterEvent*) {
-    RepintaSiResalta();
+void VistaCuadro::enterEvent(QEnterEvent* e) {
+    AlPasar(e->position());
 }
 void VistaCuadro::leaveEvent(QEvent*) {
-    RepintaSiResalta();
+    Pon(bajo_, NINGUNA);
+}
+
+void VistaCuadro::PintaCara(QPainter& p, int cara) const {
+    const Cara& c = caras_[static_cast<std::size_t>(cara)];
+    const QRect r = De(c.Donde);
+    const bool hundida = cara == hundida_;
+    if (c.Apagada) {
+        QColor velo = Fondo(cuadro_);
+        velo.setAlpha(VELO);
+        p.fillRect(r, velo);
+    } else if (hundida || cara == bajo_) {
+        QRect tecla = r;
+        // A picture that is one button, set in the ground, moves a pixel with its state.
+        if (cuadro_.Caras && r == rect()) {
+            const QPoint paso = hundida ? QPoint(1, 1) : QPoint(-1, -1);
+            p.fillRect(r, Fondo(cuadro_));
+            p.drawImage(paso, Lienzo(cuadro_));
+            tecla = r.adjusted(1, 1, -2, -2).translated(paso);
+        }
+        p.fillRect(tecla, hundida ? SOMBRA : LUZ);
+    }
+    if (c.Encendida) PintaMarco(p, r);
 }
 
 void VistaCuadro::paintEvent(QPaintEvent* e) {
     PintaSuperficie(*this, cuadro_, *e);
-    if (cuadro_.Resalta && cuadro_.Enabled && underMouse()) {
-        const QColor luz(255, 255, 255, 70), sombra(0, 0, 0, 40);
-        QPainter(this).fillRect(e->rect(), hundido_ ? sombra : luz);
-    }
+    QPainter p(this);
+    if (cuadro_.Enabled)
+        for (std::size_t i = 0; i < caras_.size(); ++i) PintaCara(p, static_cast<int>(i));
     for (const QRect& r : e->region()) pintados_ += r.width() * r.height();
-    if (AnilloVisible()) {
-        QPainter p(this);
-        PintaAnillo(p, rect());
-    }
+    PintaAnillo(p, rect());
 }
 
 VistaEtiqueta::VistaEtiqueta(Etiqueta& c, MarcoDeVistas& v, QWidget* padre)

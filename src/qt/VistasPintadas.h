@@ -14,16 +14,26 @@ public:
 protected:
     i32 SincronizaPropio() override;
     bool EsBoton() const override;
-    void AlApretar(QPointF) override;
+    bool MuestraPulsada(Qt::MouseButton) const override { return true; }
+    void AlPasar(QPointF p) override;
+    void AlApretar(QPointF p) override;
     void AlSoltar(QPointF) override;
-    void enterEvent(QEnterEvent*) override;
+    void enterEvent(QEnterEvent* e) override;
     void leaveEvent(QEvent*) override;
     void paintEvent(QPaintEvent* e) override;
 
 private:
-    void RepintaSiResalta();
+    static constexpr int NINGUNA = -1;
+    i32 MiraCaras();  // returns the area marked
+    int CaraEn(QPointF p) const;
+    void Pon(int& cual, int cara);
+    void Repinta(int cara);
+    void PintaCara(QPainter& p, int cara) const;
+
     Cuadro& cuadro_;
-    bool hundido_ = false;
+    std::vector<Cara> caras_, nuevas_;  // as shown; as asked for last
+    int bajo_ = NINGUNA;                // the part under the pointer
+    int hundida_ = NINGUNA;             // the part that is pressed
     long long pintados_ = 0;
 };
 

@@ -186,6 +186,9 @@ void ConectaBoton(i16 i) {
     boton.MouseMove = [i](i16 Button, i16 Shift, float X, float Y) {
         Atiende([&] { Pic_Boton_MouseMove(i, Button, Shift, X, Y); });
     };
+    boton.Caras = [i, &boton](std::vector<Cara>& caras) {
+        caras.push_back({boton.Limites(), OrdenProhibida(i), OrdenEnMarcha(i)});
+    };
     // Reached by keyboard, a button learns of its state without a move of the mouse.
     boton.GotFocus = [i] { Atiende([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
 }
@@ -202,6 +205,7 @@ void ConectaTira() {
     };
     Pic_Grabadora.MouseDown = Grabadora_MouseDown;
     Pic_Grabadora.Zonas = ZonasGrabadora;
+    Pic_Grabadora.Caras = CarasGrabadora;
     Pic_Grabadora.MouseMove = Raton(Pic_Grabadora_MouseMove);
 }
 

@@ -209,22 +209,45 @@ bool SinMuestra() {
     return !JuegoEnCurso().HayMuestra();
 }
 
+// ---------------------------------------------------------------- when each is going on
+bool Barajandose() {
+    return Gbl.Barajando;
+}
+// Where the tutor plays, it makes one pass of the solver's work without its flag.
+bool Tutelado() {
+    return Gbl.TutorEsperando || (JuegoEnCurso().TutorResuelve && Gbl.TareaAutomatica &&
+                                  !Gbl.ResolviendoPuzzle && !Gbl.Barajando);
+}
+bool ConMuestra() {
+    return Gbl.MostrarMuestra && JuegoEnCurso().HayMuestra();
+}
+bool EnColores() {
+    return Gbl.MostrandoColocadas;
+}
+bool Ordenandose() {
+    return Gbl.OrdenandoPiezas || Gbl.OrdenManual;
+}
+bool Resolviendose() {
+    return Gbl.ResolviendoPuzzle;
+}
+
 const struct {
     void (*hace)();
     bool (*prohibida)();
+    bool (*enMarcha)();
 } ORDENES[ORDENES_DE_LA_TIRA] = {
-    {Baraja, ConGrabadora},
-    {Personaliza, ConGrabadora},
-    {LlamaAlTutor, SinLugares},
-    {Estadisticas, ConGrabadora},
-    {Historico, Nunca},
-    {AbreAyuda, Nunca},
-    {Sale, Nunca},
-    {MuestraModelo, SinMuestra},
-    {MuestraOcultas, ConGrabadoraOTerminado},
-    {MuestraBienOMal, SinLugares},
-    {Ordena, ConGrabadoraOTerminado},
-    {Resuelve, SinLugares},
+    {Baraja, ConGrabadora, Barajandose},
+    {Personaliza, ConGrabadora, Nunca},
+    {LlamaAlTutor, SinLugares, Tutelado},
+    {Estadisticas, ConGrabadora, Nunca},
+    {Historico, Nunca, Nunca},
+    {AbreAyuda, Nunca, Nunca},
+    {Sale, Nunca, Nunca},
+    {MuestraModelo, SinMuestra, ConMuestra},
+    {MuestraOcultas, ConGrabadoraOTerminado, Nunca},
+    {MuestraBienOMal, SinLugares, EnColores},
+    {Ordena, ConGrabadoraOTerminado, Ordenandose},
+    {Resuelve, SinLugares, Resolviendose},
 };
 
 // ---------------------------------------------------------------- a press, before its command
@@ -263,6 +286,10 @@ bool DejaOrdenManual(i16 Index) {
 
 bool OrdenProhibida(i16 Index) {
     return ORDENES[Index - 1].prohibida();
+}
+
+bool OrdenEnMarcha(i16 Index) {
+    return ORDENES[Index - 1].enMarcha();
 }
 
 void Pic_Boton_MouseMove(i16 Index, i16 /*Button*/, i16 /*Shift*/, float /*X*/, float /*Y*/) {

@@ -19,5 +19,7 @@ bool PreparaOrden(i16 Index);
 void Pic_Boton_MouseMove(i16 Index, i16 Button, i16 Shift, float X, float Y);
 // Is the command forbidden now?
 bool OrdenProhibida(i16 Index);
+// Is the mode or the work that the command begins going on?
+bool OrdenEnMarcha(i16 Index);
 
 }  // namespace tessario

@@ -284,6 +284,158 @@ TEST_F(VistaDeCuadro, PointersWithoutAPictureAreTheStandardOnes) {
     EXPECT_EQ(DeControl(v, c).cursor().shape(), Qt::WaitCursor) << "the window's";
 }
 
+// --- States: two parts of 30 x 40 side by side, red on a black ground.
+
+class CarasDeCuadro : public VistaDeCuadro {
+protected:
+    static constexpr QRgb SUYO = 0xFF0000;
+    void SetUp() override {
+        VistaDeCuadro::SetUp();
+        c.PonBackColor(0);
+        c.Line(pluma::ConColor | pluma::Desde | pluma::Caja | pluma::Llena, 0, 0, 59, 39, ROJO);
+        c.Caras = [this](std::vector<Cara>& caras) {
+            caras = {{RectDe(0, 0, 30, 40), apagada, encendida}, {RectDe(30, 0, 30, 40)}};
+        };
+        c.MouseDown = [this](i16, i16, float, float) {
+            if (alApretar) alApretar();
+        };
+    }
+    // Middles of the parts, and the edge of the first.
+    QRgb Primera() { return Punto(v, 115, 70); }
+    QRgb Segunda() { return Punto(v, 145, 70); }
+    QRgb Borde(int i) { return Punto(v, 100 + i, 70); }
+    // An event that the game has nothing to do with.
+    void Sucede() {
+        P().Entrega([] {});
+        Eventos();
+    }
+
+    bool apagada = false, encendida = false;
+    std::function<void()> alApretar;
+};
+
+TEST_F(CarasDeCuadro, AForbiddenPartFadesToTheGroundAtTheNextEventAndComesBack) {
+    Abre(v, {&c});
+    EXPECT_EQ(Primera(), SUYO);
+    apagada = true;
+    Sucede();
+    EXPECT_LT(qRed(Primera()), 100);
+    EXPECT_GT(qRed(Primera()), 60) << "it can still be made out";
+    EXPECT_EQ(Segunda(), SUYO);
+    apagada = false;
+    Sucede();
+    EXPECT_EQ(Primera(), SUYO);
+}
+
+TEST_F(CarasDeCuadro, OnlyThePartThatChangesIsPainted) {
+    Abre(v, {&c});
+    auto& vista = dynamic_cast<VistaCuadro&>(DeControl(v, c));
+    const long long antes = vista.PixelesPintados();
+    Sucede();
+    EXPECT_EQ(vista.PixelesPintados(), antes) << "nothing has changed";
+    apagada = true;
+    Sucede();
+    EXPECT_EQ(vista.PixelesPintados(), antes + 30 * 40);
+}
+
+TEST_F(CarasDeCuadro, ThePartUnderThePointerIsLiftedAndThePressedOneSunk) {
+    Abre(v, {&c});
+    Mueve(v, 115, 70);
+    Eventos();
+    EXPECT_GT(qGreen(Primera()), 40) << "lighter";
+    EXPECT_EQ(Segunda(), SUYO);
+    QRgb durante = 0;
+    alApretar = [&] {
+        P().Suena(0, false);
+        durante = Primera();
+    };
+    Aprieta(v, 115, 70);
+    EXPECT_LT(qRed(durante), 230) << "while its handler runs";
+    EXPECT_LT(qRed(Primera()), 230);
+    EXPECT_EQ(Segunda(), SUYO);
+    Suelta(v, 115, 70);
+    EXPECT_GT(qGreen(Primera()), 40);
+    Mueve(v, 145, 70);
+    Eventos();
+    EXPECT_EQ(Primera(), SUYO);
+    EXPECT_GT(qGreen(Segunda()), 40);
+    Mueve(v, 20, 20);
+    Eventos();
+    EXPECT_EQ(Segunda(), SUYO);
+}
+
+TEST_F(CarasDeCuadro, AnyButtonAndTheKeyboardSinkItToo) {
+    c.TabStop = true;
+    c.Zonas = [] { return std::vector<Rect>{RectDe(0, 0, 30, 40)}; };
+    Abre(v, {&c});
+    QRgb durante = 0;
+    alApretar = [&] {
+        P().Suena(0, false);
+        durante = Primera();
+    };
+    Aprieta(v, 115, 70, Qt::RightButton);
+    EXPECT_LT(qRed(durante), 230);
+    Suelta(v, 115, 70, Qt::RightButton);
+    Mueve(v, 20, 20);
+    Tecla(v, Qt::Key_Tab);
+    durante = 0;
+    Tecla(v, Qt::Key_Space);
+    EXPECT_NE(durante, 0U);
+    EXPECT_LT(qRed(durante), 230);
+    EXPECT_EQ(Primera(), SUYO);
+}
+
+TEST_F(CarasDeCuadro, AForbiddenPartIsNeitherLiftedNorSunk) {
+    apagada = true;
+    Abre(v, {&c});
+    const QRgb quieta = Primera();
+    Mueve(v, 115, 70);
+    Eventos();
+    EXPECT_EQ(Primera(), quieta);
+    Aprieta(v, 115, 70);
+    EXPECT_EQ(Primera(), quieta);
+    Suelta(v, 115, 70);
+}
+
+TEST_F(CarasDeCuadro, WhatIsOnHasAFrameBesideItsOtherState) {
+    Abre(v, {&c});
+    encendida = true;
+    Sucede();
+    EXPECT_LT(qRed(Borde(0)), 60) << "dark line";
+    EXPECT_GT(qGreen(Borde(1)), 180) << "bright frame";
+    EXPECT_EQ(Primera(), SUYO) << "the picture itself stays";
+    apagada = true;
+    Sucede();
+    EXPECT_GT(qGreen(Borde(1)), 180);
+    EXPECT_LT(qRed(Primera()), 100);
+}
+
+TEST_F(CarasDeCuadro, APictureThatIsOneButtonMovesAPixelWithItsState) {
+    c.Caras = [this](std::vector<Cara>& caras) { caras = {{c.Limites()}}; };
+    c.PSet(30, 20, VERDE);
+    Abre(v, {&c});
+    EXPECT_EQ(Punto(v, 130, 70), 0x00FF00U);
+    Mueve(v, 112, 68);
+    Eventos();
+    EXPECT_GT(qGreen(Punto(v, 129, 69)), 200);
+    Aprieta(v, 115, 70);
+    EXPECT_GT(qGreen(Punto(v, 131, 71)), 200);
+    Suelta(v, 115, 70);
+}
+
+TEST_F(CarasDeCuadro, AssistiveProgramsHearOfTheStateOfAButton) {
+    c.Caras = [this](std::vector<Cara>& caras) { caras = {{c.Limites(), apagada, encendida}}; };
+    c.TabStop = true;
+    Abre(v, {&c});
+    QAccessibleInterface* const i = QAccessible::queryAccessibleInterface(&DeControl(v, c));
+    ASSERT_TRUE(i);
+    EXPECT_FALSE(i->state().disabled);
+    EXPECT_FALSE(i->state().checked);
+    apagada = encendida = true;
+    EXPECT_TRUE(i->state().disabled);
+    EXPECT_TRUE(i->state().checked);
+}
+
 TEST_F(VistaDeCuadro, ALabelShowsItsTextOverItsContainer) {
     Etiqueta e;
     e.Tamano(200, 20);

@@ -68,6 +68,39 @@ struct Juego {
         e.Tecla("Escape");
         return e.Espera([&] { return !e.HayVentana(AYUDA); });
     }
+    // Buttons that show a state, with the pointer away from the strip.
+    template <class F>
+    std::vector<int> Botones(F&& tiene) {
+        e.Mueve(2, ALTO - 2);
+        e.EsperaQuieto(60);
+        const Foto foto = e.Mira();
+        std::vector<int> v;
+        for (int i = 1; i <= 12; ++i) {
+            if (i == 9 && !ocultas) continue;
+            const Programa::Lugar medio = programa.Boton(i);
+            if (tiene(foto, medio.x, medio.y)) v.push_back(i);
+        }
+        return v;
+    }
+    // A faded tile has nothing as bright as the enamel of the others.
+    std::vector<int> Apagados() {
+        return Botones([](const Foto& f, int x, int y) {
+            int claros = 0;
+            for (int j = y - 20; j < y + 20; ++j)
+                for (int i = x - 20; i < x + 20; ++i) {
+                    const unsigned p = f.En(i, j);
+                    claros += (p >> 16) > 0xE0 && (p >> 8 & 0xFF) > 0xD0 && (p & 0xFF) > 0xA8;
+                }
+            return claros < 20;
+        });
+    }
+    std::vector<int> Encendidos() {
+        return Botones([](const Foto& f, int x, int y) {
+            return f.Cuenta(x - 24, y - 24, 48, 48, 0xFFD24A) > 300;
+        });
+    }
+    bool ocultas = true;  // the jigsaw's own button is there
+
     // Power switch of the recorder.
     void PulsaGrabadora() { e.Pulsa(BOTONERA + 77 + 25, 378 + 12); }
 
@@ -203,6 +236,30 @@ TEST(BotoneraVentana, WithTheRecorderOnOnlyWhatChangesNothingWorks) {
     EXPECT_EQ(leida.piezas[4].x, p.piezas[4].x + 20);
     EXPECT_TRUE(leida.archivable);
     EXPECT_TRUE(leida.muestra);
+}
+
+TEST(BotoneraVentana, StatesAreSeenWithThePointerAwayFromTheStrip) {
+    using Cuales = std::vector<int>;
+    PartidaGuardada p = Moviles();
+    p.muestra = true;
+    Juego j(p);
+    ASSERT_TRUE(j.programa.Arranca());
+    EXPECT_EQ(j.Apagados(), Cuales{});
+    EXPECT_EQ(j.Encendidos(), Cuales{8});
+    j.programa.PulsaBoton(10);
+    EXPECT_EQ(j.Encendidos(), (Cuales{8, 10}));
+    j.programa.PulsaBoton(3);
+    EXPECT_EQ(j.Encendidos(), (Cuales{3, 8})) << "the tutor waits";
+    j.e.Pulsa(3, ALTO - 3);
+    EXPECT_EQ(j.Encendidos(), Cuales{8});
+    const Centro c = CentroDe(p.piezas[4]);
+    j.e.Arrastra(c.x, c.y, c.x + 20, c.y + 10);
+    j.PulsaGrabadora();
+    EXPECT_EQ(j.Apagados(), (Cuales{1, 2, 3, 4, 9, 10, 11, 12}));
+    EXPECT_EQ(j.Encendidos(), Cuales{8});
+    j.e.Mira().Guarda("botonera-estados-grabadora");
+    j.PulsaGrabadora();
+    EXPECT_EQ(j.Apagados(), Cuales{});
 }
 
 TEST(BotoneraVentana, InAFinishedPuzzleTheAidsAreForbidden) {
@@ -352,6 +409,15 @@ PartidaGuardada Tangram(int modo) {
     p.piezas[2].x = p.piezas[2].xBien;  // piece 3 stands in its place
     p.piezas[2].y = p.piezas[2].yBien;
     return p;
+}
+
+TEST(BotoneraVentana, StatesOfTheDesignModeAreSeenAtOnce) {
+    Juego j(Tangram(1));
+    j.ocultas = false;
+    ASSERT_TRUE(j.programa.Arranca());
+    EXPECT_EQ(j.Apagados(), (std::vector<int>{3, 8, 10, 12}));
+    EXPECT_EQ(j.Encendidos(), std::vector<int>{});
+    j.e.Mira().Guarda("botonera-estados-tangram");
 }
 
 TEST(BotoneraVentana, InTheTangramsDesignModeOnlyShuffleAndArrangeMovePieces) {
