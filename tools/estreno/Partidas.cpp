@@ -121,7 +121,7 @@ void AjustaMoviles() {
 // ---------------------------------------------------------------- a deal that shows every piece
 
 constexpr int REPARTOS = 3000, VUELTAS = 60;  // deals of an attempt, attempts
-constexpr i32 HUECO_MAYOR = 6;  // pixels between two pieces, tabs aside
+constexpr i32 HUECO_MAYOR = 6;                // pixels between two pieces, tabs aside
 
 Rect CajaConSaliente(const Pieza& p) {
     return {p.X - Gbl.SalienteX, p.Y - Gbl.SalienteY, p.X + Gbl.AnchoCelda + Gbl.SalienteX,
