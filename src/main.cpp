@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <cstdio>
 
+#include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "qt/Accesible.h"
 #include "qt/Estilo.h"
@@ -56,6 +57,7 @@ int main(int argc, char** argv) {
     unica.AlLlamar([&] { plataforma.TraeAlFrente(); });
     PonSistema(&plataforma);
     plataforma.SonidoDeMando = [] { SonidoJuego(1, sonido::TECLA); };
+    plataforma.AlApremiar = [] { Gbl.SinPausas = true; };
     const Senales senales([&] {
         CopiaAlTerminar();
         plataforma.Termina();

@@ -43,7 +43,8 @@ void Pausa(i16 Milisegundos) {
     if (Gbl.MarcaPausa == 0) Gbl.MarcaPausa = Sistema().timeGetTime();
     const double espera = Gbl.SinPausas ? 0 : Milisegundos * FactorPausa(Gbl.VelocidadJuego);
     bool presentado = false;
-    for (;;) {
+    // The sleep may end early, with the wish that nothing be waited for.
+    while (!presentado || !Gbl.SinPausas) {
         // Unsigned difference: right also when the clock wraps.
         const double faltan = espera - (Sistema().timeGetTime() - Gbl.MarcaPausa);
         if (faltan <= 0) break;

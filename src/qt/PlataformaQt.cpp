@@ -16,6 +16,7 @@
 #include "qt/Entrada.h"
 #include "qt/Estilo.h"
 #include "qt/Imagenes.h"
+#include "qt/Senales.h"
 #include "qt/VistaVentana.h"
 
 namespace tessario {
@@ -100,7 +101,8 @@ void PlataformaQt::Duerme(double milisegundos) {
     Presenta();
     Sincroniza(true);
     const long long falta = fin - reloj_.nsecsElapsed();
-    if (falta > 0 && !terminando_) QThread::usleep(static_cast<unsigned long>(falta / 1000));
+    if (falta > 0 && !terminando_) Senales::Duerme(static_cast<double>(falta) / 1e6);
+    if (AlApremiar && Senales::Pendiente()) AlApremiar();
 }
 
 void PlataformaQt::DejaPasarEventos() {

@@ -22,6 +22,9 @@ public:
 
     // The sound of the settings' controls; the game decides whether and how it is heard.
     std::function<void()> SonidoDeMando;
+    // The system asks for the end while the game sleeps inside its own work: the rest of that
+    // should not be waited for. The end itself comes with the next events.
+    std::function<void()> AlApremiar;
     // The event loop, until Termina. Returns the exit status.
     int Ejecuta();
     // A later start has called: the windows come up, put away or not, the one on top last.

@@ -1,8 +1,11 @@
 #include "qt/Senales.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <unistd.h>
+
+#include <cmath>
 
 namespace tessario {
 
@@ -18,7 +21,24 @@ void Avisa(int) {
 
 constexpr int SENALES[] = {SIGTERM, SIGINT, SIGHUP};
 
+// Waits for the pipe to have something in it. False: it has stayed empty.
+bool EsperaTubo(double milisegundos) {
+    constexpr double NS_POR_S = 1e9, NS_POR_MS = 1e6;
+    const double ns = milisegundos * NS_POR_MS, segundos = std::floor(ns / NS_POR_S);
+    const timespec tope{static_cast<time_t>(segundos), static_cast<long>(ns - segundos * NS_POR_S)};
+    pollfd llegada{tubo[0], POLLIN, 0};  // a negative one, as without handlers, is never ready
+    return ppoll(&llegada, 1, &tope, nullptr) == 1;
+}
+
 }  // namespace
+
+void Senales::Duerme(double milisegundos) {
+    if (milisegundos > 0) EsperaTubo(milisegundos);
+}
+
+bool Senales::Pendiente() {
+    return EsperaTubo(0);
+}
 
 Senales::Senales(std::function<void()> alTerminar) {
     if (pipe2(tubo, O_CLOEXEC | O_NONBLOCK) != 0) return;

@@ -14,6 +14,11 @@ public:
     Senales(const Senales&) = delete;
     Senales& operator=(const Senales&) = delete;
 
+    // Sleeps; a signal that has not been answered yet ends the sleep, or lets none begin.
+    static void Duerme(double milisegundos);
+    // Has a signal come that has not been answered yet?
+    static bool Pendiente();
+
 private:
     std::unique_ptr<QSocketNotifier> aviso_;
 };

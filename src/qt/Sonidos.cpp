@@ -10,6 +10,8 @@
 #include <mutex>
 #include <thread>
 
+#include "qt/Senales.h"
+
 namespace tessario {
 
 namespace {
@@ -198,10 +200,10 @@ void Sonidos::Suena(i16 id, bool asincrono) {
         if (!Dispuesto(DEMORA_MAXIMA_MS) || !HayAparato()) return;
         a = estado_->aparato;
     }
-    while (SDL_GetQueuedAudioSize(a) > 0 && steady_clock::now() < tope)
-        std::this_thread::sleep_for(milliseconds(2));
+    const auto sigue = [&] { return steady_clock::now() < tope && !Senales::Pendiente(); };
+    while (SDL_GetQueuedAudioSize(a) > 0 && sigue()) Senales::Duerme(2);
     // What the device has taken last is still to be heard.
-    if (steady_clock::now() < tope) std::this_thread::sleep_for(milliseconds(TROZO_MS));
+    if (sigue()) Senales::Duerme(TROZO_MS);
 }
 
 }  // namespace tessario

@@ -65,5 +65,60 @@ TEST(CopiaVentana, ControlZTakesTheLastMoveBackAndASignalLeavesTheCopy) {
     EXPECT_EQ(programa.LeePartida(21).piezas[0].y, 500) << "the game's own file is left alone";
 }
 
+class FinVentana : public testing::Test {
+protected:
+    // A game with one move in its log. `velocidad`: 0 to 100, or what a damaged file may say.
+    void Empieza(int velocidad) {
+        programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
+        programa.EscribeGlobal(21, velocidad);
+        programa.EscribePartida(DosSueltas());
+        ASSERT_TRUE(programa.Arranca());
+        e.Arrastra(600, 560, 600, 760);
+    }
+    // Ended in order, with so many moves in the copy and the game's own file as it was.
+    void TerminaConCopia(int senal, int movimientos, int y) {
+        ASSERT_EQ(kill(programa.Pid(), senal), 0);
+        EXPECT_EQ(programa.EsperaFin(), 0);
+        const PartidaLeida copia = programa.LeeRecord(COPIA);
+        ASSERT_EQ(copia.piezas.size(), 9U);
+        EXPECT_EQ(copia.movimientos, movimientos);
+        EXPECT_EQ(copia.piezas[0].y, y);
+        EXPECT_EQ(programa.LeePartida(21).piezas[0].y, 500);
+        EXPECT_EQ(programa.Errores(), "");
+    }
+
+    Escritorio e{ANCHO, ALTO};
+    Programa programa{e};
+};
+
+TEST_F(FinVentana, ASignalWhileAMessageIsOpenLeavesTheCopy) {
+    Empieza(50);
+    programa.PulsaBoton(7);
+    ASSERT_TRUE(e.Espera([&] { return e.HayVentana("Salir de TESSARIO"); }));
+    TerminaConCopia(SIGHUP, 1, 700);
+}
+
+TEST_F(FinVentana, ASignalWhileTheSettingsAreOpenLeavesTheCopy) {
+    Empieza(50);
+    programa.PulsaBoton(2);
+    ASSERT_TRUE(e.Espera([&] { return e.HayVentana("Personalizar"); }));
+    e.EsperaAtendido();
+    TerminaConCopia(SIGTERM, 1, 700);
+}
+
+// So slow that the run of one piece takes half a minute: it is not waited for.
+TEST_F(FinVentana, ASignalInTheMiddleOfASlowRunLeavesTheCopy) {
+    constexpr int LENTA = -99, ORDENA = 11;
+    Empieza(LENTA);
+    const Foto antes = e.Mira();
+    const Programa::Lugar b = programa.Boton(ORDENA);
+    e.Mueve(b.x, b.y);
+    e.Aprieta();
+    e.Suelta();
+    // A piece is on its way.
+    ASSERT_TRUE(e.Espera([&] { return e.Mira().Diferencia(antes, 0, 480, 1100, 480) > 1000; }));
+    TerminaConCopia(SIGTERM, 2, 0);
+}
+
 }  // namespace
 }  // namespace tessario::ventana
