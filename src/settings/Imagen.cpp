@@ -462,8 +462,13 @@ void ListaCarpeta(const std::string& carpeta) {
     PonPunterosDeListas();
 }
 
+std::string CarpetaDelJugador() {
+    return Gbl.EnMedioSoloLectura ? Gbl.CarpetaPrograma + "Imagenes/" : Gbl.CarpetaImagenes;
+}
+
 void AbreListas() {
     Drive1.Propias = {{"De Tessario", Gbl.CarpetaImagenes}};
+    if (Gbl.EnMedioSoloLectura) Drive1.Propias.emplace_back("Mis imágenes", CarpetaDelJugador());
     // A puzzle that has never had a picture begins among the program's own.
     const bool ninguna = Gbl.CarpetaImagen.empty();
     const std::string guardada = ninguna ? Gbl.CarpetaImagenes : BuscaRuta(Gbl.CarpetaImagen);

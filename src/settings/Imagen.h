@@ -27,6 +27,9 @@ void Spin1_Change();
 void Lis_NroPiezas_Click();
 void Pic_BotPortapapeles_MouseDown();
 
+// The pictures that the player has brought into the game: among the program's own, or, where those
+// cannot be written, in a folder of the player's working folder.
+std::string CarpetaDelJugador();
 // The lists at the folder of the puzzle's picture, without a choice being made.
 void AbreListas();
 // Lists a folder, without a choice being made.

@@ -115,12 +115,12 @@ std::string NombreLibre(const std::string& carpeta, const ImagenTraida_& t, bool
     return nombre;
 }
 
-// Is the picture one of the listed kinds in the program's pictures already?
-bool EstaEntreLasPropias(const std::string& ruta) {
+// Is the picture one of the listed kinds in that folder already?
+bool EstaEn(const std::string& carpeta, const std::string& ruta) {
     const std::string nombre = fs::path(ruta).filename().string();
-    if (ruta != Gbl.CarpetaImagenes + nombre) return false;
+    if (ruta != carpeta + nombre) return false;
     ListaFicheros lista;
-    lista.Path = Gbl.CarpetaImagenes;
+    lista.Path = carpeta;
     lista.Pattern = PATRON_IMAGENES;
     lista.Relee();
     return std::any_of(lista.Elementos.begin(), lista.Elementos.end(),
@@ -164,12 +164,13 @@ void ImportaImagenTraida() {
         return;
     }
     if (!UsaImagen()) Sel(SEL_FONDO).Pon(FONDO_IMAGEN);
-    if (EstaEntreLasPropias(t.Ruta)) {
-        EligeEn(Gbl.CarpetaImagenes, fs::path(t.Ruta).filename().string());
-        return;
-    }
+    for (const std::string& carpeta : {Gbl.CarpetaImagenes, CarpetaDelJugador()})
+        if (EstaEn(carpeta, t.Ruta)) {
+            EligeEn(carpeta, fs::path(t.Ruta).filename().string());
+            return;
+        }
     Gbl.ImagenLeida.clear();
-    for (const std::string& carpeta : {Gbl.CarpetaImagenes, Gbl.CarpetaPrograma})
+    for (const std::string& carpeta : {CarpetaDelJugador(), Gbl.CarpetaPrograma})
         if (const std::string nombre = GuardaEn(carpeta, t); !nombre.empty()) {
             EligeEn(carpeta, nombre);
             return;

@@ -21,6 +21,7 @@
 #include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "settings/Imagen.h"
 #include "settings/Mandos.h"
 #include "settings/Personal.h"
 #include "start/Juegos.h"
@@ -211,6 +212,7 @@ void PreparaCarpetas() {
     Gbl.CarpetaArchivo = Gbl.CarpetaPrograma + "Archivo/";
     CreaCarpeta(Gbl.CarpetaPrograma);
     CreaCarpeta(Gbl.CarpetaArchivo);
+    CreaCarpeta(CarpetaDelJugador());
     VeACarpeta(Gbl.CarpetaPrograma);
     // A second start finds the settings of the first and copies nothing over them.
     std::string bytes;

@@ -75,6 +75,18 @@ TEST_F(Servicios, PauseLastsItsTimeAndShowsFirstWhatWasPainted) {
     }
 }
 
+TEST_F(Servicios, PauseThatIsCutShortIsNotGoneBackTo) {
+    int veces = 0;
+    P().alDormir = [&] {
+        ++veces;
+        P().reloj -= 60;  // the sleep ends early
+        Gbl.SinPausas = true;
+    };
+    Pausa(100);
+    EXPECT_EQ(veces, 1);
+    EXPECT_EQ(Gbl.MarcaPausa, 0U);
+}
+
 TEST_F(Servicios, PauseLetsNoEventThrough) {
     bool corrio = false;
     P().eventos.push_back([&] { corrio = true; });

@@ -766,6 +766,31 @@ TEST_F(ImagenVentana, ADroppedFileIsImportedUnderItsNameAndChosen) {
     EXPECT_EQ(Gbl.FicheroImagen, "Mi foto 2.bmp");
 }
 
+// Installed for everybody, the program's pictures are nobody's: the player's stand in a folder that
+// is a place of its own.
+TEST_F(ImagenVentana, OnAMediumThatCannotBeWrittenADroppedFileGoesToThePlayersOwnFolder) {
+    const std::string foto = "/lejos/Mi foto.png";
+    P().ajenas[foto] = Mapa(400, 300, 0x0A0B0C);
+    Gbl.EnMedioSoloLectura = true;
+    Gbl.CarpetaPrograma = P().carpeta + "trabajo/";
+    const std::string mia = Gbl.CarpetaPrograma + "Imagenes/";
+    fs::create_directories(mia);
+    Visita([&] {
+        ASSERT_EQ(Drive1.Propias.size(), 2U);
+        EXPECT_EQ(Drive1.Propias[1].first, "Mis imágenes");
+        EXPECT_EQ(Drive1.Propias[1].second, mia);
+        Personal.DragDrop({{foto}, {}});
+        EXPECT_EQ(P().guardadas.count(mia + "Mi foto.bmp"), 1U);
+        EXPECT_EQ(FicheroElegido(), "Mi foto.bmp");
+        EXPECT_EQ(Drive1.Drive, mia);
+        // A file of that folder is no stranger.
+        Personal.DragDrop({{mia + "Mi foto.bmp"}, {}});
+        EXPECT_EQ(P().guardadas.size(), 1U);
+        Sal({true});
+    });
+    EXPECT_EQ(Gbl.RutaImagen, mia + "Mi foto.bmp");
+}
+
 TEST_F(ImagenVentana, ADroppedFileOfTheProgramsPicturesIsJustChosen) {
     PonImagen("b.bmp", 800, 600);
     Visita([&] {

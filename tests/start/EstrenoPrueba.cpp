@@ -206,6 +206,7 @@ TEST_F(Estreno, OnAMediumThatCannotBeWrittenTheFilesMoveToThePlayersFolderOnce) 
     const std::string propia = P().carpeta + "sistema/Temp/Tsb/";
     for (const char* f : {"TSR33.INI", "TSR2133.INI", "TSR2233.INI", "TSR2333.INI"})
         EXPECT_TRUE(fs::exists(propia + f)) << f;
+    EXPECT_TRUE(fs::is_directory(propia + "Imagenes")) << "for the pictures of the player";
 
     // Played, left, and a newer program put in the place of the old.
     Gbl.Piezas[3].X = 222;

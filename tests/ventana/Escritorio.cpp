@@ -35,14 +35,13 @@ struct Lanzamiento {
     int descriptor = -1;
     Entorno entorno = {};
     std::string errores = "/dev/null";
-    bool ajeno = false;  // as a user who owns nothing, where we may choose
+    unsigned usuario = 0;  // 0: ourselves; another one only where we may choose
 };
 
 pid_t Lanza(const Lanzamiento& l) {
     const pid_t pid = fork();
     if (pid != 0) return pid;
-    constexpr unsigned NADIE = 65534;
-    const bool cambia = l.ajeno && geteuid() == 0;
+    const bool cambia = l.usuario != 0 && geteuid() == 0;
     prctl(PR_SET_PDEATHSIG, SIGKILL);  // nothing outlives a test that is stopped
     if (!l.pantalla.empty()) setenv("DISPLAY", l.pantalla.c_str(), 1);
     unsetenv("WAYLAND_DISPLAY");
@@ -58,7 +57,7 @@ pid_t Lanza(const Lanzamiento& l) {
         if (!freopen("/dev/null", "w", stdout)) _exit(126);
         if (!freopen(l.errores.c_str(), "w", stderr)) _exit(126);
     }
-    if (cambia && (setgid(NADIE) != 0 || setuid(NADIE) != 0)) _exit(125);
+    if (cambia && (setgid(l.usuario) != 0 || setuid(l.usuario) != 0)) _exit(125);
     if (cambia) prctl(PR_SET_PDEATHSIG, SIGKILL);
     for (int fd = 3; fd < 64; ++fd)
         if (fd != l.descriptor) close(fd);
@@ -407,10 +406,26 @@ Programa::Programa(Escritorio& e) : e_(e) {
                      fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     for (const auto& f : fs::directory_iterator(TESSARIO_ESTRENO))
         fs::copy_file(f.path(), carpeta_ + f.path().filename().string());
+    ejecutable_ = carpeta_ + "tessario";
+    errores_ = carpeta_ + "errores.txt";
+    entorno_ = {{"XDG_DATA_HOME", carpeta_ + "datos"}};
 }
+
+Programa::Programa(Escritorio& e, Instalado instalado)
+    : e_(e),
+      carpeta_(instalado.casa + "/.local/share/tessario/Temp/Tsb/"),
+      ejecutable_(std::move(instalado.ejecutable)),
+      errores_(instalado.casa + "-errores.txt"),
+      entorno_{{"HOME", instalado.casa},
+               {"XDG_DATA_HOME", ""},
+               {"XDG_CONFIG_HOME", ""},
+               {"XDG_CACHE_HOME", ""}},
+      propia_(false),
+      usuario_(instalado.usuario) {}
 
 Programa::~Programa() {
     Mata();
+    if (!propia_) return;
     std::error_code error;
     if (cerrada_)
         for (const char* sub : {"", "Imagenes", "Archivo"})
@@ -424,8 +439,12 @@ void Programa::QuitaAjustes() {
         fs::remove(carpeta_ + f.path().filename().string());
 }
 
+void Programa::EscribeEn(const std::string& ruta, const std::string& bytes) {
+    std::ofstream(ruta, std::ios::binary) << bytes;
+}
+
 void Programa::EscribeBytes(const std::string& nombre, const std::string& bytes) {
-    std::ofstream(carpeta_ + nombre, std::ios::binary) << bytes;
+    EscribeEn(carpeta_ + nombre, bytes);
 }
 
 void Programa::EscribeGlobal(int juego, int velocidad, bool sonido, bool sugerencias) {
@@ -516,20 +535,15 @@ void Programa::EscribeImagenDeCuadros(const std::string& nombre, int ancho, int 
 }
 
 void Programa::Lanzalo(const Entorno& entorno) {
-    Entorno todo{{"XDG_DATA_HOME", carpeta_ + "datos"}};
+    Entorno todo = entorno_;
     todo.insert(todo.end(), entorno.begin(), entorno.end());
-    pid_ = Lanza({{carpeta_ + "tessario"},
-                  e_.Nombre(),
-                  -1,
-                  todo,
-                  cerrada_ ? "/dev/null" : carpeta_ + "errores.txt",
-                  cerrada_});
+    pid_ =
+        Lanza({{ejecutable_}, e_.Nombre(), -1, todo, cerrada_ ? "/dev/null" : errores_, usuario_});
     estado_ = -1;
 }
 
 int Programa::ArrancaOtra(int milisegundos) {
-    const pid_t otra =
-        Lanza({{carpeta_ + "tessario"}, e_.Nombre(), -1, {{"XDG_DATA_HOME", carpeta_ + "datos"}}});
+    const pid_t otra = Lanza({{ejecutable_}, e_.Nombre(), -1, entorno_, "/dev/null", usuario_});
     int estado = -1;
     e_.Espera([&] { return waitpid(otra, &estado, WNOHANG) == otra; }, milisegundos);
     if (estado != -1) return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128;
@@ -545,11 +559,13 @@ void Programa::CierraCarpeta(const std::string& datos) {
     constexpr auto entrar = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
     for (const char* sub : {"Imagenes", "Archivo", ""})
         fs::permissions(carpeta_ + sub, leer | entrar);
+    constexpr unsigned NADIE = 65534;
     cerrada_ = true;
+    usuario_ = NADIE;
 }
 
 std::string Programa::Errores() const {
-    std::ifstream f(carpeta_ + "errores.txt", std::ios::binary);
+    std::ifstream f(errores_, std::ios::binary);
     return {std::istreambuf_iterator<char>(f), {}};
 }
 

@@ -114,6 +114,13 @@ class Programa {
 public:
     // A folder of its own with the real program, the pictures, the models and the first games.
     explicit Programa(Escritorio& e);
+    // A program that is installed, with a home: it is started as that user, if we may choose, and
+    // Carpeta() is the working folder in that home.
+    struct Instalado {
+        std::string ejecutable, casa;
+        unsigned usuario = 0;
+    };
+    Programa(Escritorio& e, Instalado instalado);
     ~Programa();
     Programa(const Programa&) = delete;
     Programa& operator=(const Programa&) = delete;
@@ -123,6 +130,7 @@ public:
     void EscribePartida(const PartidaGuardada& p);
     // A first start with no settings at all, for a program that came without any.
     void QuitaAjustes();
+    static void EscribeEn(const std::string& ruta, const std::string& bytes);
     void EscribeBytes(const std::string& nombre, const std::string& bytes);
     // A picture of big flat squares of distinct colours, n a side: a BMP, or one in Imagenes/.
     static std::string ImagenDeCuadros(int ancho, int alto, int n);
@@ -158,10 +166,12 @@ public:
 
 private:
     Escritorio& e_;
-    std::string carpeta_;
+    std::string carpeta_, ejecutable_, errores_;
+    Entorno entorno_;
     pid_t pid_ = 0;
     int estado_ = -1;
-    bool cerrada_ = false;
+    bool cerrada_ = false, propia_ = true;  // the folder's rights; it is ours to delete
+    unsigned usuario_ = 0;                  // 0: ourselves
 };
 
 }  // namespace tessario::ventana
