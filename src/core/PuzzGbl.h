@@ -261,6 +261,13 @@ struct DatosRaton {
     i32 XVisto = -1, YVisto = -1;    // last point of the table under the pointer; -1 none yet
 };
 
+// ---------------------------------------------------------------- the keyboard's cross
+struct DatosCruz {
+    i32 CruzX = -1, CruzY = -1;  // where cross or mouse pointed last, window pixels; -1 nowhere
+    i16 CruzRepeticiones = 0;    // so often the held key has come in again
+    Booleano CruzSujeta;         // it holds what it pressed: a piece, or the sample
+};
+
 // ---------------------------------------------------------------- panel, clock, hints
 struct DatosPanel {
     Tabla<i16, 1, 12> BotonX, BotonY;        // places of the command buttons in the strip
@@ -349,6 +356,7 @@ struct Bloque : DatosJuego,
                 DatosDeslizantes,
                 DatosComposicion,
                 DatosRaton,
+                DatosCruz,
                 DatosPanel,
                 DatosOpciones,
                 DatosOrdenar,

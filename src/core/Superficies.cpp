@@ -12,6 +12,7 @@ Superficie Pic_BmpBoton, Pic_BmpVario;
 Cuadro Pic_Muestra, Pic_Sugerencia, Pic_SugeMasAyuda, Pic_SugeBotCerrar, Pic_SelOpciones;
 BarraDesplazamiento BarraHor, BarraVer;
 Cuadro Pic_Cuadrito;
+Cruz CruzMesa;
 Cuadro Pic_Botonera;
 Cuadro Pic_Boton_[12];
 Cuadro Pic_Cronome, Pic_CroTime, Pic_InfoColo, Pic_Grabadora;
@@ -62,6 +63,9 @@ void ReiniciaSuperficies() {
     BarraVer.Nombre = "BarraVer";
     BarraVer.Vertical = true;
     BarraHor.Visible = BarraVer.Visible = false;
+
+    CruzMesa = Cruz{};
+    CruzMesa.Nombre = "CruzMesa";
 
     Timer1 = Temporizador{};
 }

@@ -67,6 +67,7 @@ extern Cuadro Pic_SugeMasAyuda, Pic_SugeBotCerrar;
 extern Cuadro Pic_SelOpciones;  // options panel
 extern BarraDesplazamiento BarraHor, BarraVer;
 extern Cuadro Pic_Cuadrito;  // corner between the bars
+extern Cruz CruzMesa;        // what the keyboard points with
 
 // The strip.
 extern Cuadro Pic_Botonera;

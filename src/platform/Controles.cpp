@@ -93,6 +93,30 @@ void Spin::Pon(i16 v) {
     Cambia(*this, Value, std::clamp(v, Min, std::max(Min, Max)));
 }
 
+Punto OrigenDe(const Control& c) {
+    Punto p{c.Left, c.Top};
+    for (const Control* k = c.Contenedor; k; k = k->Contenedor) {
+        p.x += k->Left;
+        p.y += k->Top;
+    }
+    return p;
+}
+
+Control* ControlEn(const Ventana& v, i32 x, i32 y) {
+    const auto seVe = [&](const Control* c) {
+        for (; c; c = c->Contenedor) {
+            const Punto o = OrigenDe(*c);
+            if (!c->Visible || !RectDe(o.x, o.y, c->Width(), c->Height()).Contiene(x, y))
+                return false;
+        }
+        return true;
+    };
+    // A control in a container stands after it in the list.
+    const auto c = std::find_if(v.Controles.rbegin(), v.Controles.rend(),
+                                [&](const Control* k) { return k != v.Teclado && seVe(k); });
+    return c == v.Controles.rend() ? nullptr : *c;
+}
+
 void Pulsa(Control& c) {
     if (c.MouseMove) c.MouseMove(0, 0, 0, 0);
     if (c.MouseDown) c.MouseDown(BOTON_IZQUIERDO, 0, 0, 0);

@@ -20,10 +20,12 @@ inline constexpr i16 PUNTERO_RELOJ = 11;
 inline constexpr i16 PUNTERO_PROHIBIDO = 12;
 inline constexpr i16 PUNTERO_PROPIO = 99;  // the cursor named in MouseIcon
 
-// Mouse buttons as events give them; Shift holds 1 shift, 2 control, 4 alt.
+// Mouse buttons as events give them.
 inline constexpr i16 BOTON_IZQUIERDO = 1;
 inline constexpr i16 BOTON_DERECHO = 2;
 inline constexpr i16 BOTON_CENTRAL = 4;
+// What Shift holds, added up; the last only in KeyDown: the key is held, and this is no new press.
+inline constexpr i16 CON_MAYUS = 1, CON_CONTROL = 2, CON_ALT = 4, TECLA_REPETIDA = 8;
 
 struct Control {
     virtual ~Control() = default;
@@ -201,6 +203,19 @@ private:
     std::string rutaLeida_, patronLeido_;
 };
 
+// What the keyboard points with in place of the mouse: a cross around a point of the window. Beside
+// it stands the pointer that the mouse would have there. It lets the mouse through.
+struct Cruz : Control {
+    static constexpr i32 RADIO = 40;  // its box reaches so far to every side of the point
+    Control* Sobre = nullptr;         // what it points at; null: the window itself
+
+    Cruz() {
+        Visible = false;
+        Control::Tamano(2 * RADIO + 1, 2 * RADIO + 1);
+    }
+    void Apunta(i32 x, i32 y) { Mueve(x - RADIO, y - RADIO); }
+};
+
 struct Temporizador {
     i32 Interval = 0;  // milliseconds; 0: off
     bool Enabled = false;
@@ -227,6 +242,10 @@ struct Ventana : Superficie {
     std::vector<Control*> OrdenTab;   // in which Tab goes through them; empty: that of Controles
     std::vector<Temporizador*> Temporizadores;
     Control* Foco = nullptr;  // the control that gets the keys when the window opens
+    // One of the controls, or null. While it is visible the mouse has no pointer over the window,
+    // and what comes to lie under it is not told of it.
+    Cruz* Teclado = nullptr;
+    bool ApuntaElTeclado() const { return Teclado && Teclado->Visible; }
 
     std::function<void()> Load, Activate, Unload;
     std::function<void(bool& Cancela)> QueryUnload;  // the player asks to close it from outside
@@ -234,10 +253,18 @@ struct Ventana : Superficie {
     std::function<void(i16 KeyCode, i16 Shift)> KeyDown;
     std::function<void(i16 KeyAscii)> KeyPress;
     std::function<void(i16 Button, i16 Shift, float X, float Y)> MouseDown, MouseMove, MouseUp;
+    // The mouse is used while the keyboard points; comes before what it does.
+    std::function<void()> VuelveElRaton;
     // Something was dropped on the window or on one of its controls; a window without this event
     // takes nothing. It comes when the drag is over, so a handler may open another window.
     std::function<void(const Traido& traido)> DragDrop;
 };
+
+// Corner of a control in its window's pixels.
+Punto OrigenDe(const Control& c);
+// What the mouse meets at a point of the window: the topmost control that is to be seen there; null
+// for the window itself.
+Control* ControlEn(const Ventana& v, i32 x, i32 y);
 
 // Presses a control on the player's behalf at (0, 0): a move to the point, then its MouseDown.
 void Pulsa(Control& c);

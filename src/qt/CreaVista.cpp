@@ -25,6 +25,7 @@ protected:
 // The kinds that are built on another one come before it.
 constexpr Vista* (*CLASES[])(Control&, MarcoDeVistas&, QWidget*) = {
     Crea<Cuadro, VistaCuadro>,
+    Crea<Cruz, VistaCruz>,
     Crea<Etiqueta, VistaEtiqueta>,
     Crea<BarraDesplazamiento, VistaBarra>,
     Crea<ListaFicheros, VistaFicheros>,

@@ -70,9 +70,14 @@ i16 BotonesDe(Qt::MouseButtons botones) {
 }
 
 i16 ShiftDe(Qt::KeyboardModifiers m) {
-    const int suma = (m & Qt::ShiftModifier ? 1 : 0) + (m & Qt::ControlModifier ? 2 : 0) +
-                     (m & Qt::AltModifier ? 4 : 0);
+    const int suma = (m & Qt::ShiftModifier ? CON_MAYUS : 0) +
+                     (m & Qt::ControlModifier ? CON_CONTROL : 0) +
+                     (m & Qt::AltModifier ? CON_ALT : 0);
     return static_cast<i16>(suma);
+}
+
+i16 ShiftDe(const QKeyEvent& e) {
+    return static_cast<i16>(ShiftDe(e.modifiers()) + (e.isAutoRepeat() ? TECLA_REPETIDA : 0));
 }
 
 i16 KeyCodeDe(const QKeyEvent& e) {

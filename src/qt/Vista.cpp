@@ -39,6 +39,9 @@ Vista::Vista(Control& c, MarcoDeVistas& v, QWidget* padre)
 Anfitrion& Vista::anfitrion() const {
     return ventana_.anfitrion();
 }
+const Ventana& Vista::ventana() const {
+    return ventana_.ventana();
+}
 bool Vista::Viva() const {
     return ventana_.Viva() && ventana_.EsMia(this);
 }
@@ -88,14 +91,16 @@ void Vista::Coloca(const QRect& sitio) {
 // A pointer that the window itself sets, such as the hourglass, is to be seen all over it; else the
 // control's own one holds, and last that of the widget within.
 void Vista::PonPunteroDe() {
-    const Ventana& v = ventana_.ventana();
+    const Ventana& v = ventana();
     const bool manda = v.MousePointer != PUNTERO_NORMAL;
     const i16 puntero = manda ? v.MousePointer : control_.MousePointer;
     const std::string& icono = manda ? v.MouseIcon : control_.MouseIcon;
-    if (visto_.puntero == puntero && visto_.icono == icono) return;
+    const bool oculto = v.ApuntaElTeclado();
+    if (visto_.puntero == puntero && visto_.icono == icono && visto_.oculto == oculto) return;
     visto_.puntero = puntero;
     visto_.icono = icono;
-    setCursor(anfitrion().cursores().De(puntero, icono));
+    visto_.oculto = oculto;
+    setCursor(oculto ? QCursor(Qt::BlankCursor) : anfitrion().cursores().De(puntero, icono));
     QWidget* const i = Interior();
     if (!i) return;
     auto* const rollo = qobject_cast<QAbstractScrollArea*>(i);
@@ -214,6 +219,8 @@ bool Vista::EventoDeRaton(QEvent* e, bool interior) {
     // A control that is disabled swallows the mouse: nothing below it is clicked either.
     e->accept();
     const auto* m = static_cast<QMouseEvent*>(e);
+    if (Viva() && e->type() != QEvent::MouseButtonRelease)
+        ventana_.LlegaElRaton(m->globalPosition(), e->type() != QEvent::MouseMove);
     if (!Viva()) return true;
     anfitrion().AnotaMirada(this, m->position());
     if (!control_.Enabled && e->type() != QEvent::MouseButtonRelease) return true;
@@ -287,7 +294,7 @@ void Vista::Suelta(Qt::MouseButton b, QPointF p) {
 
 void Vista::Tecla(const QKeyEvent& e) {
     if (control_.KeyDown && KeyCodeDe(e))
-        anfitrion().Entrega([&] { control_.KeyDown(KeyCodeDe(e), ShiftDe(e.modifiers())); });
+        anfitrion().Entrega([&] { control_.KeyDown(KeyCodeDe(e), ShiftDe(e)); });
     if (Viva() && control_.KeyPress && KeyAsciiDe(e))
         anfitrion().Entrega([&] { control_.KeyPress(KeyAsciiDe(e)); });
     if (Viva() && control_.Enabled) TeclaPropia(e);
@@ -366,6 +373,8 @@ bool Vista::CambiaDeZona(const QKeyEvent& e) {
 bool Vista::Rueda(const QWheelEvent& e) {
     constexpr int MUESCA = 120;
     if (!control_.MouseWheel || !control_.Enabled || !Viva()) return false;
+    ventana_.LlegaElRaton(e.globalPosition(), true);
+    if (!Viva()) return true;
     const int avance = e.angleDelta().y();
     if ((avance < 0) != (rueda_ < 0)) rueda_ = 0;
     rueda_ += avance;
@@ -409,7 +418,7 @@ void Vista::PintaAnillo(QPainter& p, QRect r) const {
 }
 
 void Vista::Mira(QPointF p) {
-    if (!Viva() || !control_.Enabled) return;
+    if (!Viva() || !control_.Enabled || ventana().ApuntaElTeclado()) return;
     AlPasar(p);
     Apunta(Qt::NoButton, {}, p);
 }

@@ -24,6 +24,9 @@ public:
     virtual bool EsMia(const Vista* v) const = 0;
     // A key: to the window, then to the control. True: used up, or the window is gone.
     virtual bool Tecla(const QKeyEvent& e, Vista* foco) = 0;
+    // The mouse comes in over a view, before its event is delivered. `actua`: it does more than
+    // to stand there.
+    virtual void LlegaElRaton(QPointF enPantalla, bool actua) = 0;
 };
 
 class Vista : public QWidget, public RecibeSuelta {
@@ -62,6 +65,7 @@ protected:
     void PonInterior(QWidget* w);  // adopts the standard widget: its events come through here
     void PintaAnillo(QPainter& p, QRect r) const;
     Anfitrion& anfitrion() const;
+    const Ventana& ventana() const;
     bool Viva() const;  // the window is still open
 
     bool event(QEvent* e) override;
@@ -94,7 +98,7 @@ private:
 
     // The record as it was last seen.
     struct Visto {
-        bool Visible = false, Enabled = true;
+        bool Visible = false, Enabled = true, oculto = false;
         i16 puntero = -1;
         std::string icono, sugerencia, nombre;
         bool primera = true;

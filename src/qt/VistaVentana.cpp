@@ -75,10 +75,14 @@ void VistaVentana::Sincroniza() {
         const QString t = QString::fromStdString(titulo_).trimmed();
         setWindowTitle(t.isEmpty() ? QStringLiteral("Tessario") : t);
     }
-    if (puntero_ != ventana_.MousePointer || icono_ != ventana_.MouseIcon) {
+    const bool teclado = ventana_.ApuntaElTeclado();
+    if (puntero_ != ventana_.MousePointer || icono_ != ventana_.MouseIcon ||
+        apuntaTeclado_ != teclado) {
+        if (teclado && !apuntaTeclado_) raton_ = QCursor::pos();
         puntero_ = ventana_.MousePointer;
         icono_ = ventana_.MouseIcon;
-        setCursor(anfitrion_.cursores().De(puntero_, icono_));
+        apuntaTeclado_ = teclado;
+        setCursor(teclado ? QCursor(Qt::BlankCursor) : anfitrion_.cursores().De(puntero_, icono_));
     }
     if (acceptDrops() != static_cast<bool>(ventana_.DragDrop))
         setAcceptDrops(static_cast<bool>(ventana_.DragDrop));
@@ -92,7 +96,8 @@ void VistaVentana::Sincroniza() {
 }
 
 void VistaVentana::SincronizaControles() {
-    if (orden_ != ventana_.Controles) RehaceVistas();
+    const bool nuevas = orden_ != ventana_.Controles;
+    if (nuevas) RehaceVistas();
     for (std::size_t i = 0; i < enOrden_.size(); ++i) {
         Vista* const v = enOrden_[i];
         Control* const c = orden_[i];
@@ -106,6 +111,7 @@ void VistaVentana::SincronizaControles() {
         }
         areaPendiente_ += v->Sincroniza();
     }
+    if (nuevas) EncadenaFoco();
 }
 
 void VistaVentana::RehaceVistas() {
@@ -125,15 +131,20 @@ void VistaVentana::RehaceVistas() {
         vistas_[c] = vista;
         enOrden_.push_back(vista);
     }
+    for (const auto& [c, vista] : viejas) {
+        vista->hide();
+        vista->deleteLater();
+    }
+}
+
+// The window system passes over what does not take the keyboard yet, so the views must have been
+// brought in step before.
+void VistaVentana::EncadenaFoco() {
     Vista* anterior = nullptr;
     for (const Control* c : ventana_.OrdenTab.empty() ? orden_ : ventana_.OrdenTab) {
         Vista* const vista = VistaDe(*c);
         if (anterior && vista) setTabOrder(anterior, vista);
         if (vista) anterior = vista;
-    }
-    for (const auto& [c, vista] : viejas) {
-        vista->hide();
-        vista->deleteLater();
     }
 }
 
@@ -225,11 +236,19 @@ bool VistaVentana::Tecla(const QKeyEvent& e, Vista* foco) {
     const bool pulsa = k == Qt::Key_Space || k == Qt::Key_Return || k == Qt::Key_Enter;
     if (pulsa && foco && foco->AnilloVisible() && foco->PulsaTecla()) return true;
     if (ventana_.KeyDown && KeyCodeDe(e))
-        anfitrion_.Entrega([&] { ventana_.KeyDown(KeyCodeDe(e), ShiftDe(e.modifiers())); });
+        anfitrion_.Entrega([&] { ventana_.KeyDown(KeyCodeDe(e), ShiftDe(e)); });
     if (viva_ && ventana_.KeyPress && KeyAsciiDe(e))
         anfitrion_.Entrega([&] { ventana_.KeyPress(KeyAsciiDe(e)); });
     if (viva_ && foco && EsMia(foco)) foco->Tecla(e);
     return !viva_;
+}
+
+// The window system tells of a mouse that stands still, too: that gives nothing back to it.
+void VistaVentana::LlegaElRaton(QPointF enPantalla, bool actua) {
+    const bool movido = enPantalla != raton_;
+    raton_ = enPantalla;
+    if (viva_ && (movido || actua) && ventana_.ApuntaElTeclado() && ventana_.VuelveElRaton)
+        anfitrion_.Entrega(ventana_.VuelveElRaton);
 }
 
 bool VistaVentana::event(QEvent* e) {
@@ -260,6 +279,8 @@ bool VistaVentana::event(QEvent* e) {
 
 void VistaVentana::Raton(QMouseEvent& m) {
     m.accept();
+    if (m.type() != QEvent::MouseButtonRelease)
+        LlegaElRaton(m.globalPosition(), m.type() != QEvent::MouseMove);
     if (!viva_) return;
     const auto x = static_cast<float>(m.position().x());
     const auto y = static_cast<float>(m.position().y());

@@ -41,6 +41,7 @@ public:
     void Termina();
 
     bool Tecla(const QKeyEvent& e, Vista* foco) override;
+    void LlegaElRaton(QPointF enPantalla, bool actua) override;
     void Suelta(Qt::MouseButton boton, QPointF punto) override;
 
 protected:
@@ -55,6 +56,7 @@ protected:
 private:
     void SincronizaControles();
     void RehaceVistas();
+    void EncadenaFoco();  // the way of the Tab key
     void SincronizaReloj();
     QRect Sitio() const;
     void Raton(QMouseEvent& m);
@@ -76,6 +78,8 @@ private:
     std::vector<std::unique_ptr<Reloj>> relojes_;
     i16 puntero_ = -1;
     std::string icono_, titulo_;
+    bool apuntaTeclado_ = false;
+    QPointF raton_;  // where the mouse stood when the keyboard began to point, and since
     QRect sitio_;
     int rueda_ = 0;  // what the wheel has turned short of a step
     long long areaPendiente_ = 0;

@@ -64,6 +64,7 @@ VistaCuadro::VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre)
 
 i32 VistaCuadro::SincronizaPropio() {
     const i32 area = MiraCaras();
+    MiraCruz();
     const Rect r = Interseccion(cuadro_.TomaSucio(), cuadro_.Limites());
     if (r.Vacio() || !isVisible()) return area;
     // Only what lies within the container can be seen.
@@ -99,6 +100,16 @@ i32 VistaCuadro::MiraCaras() {
     }
     caras_.swap(nuevas_);
     return area;
+}
+
+// While the keyboard points, the part that its cross lies on is lifted in place of the mouse's.
+void VistaCuadro::MiraCruz() {
+    const Cruz* const cruz = ventana().ApuntaElTeclado() ? ventana().Teclado : nullptr;
+    if (!cruz && !conCruz_) return;
+    conCruz_ = cruz != nullptr;
+    const bool mia = cruz && cruz->Sobre == &cuadro_;
+    const QPoint punto = mia ? QPoint(cruz->Left + Cruz::RADIO, cruz->Top + Cruz::RADIO) : QPoint();
+    Pon(bajo_, mia ? CaraEn(mapFrom(window(), punto)) : NINGUNA);
 }
 
 int VistaCuadro::CaraEn(QPointF p) const {
@@ -208,6 +219,50 @@ void VistaEtiqueta::paintEvent(QPaintEvent*) {
         y += Textos::Interlinea(letra_);
     }
     PintaAnillo(p, rect());
+}
+
+namespace {
+
+// From the point, which stays free, outwards; with its edge.
+constexpr int BRAZO_DESDE = 3, BRAZO_HASTA = 15;
+constexpr int PUNTERO_A = 6;  // from the point to the corner of the pointer beside it
+
+}  // namespace
+
+VistaCruz::VistaCruz(Cruz& c, MarcoDeVistas& v, QWidget* padre) : Vista(c, v, padre), cruz_(c) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+QPixmap VistaCruz::Puntero() const {
+    if (!cruz_.Sobre) return {};
+    return anfitrion().cursores().De(cruz_.Sobre->MousePointer, cruz_.Sobre->MouseIcon).pixmap();
+}
+
+i32 VistaCruz::SincronizaPropio() {
+    const QPixmap ahora = Puntero();
+    if (ahora.cacheKey() == puntero_.cacheKey()) return 0;
+    puntero_ = ahora;
+    update();
+    return width() * height();
+}
+
+void VistaCruz::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    const QPoint medio(Cruz::RADIO, Cruz::RADIO);
+    for (const int canto : {1, 0}) {
+        const int cerca = BRAZO_DESDE + 1 - canto, lejos = BRAZO_HASTA - 1 + canto;
+        const QRect este(QPoint(cerca, -canto), QPoint(lejos, canto));
+        const QRect oeste(QPoint(-lejos, -canto), QPoint(-cerca, canto));
+        for (const QRect& r : {este, oeste})
+            for (const QRect& brazo : {r, QRect(r.y(), r.x(), r.height(), r.width())})
+                p.fillRect(brazo.translated(medio), canto ? Qt::black : Qt::white);
+    }
+    // On the other side where the window ends.
+    const QSize t = puntero_.size();
+    const QPoint fin = pos() + medio + QPoint(PUNTERO_A + t.width(), PUNTERO_A + t.height());
+    const int x = fin.x() <= parentWidget()->width() ? PUNTERO_A : -PUNTERO_A - t.width();
+    const int y = fin.y() <= parentWidget()->height() ? PUNTERO_A : -PUNTERO_A - t.height();
+    if (!puntero_.isNull()) p.drawPixmap(medio + QPoint(x, y), puntero_);
 }
 
 }  // namespace tessario

@@ -1,6 +1,8 @@
 // Views that show what the game painted or wrote: picture box and label.
 #pragma once
 
+#include <QPixmap>
+
 #include "qt/Vista.h"
 
 namespace tessario {
@@ -25,6 +27,7 @@ protected:
 private:
     static constexpr int NINGUNA = -1;
     i32 MiraCaras();  // returns the area marked
+    void MiraCruz();
     int CaraEn(QPointF p) const;
     void Pon(int& cual, int cara);
     void Repinta(int cara);
@@ -34,6 +37,7 @@ private:
     std::vector<Cara> caras_, nuevas_;  // as shown; as asked for last
     int bajo_ = NINGUNA;                // the part under the pointer
     int hundida_ = NINGUNA;             // the part that is pressed
+    bool conCruz_ = false;              // the keyboard points
     long long pintados_ = 0;
 };
 
@@ -54,6 +58,22 @@ private:
     bool transparente_ = true, centrada_ = false;
     std::vector<Renglon> renglones_;
     i32 anchoCortado_ = -1, altoCortado_ = -1;
+};
+
+// The cross that the keyboard points with: white with a black edge, so that it stands out from any
+// ground, and beside it the pointer of what it lies over.
+class VistaCruz : public Vista {
+public:
+    VistaCruz(Cruz& c, MarcoDeVistas& v, QWidget* padre);
+
+protected:
+    i32 SincronizaPropio() override;
+    void paintEvent(QPaintEvent* e) override;
+
+private:
+    QPixmap Puntero() const;
+    Cruz& cruz_;
+    QPixmap puntero_;  // as it is drawn
 };
 
 // Shows the rectangles of `e` from the surface.

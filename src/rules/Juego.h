@@ -79,6 +79,9 @@ struct Juego {
     // Hover over a piece whose box holds the pointer: PiezaActual and CursorDeseado; true ends the
     // walk down the stack. Null: the piece's own shape is tested.
     bool (*CursorDePieza)(i16 piece) = nullptr;
+    // The piece that goes north, east, south or west (1 to 4) when it is pressed; 0 none. Null:
+    // pieces are dragged.
+    i16 (*PiezaQueVa)(i16 lado) = nullptr;
     // The press on PiezaActual where pieces are not dragged.
     void (*PulsaPieza)() = [] {};
     // PiezaActual came to lie anew by a turn: what lies on others moves off them.

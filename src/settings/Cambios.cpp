@@ -29,7 +29,6 @@ namespace {
 
 constexpr i16 TECLA_ESCAPE = 27, TECLA_AYUDA = 112, TECLA_PEGAR = 'V';
 constexpr i16 TECLA_IZQUIERDA = 37, TECLA_ARRIBA = 38, TECLA_DERECHA = 39, TECLA_ABAJO = 40;
-constexpr i16 CON_CONTROL = 2;
 constexpr i32 FORMAS = 8, FORMAS_POR_FILA = 4;
 
 // A step in a grid for an arrow key; none for another key.

@@ -177,6 +177,7 @@ const Juego JUEGO_DESLIZANTES = {
     .Mascara = MascaraDeslizante,
     .OrdenDePintado = OrdenDePintado,
     .CursorDePieza = CursorDeslizante,
+    .PiezaQueVa = DeslizanteQueVa,
     .PulsaPieza = PulsaDeslizante,
     .HayMuestra = ConImagen,
     .ColocaMuestra = ColocaMuestra,

@@ -77,6 +77,16 @@ bool CursorDeslizante(i16 piece) {
     return true;
 }
 
+i16 DeslizanteQueVa(i16 lado) {
+    BuscaVecinos();
+    for (i16 i = 1; i <= Gbl.NumVecinos; ++i) {
+        const i16 piece = Gbl.VecinosHueco[i];
+        LadoDelHueco(piece);
+        if (Gbl.LadoHueco == lado) return piece;
+    }
+    return 0;
+}
+
 void PulsaDeslizante() {
     if (Gbl.PiezaActual == 0 || Gbl.CursorDeseado == cursor::PROHIBIDO) return;
     CambiaCrono(CRONO_MARCHA);

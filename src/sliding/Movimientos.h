@@ -9,6 +9,8 @@ namespace tessario {
 // Hover of game 22 for a piece whose box holds the pointer: PiezaActual and CursorDeseado. True
 // ends the walk.
 bool CursorDeslizante(i16 piece);
+// The piece that goes into the hole on this way: 1 north, 2 east, 3 south, 4 west; 0 none.
+i16 DeslizanteQueVa(i16 lado);
 // The press on PiezaActual: the complete move into the hole. The release closes and logs it.
 void PulsaDeslizante();
 // Shuffle by real moves, without its frame (busy cursor and so on, BarajaPiezas).

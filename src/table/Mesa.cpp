@@ -14,6 +14,7 @@
 #include "rules/Catalogo.h"
 #include "session/CopiaSeguridad.h"
 #include "session/Traidos.h"
+#include "table/CruzTeclado.h"
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
@@ -24,8 +25,8 @@ namespace tessario {
 namespace {
 
 constexpr i32 INTERVALO_TIC = 1000;  // ms
-constexpr i16 TECLA_MENU = 93, TECLA_F10 = 121, SHIFT_SOLO = 1;
-constexpr i16 TECLA_PEGAR = 'V', CON_CONTROL = 2;
+constexpr i16 TECLA_MENU = 93, TECLA_F10 = 121;
+constexpr i16 TECLA_PEGAR = 'V';
 
 // The work that a request waited for may have left it forbidden; a piece that came into hand since
 // is dropped first.
@@ -148,6 +149,7 @@ void OrdenaTab() {
          {&Pic_Cronome, &Pic_Grabadora, &Pic_SugeMasAyuda, &Pic_SugeBotCerrar, &Pic_SelOpciones}) {
         c->TabStop = true;
         Mesa.OrdenTab.push_back(c);
+        c->GotFocus = Aviso(SueltaCruz);
     }
     Pic_SugeMasAyuda.NombreAccesible = "Más ayuda";
     Pic_SugeBotCerrar.NombreAccesible = "Cerrar la ventana de información";
@@ -156,7 +158,10 @@ void OrdenaTab() {
 
 void ConectaTabla() {
     Pic_Trabajo.MouseDown = EntradaDeTabla(Suceso::Aprieta);
-    Pic_Trabajo.MouseMove = EntradaDeTabla(Suceso::Mueve);
+    Pic_Trabajo.MouseMove = [](i16 Button, i16 /*Shift*/, float X, float Y) {
+        AnotaPuntero(X, Y);
+        Recibe({Suceso::Mueve, Button, X, Y});
+    };
     Pic_Trabajo.MouseUp = EntradaDeTabla(Suceso::Suelta);
     Pic_Trabajo.Click = [] { Recibe({Suceso::Click}); };
     Pic_Trabajo.MouseWheel = RuedaDeTabla;
@@ -190,7 +195,12 @@ void ConectaBoton(i16 i) {
         caras.push_back({boton.Limites(), OrdenProhibida(i), OrdenEnMarcha(i)});
     };
     // Reached by keyboard, a button learns of its state without a move of the mouse.
-    boton.GotFocus = [i] { Atiende([&] { Pic_Boton_MouseMove(i, 0, 0, 0, 0); }); };
+    boton.GotFocus = [i] {
+        Atiende([&] {
+            SueltaCruz();
+            Pic_Boton_MouseMove(i, 0, 0, 0, 0);
+        });
+    };
 }
 
 void ConectaTira() {
@@ -224,8 +234,9 @@ void ConectaVentana() {
     };
     Mesa.KeyPress = [](i16 KeyAscii) { Recibe({Suceso::Tecla, KeyAscii}); };
     Mesa.KeyDown = [](i16 KeyCode, i16 Shift) {
-        const bool menu = KeyCode == TECLA_MENU || (KeyCode == TECLA_F10 && Shift == SHIFT_SOLO);
+        const bool menu = KeyCode == TECLA_MENU || (KeyCode == TECLA_F10 && Shift == CON_MAYUS);
         if (menu && !DentroDeTarea()) Atiende(AbreOpcionesConTeclado);
+        Atiende([&] { TeclaDeCruz(KeyCode, Shift); });
         if (KeyCode == TECLA_PEGAR && (Shift & CON_CONTROL) && !DentroDeTarea())
             Atiende([] { LlevaAPersonal(TomaPegado); });
     };
@@ -258,6 +269,7 @@ void ConectaMesa() {
     ConectaTabla();
     ConectaTira();
     ConectaVentana();
+    ConectaCruz();
 }
 
 }  // namespace tessario

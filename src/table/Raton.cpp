@@ -150,7 +150,7 @@ bool EnMano() {
 
 // The piece in hand turns as one on the table does: no drop, no test of its place, no end of the
 // game. The way so far, the turn and the way from here are three moves of the log. The drag goes on
-// if the left button is still held, or if its release waits its turn.
+// if the left button or the cross still holds it, or if the button's release waits its turn.
 template <class F>
 void GiraEnMano(F&& gira) {
     if (!Gbl.PermitirGiro || JuegoEnCurso().Giros == 1) return;
@@ -161,7 +161,7 @@ void GiraEnMano(F&& gira) {
     ConRegistroDeGiro(gira);
     Gbl.XOrigen = Gbl.Piezas[piece].X;
     Gbl.YOrigen = Gbl.Piezas[piece].Y;
-    const bool sujeta = Sistema().BotonesApretados() & BOTON_IZQUIERDO;
+    const bool sujeta = Gbl.CruzSujeta || (Sistema().BotonesApretados() & BOTON_IZQUIERDO);
     if (sujeta || EsperaSuelta(BOTON_IZQUIERDO)) TomaPieza(Gbl.XRaton, Gbl.YRaton, piece);
 }
 
@@ -347,6 +347,7 @@ void Pic_Trabajo_MouseUp(i16 Button, i16 /*Shift*/, float X, float Y) {
     if (Gbl.ArrastrandoPieza && !Gbl.ResolviendoPuzzle) Sigue([] { SueltaPieza(); });
     Gbl.ArrastrandoPieza = false;
     Gbl.SoltandoPieza = false;
+    Gbl.CruzSujeta = false;
     Pic_Trabajo_MouseMove(0, 0, X, Y);
 }
 

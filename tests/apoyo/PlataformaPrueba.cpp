@@ -212,30 +212,15 @@ bool PlataformaPrueba::PortapapelesImagen(Mapa& destino) {
 }
 
 Punto PunteroPrueba::Origen(const Control& c) {
-    Punto p{c.Left, c.Top};
-    for (const Control* k = c.Contenedor; k; k = k->Contenedor) {
-        p.x += k->Left;
-        p.y += k->Top;
-    }
-    return p;
+    return OrigenDe(c);
 }
 
 Control* PunteroPrueba::Debajo() const {
-    // The last one in the list that is visible with all its containers and holds the point. A
-    // control in a container stands after it in the list.
-    for (auto i = ventana_.Controles.rbegin(); i != ventana_.Controles.rend(); ++i) {
-        Control* c = *i;
-        bool visible = true;
-        for (const Control* k = c; k && visible; k = k->Contenedor) {
-            const Punto o = Origen(*k);
-            visible = k->Visible && RectDe(o.x, o.y, k->Width(), k->Height()).Contiene(x_, y_);
-        }
-        if (visible) return c;
-    }
-    return nullptr;
+    return ControlEn(ventana_, x_, y_);
 }
 
 void PunteroPrueba::Mueve(i32 x, i32 y) {
+    if (ventana_.ApuntaElTeclado() && (x != x_ || y != y_)) ventana_.VuelveElRaton();
     x_ = x;
     y_ = y;
     Control* c = apretado_ ? preso_ : Debajo();
@@ -247,6 +232,7 @@ void PunteroPrueba::Mueve(i32 x, i32 y) {
 }
 
 void PunteroPrueba::Aprieta(i16 boton) {
+    if (ventana_.ApuntaElTeclado()) ventana_.VuelveElRaton();
     if (!apretado_) Mueve(x_, y_);  // as on a real screen, a press always follows a move
     preso_ = Debajo();
     apretado_ = true;

@@ -179,13 +179,136 @@ TEST_F(EntradaQt, TabOrderIsTheWindowsOwn) {
     }
     b.Mueve(100, 0);
     c.Mueve(200, 0);
-    ventana.OrdenTab = {&c, &caja, &b};
+    ventana.OrdenTab = {&b, &caja, &c};
     Abre(ventana, {&caja, &b, &c});
-    DeControl(ventana, c).setFocus(Qt::TabFocusReason);
-    Tecla(ventana, Qt::Key_Tab);
-    EXPECT_TRUE(DeControl(ventana, caja).hasFocus());
-    Tecla(ventana, Qt::Key_Tab);
-    EXPECT_TRUE(DeControl(ventana, b).hasFocus());
+    for (const Cuadro* k : {&b, &caja, &c, &b}) {
+        Tecla(ventana, Qt::Key_Tab);
+        EXPECT_TRUE(DeControl(ventana, *k).hasFocus());
+    }
+}
+
+TEST_F(EntradaQt, HeldKeyComesInMarked) {
+    std::vector<std::pair<i16, i16>> teclas;
+    ventana.KeyDown = [&](i16 tecla, i16 con) { teclas.emplace_back(tecla, con); };
+    Abre(ventana, {});
+    for (const bool repetida : {false, true}) {
+        QKeyEvent e(QEvent::KeyPress, Qt::Key_Left, Qt::ControlModifier, QString(), repetida);
+        QApplication::sendEvent(P().VistaDe(ventana), &e);
+    }
+    EXPECT_EQ(teclas, (std::vector<std::pair<i16, i16>>{{37, CON_CONTROL},
+                                                        {37, i16{CON_CONTROL + TECLA_REPETIDA}}}));
+}
+
+// ---------------------------------------------------------------- the keyboard points
+class TecladoQt : public EntradaQt {
+protected:
+    void SetUp() override {
+        EntradaQt::SetUp();
+        ventana.Teclado = &cruz;
+        ventana.VuelveElRaton = [this] {
+            diario += "vuelve ";
+            cruz.Visible = false;
+        };
+        Abre(ventana, {&caja, &cruz});
+    }
+    // The mouse at rest, and the cross shown somewhere.
+    void Apunta(int ratonX, int ratonY, i32 x, i32 y) {
+        Mueve(ventana, ratonX, ratonY);
+        Eventos();
+        diario.clear();
+        cruz.Apunta(x, y);
+        cruz.Visible = true;
+        P().Presenta();
+        Eventos();
+    }
+    Cruz cruz;
+};
+
+TEST_F(TecladoQt, MouseIsNotSeenAndNotAskedUntilItMoves) {
+    Apunta(40, 50, 200, 150);
+    EXPECT_EQ(DeControl(ventana, caja).cursor().shape(), Qt::BlankCursor);
+    EXPECT_EQ(P().VistaDe(ventana)->cursor().shape(), Qt::BlankCursor);
+    P().MiraBajoElPuntero(true);
+    Eventos();
+    EXPECT_EQ(diario, "") << "what lies under it is not told";
+    // Told of again where it stands.
+    const QPointF sitio = DeControl(ventana, caja).mapToGlobal(QPointF(20, 20));
+    QMouseEvent quieto(QEvent::MouseMove, {20, 20}, QCursor::pos(), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&DeControl(ventana, caja), &quieto);
+    EXPECT_EQ(diario.find("vuelve"), std::string::npos) << diario;
+    diario.clear();
+    QMouseEvent movido(QEvent::MouseMove, {21, 20}, sitio + QPointF(1, 0), Qt::NoButton, {}, {});
+    QApplication::sendEvent(&DeControl(ventana, caja), &movido);
+    EXPECT_EQ(diario, "vuelve mueve0(21,20) ");
+    EXPECT_EQ(DeControl(ventana, caja).cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(TecladoQt, MouseThatPressesOrTurnsItsWheelIsBackBeforeWhatItDoes) {
+    Apunta(40, 50, 40, 50);
+    Pulsa(ventana, 40, 50);
+    EXPECT_EQ(diario.find("vuelve mueve0(20,20) abajo1(20,20) arriba1(20,20) "), 0U) << diario;
+    caja.MouseWheel = [this](i16, float, float) {
+        diario += "rueda ";
+        return true;
+    };
+    Apunta(40, 50, 200, 150);
+    Rueda(DeControl(ventana, caja), 120);
+    EXPECT_EQ(diario.find("vuelve "), 0U) << diario;
+    EXPECT_NE(diario.find("rueda "), std::string::npos);
+    Apunta(290, 10, 200, 150);
+    Mueve(ventana, 280, 10);
+    Eventos();
+    EXPECT_EQ(diario.find("vuelve "), 0U) << "over the bare window too";
+}
+
+TEST_F(TecladoQt, CrossIsWhiteWithABlackEdgeAndLeavesItsPointFree) {
+    constexpr QRgb BLANCO = 0xFFFFFF, NEGRO = 0x000000, FONDO = 0x808080;
+    ventana.PonBackColor(0x808080);
+    Apunta(290, 190, 150, 130);
+    for (const int d : {-1, 1}) {
+        for (const int r : {4, 14}) {
+            EXPECT_EQ(Punto(ventana, 150 + d * r, 130), BLANCO) << d << " " << r;
+            EXPECT_EQ(Punto(ventana, 150, 130 + d * r), BLANCO) << d << " " << r;
+        }
+        for (const int r : {3, 15}) {
+            EXPECT_EQ(Punto(ventana, 150 + d * r, 130), NEGRO) << d << " " << r;
+            EXPECT_EQ(Punto(ventana, 150, 130 + d * r), NEGRO) << d << " " << r;
+        }
+        for (const int s : {-1, 1}) {
+            EXPECT_EQ(Punto(ventana, 150 + d * 8, 130 + s), NEGRO) << d << " " << s;
+            EXPECT_EQ(Punto(ventana, 150 + s, 130 + d * 8), NEGRO) << d << " " << s;
+        }
+        EXPECT_EQ(Punto(ventana, 150 + d * 16, 130), FONDO);
+        EXPECT_EQ(Punto(ventana, 150, 130 + d * 2), FONDO);
+    }
+    EXPECT_EQ(Punto(ventana, 150, 130), FONDO);
+    EXPECT_EQ(Punto(ventana, 154, 132), FONDO);
+}
+
+TEST_F(TecladoQt, BesideTheCrossStandsThePointerOfWhatLiesThere) {
+    // The piece of screen beside the point, towards the corner that is asked for.
+    const auto dibujo = [&](int x, int y) {
+        int otros = 0;
+        for (int j = y; j < y + 32; ++j)
+            for (int i = x; i < x + 32; ++i) otros += Punto(ventana, i, j) != 0x808080;
+        return otros;
+    };
+    ventana.PonBackColor(0x808080);
+    Apunta(290, 190, 150, 130);
+    EXPECT_EQ(dibujo(156, 136), 0);
+    cruz.Sobre = &caja;
+    caja.MousePointer = PUNTERO_PROPIO;
+    caja.MouseIcon = "ManoVerde";
+    P().Presenta();
+    const int mano = dibujo(156, 136);
+    EXPECT_GT(mano, 200);
+    caja.MouseIcon = "ManoCerrada";
+    P().Presenta();
+    EXPECT_NE(dibujo(156, 136), mano) << "it follows";
+    // At the window's far corner it stands on the other side.
+    cruz.Apunta(290, 190);
+    P().Presenta();
+    EXPECT_GT(dibujo(290 - 6 - 32, 190 - 6 - 32), 100);
 }
 
 TEST_F(EntradaQt, WhatComesToLightUnderARestingPointerIsTold) {

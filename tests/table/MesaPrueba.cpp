@@ -16,7 +16,8 @@ TEST_F(VentanaMesa, ContainersStandBeforeWhatTheyHold) {
         EXPECT_TRUE(antes) << c->Nombre;
         EXPECT_TRUE(vistos.insert(c).second) << c->Nombre;
     }
-    EXPECT_EQ(vistos.size(), 26U);  // 10 on the window and the table, 12 buttons, 4 instruments
+    EXPECT_EQ(vistos.size(),
+              27U);  // 10 on the window and the table, 12 buttons, 4 instruments, the cross
 }
 
 TEST_F(VentanaMesa, WhatLiesOnTheTableScrollsWithIt) {

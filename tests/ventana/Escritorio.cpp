@@ -248,6 +248,21 @@ void Escritorio::TeclaConControl(const char* nombre) {
     EsperaAtendido();
 }
 
+void Escritorio::Teclas(const char* nombre, int veces, const char* con) {
+    const KeyCode codigo = XKeysymToKeycode(d_, XStringToKeysym(nombre));
+    const KeyCode modifica = con ? XKeysymToKeycode(d_, XStringToKeysym(con)) : KeyCode{0};
+    if (con) XTestFakeKeyEvent(d_, modifica, True, 0);
+    for (int i = 0; i < veces; ++i) {
+        XTestFakeKeyEvent(d_, codigo, True, 0);
+        XTestFakeKeyEvent(d_, codigo, False, 0);
+        XSync(d_, False);
+        Duerme(3);  // a press at the moment of the release before it would be taken for a held key
+    }
+    if (con) XTestFakeKeyEvent(d_, modifica, False, 0);
+    XSync(d_, False);
+    EsperaAtendido();
+}
+
 Foto Escritorio::Mira() {
     Foto f;
     const int pantalla = DefaultScreen(d_);

@@ -48,6 +48,8 @@ public:
     void Arrastra(int x0, int y0, int x1, int y1, int pasos = 8);
     void Tecla(const char* nombre);  // X name of the key: "Return", "v", "Escape", "space"
     void TeclaConControl(const char* nombre);
+    // One key after the other, as fast as they go, and what they do.
+    void Teclas(const char* nombre, int veces, const char* con = nullptr);
     Foto Mira();
     // Is a window of this title on the screen? The table, which fills the screen, does not count.
     bool HayVentana(const std::string& titulo);
