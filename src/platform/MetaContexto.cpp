@@ -138,6 +138,14 @@ void ContextoMeta::PonPaleta(const Objeto& o) {
     if (o && o->Tipo == ObjetoMeta::Clase::Paleta) E.ObjPaleta = o;
 }
 
+void ContextoMeta::CambiaMedida(ObjetoMeta& paleta, std::size_t colores) {
+    constexpr std::size_t COLORES_MAXIMOS = 1024;
+    constexpr long long GASTO_COLOR = 40;  // for its memory: a file may have many palettes
+    const std::size_t n = std::min(colores, COLORES_MAXIMOS);
+    esfuerzo_.Gasta(static_cast<long long>(n) * GASTO_COLOR);
+    paleta.Paleta.resize(n);
+}
+
 Pixel ContextoMeta::Color(ColorMeta c) const {
     constexpr u32 INDICE = 1;
     if (c.Valor >> 24 != INDICE) return PixelDe(c.Valor & 0xFFFFFFU);
@@ -230,6 +238,7 @@ ModosMeta ContextoMeta::Modos() {
     m.Texto = Color(E.Texto);
     m.OrigenBrocha = E.OrigenBrocha;
     m.Recorte = RecorteVivo();
+    m.Caja = cajaViva_;
     return m;
 }
 
@@ -308,16 +317,24 @@ const Region* ContextoMeta::RecorteVivo() {
         if (!r) continue;
         CombinaConTino(vivo_, vivo_, *r, RGN_AND, esfuerzo_);
     }
+    cajaViva_ = vivo_.Caja();
     visto_ = E.Recorte.get();
     vistoMeta_ = E.RecorteMeta.get();
     vivoAlDia_ = true;
     return &vivo_;
 }
 
+// Saved states may keep every clip that there has been: its memory is counted as work.
+void ContextoMeta::PagaCopia(const Region& r) {
+    constexpr long long GASTO_RECTANGULO = 150;
+    esfuerzo_.Gasta(static_cast<long long>(r.Rectangulos().size()) * GASTO_RECTANGULO);
+}
+
 void ContextoMeta::CombinaRecorte(const Region& r, int modo) {
     const Region todo = E.Recorte ? *E.Recorte : Region(limites_);
     auto nuevo = std::make_shared<Region>();
     CombinaConTino(*nuevo, modo == RGN_COPY ? r : todo, r, modo, esfuerzo_);
+    PagaCopia(*nuevo);
     E.Recorte = std::move(nuevo);
     vivoAlDia_ = false;
 }
@@ -361,6 +378,7 @@ void ContextoMeta::RecortaRegion(const Region& r, int modo) {
 void ContextoMeta::DesplazaRecorte(PuntoD d) {
     if (!E.Recorte) return;
     const PuntoD v = AlDispositivo().Vector(d);
+    PagaCopia(*E.Recorte);
     auto nuevo = std::make_shared<Region>(*E.Recorte);
     nuevo->Desplaza(static_cast<i32>(Entera(v.x)), static_cast<i32>(Entera(v.y)));
     E.Recorte = std::move(nuevo);
@@ -369,9 +387,13 @@ void ContextoMeta::DesplazaRecorte(PuntoD d) {
 
 void ContextoMeta::FijaMetaRegion() {
     if (!E.Recorte) return;
-    auto nuevo = std::make_shared<Region>(*E.Recorte);
-    if (E.RecorteMeta) CombinaConTino(*nuevo, *nuevo, *E.RecorteMeta, RGN_AND, esfuerzo_);
-    E.RecorteMeta = std::move(nuevo);
+    if (E.RecorteMeta) {
+        auto nuevo = std::make_shared<Region>();
+        CombinaConTino(*nuevo, *E.Recorte, *E.RecorteMeta, RGN_AND, esfuerzo_);
+        PagaCopia(*nuevo);
+        E.Recorte = std::move(nuevo);
+    }
+    E.RecorteMeta = E.Recorte;
     E.Recorte.reset();
     vivoAlDia_ = false;
 }

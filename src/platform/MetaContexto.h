@@ -133,6 +133,7 @@ public:
 
     Pixel Color(ColorMeta c) const;
     void PonPaleta(const Objeto& o);
+    void CambiaMedida(ObjetoMeta& paleta, std::size_t colores);
 
 private:
     struct CajaFigura {
@@ -154,6 +155,7 @@ private:
     const Region* RecorteVivo();
     BrochaMeta BrochaDe(const ObjetoMeta& o) const;
     PlumaMeta PlumaViva() const;
+    void PagaCopia(const Region& r);
     void CombinaRecorte(const Region& r, int modo);
 
     PintorMetafichero& pintor_;
@@ -167,6 +169,7 @@ private:
     bool ensanchado_ = false;  // the path is a pen's figure, to be filled by winding
     std::size_t puntosCamino_ = 0;
     Region vivo_;
+    Rect cajaViva_;
     const Region *visto_ = nullptr, *vistoMeta_ = nullptr;
     bool vivoAlDia_ = false;
 };

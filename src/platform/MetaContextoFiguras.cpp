@@ -141,8 +141,10 @@ void ContextoMeta::PoliDibujo(std::span<const PuntoD> p, std::span<const u8> cla
     Trazado t;
     Contorno c;
     PuntoD inicio = E.Pluma;
+    std::size_t puntos = 0;
     const auto acaba = [&] {
-        if (c.Puntos.size() > 1) t.push_back(c);
+        puntos += c.Puntos.size();
+        if (c.Puntos.size() > 1) t.push_back(std::move(c));
         c = {};
     };
     const std::size_t n = std::min(p.size(), clase.size());
@@ -167,7 +169,7 @@ void ContextoMeta::PoliDibujo(std::span<const PuntoD> p, std::span<const u8> cla
         } else {
             break;
         }
-        Limita(c.Puntos.size());
+        Limita(puntos + c.Puntos.size());
         E.Pluma = p[ultimo];
         if (clase[ultimo] & CIERRA) {
             c.Cerrado = true;
@@ -368,6 +370,7 @@ void ContextoMeta::PintaCamino(bool rellena, bool traza) {
     Trazado t;
     t.swap(camino_);
     puntosCamino_ = 0;
+    if (t.empty()) return;
     // What is filled is closed; what is filled and drawn is drawn closed.
     if (rellena)
         for (Contorno& c : t) c.Cerrado = true;

@@ -262,7 +262,7 @@ bool LectorEmf::Objetos(u32 tipo, const Registro& r) {
             return true;
         case 51:
             if (const Objeto o = Busca(r.U32(8)); o && o->Tipo == ObjetoMeta::Clase::Paleta)
-                o->Paleta.resize(std::min<std::size_t>(r.U32(12), 1024));
+                c_.CambiaMedida(*o, r.U32(12));
             return true;
         case 82:
             Fuente(r);

@@ -207,7 +207,7 @@ void LectorWmf::Paleta(const Registro& r) {
     auto o = std::make_shared<ObjetoMeta>();
     o->Tipo = ObjetoMeta::Clase::Paleta;
     const std::size_t n = r.U16(2);
-    if (n * 4 > r.Largo()) {
+    if (4 + n * 4 > r.Largo()) {
         Pon(nullptr);
         return;
     }
@@ -269,7 +269,7 @@ bool LectorWmf::Objetos(u32 funcion, const Registro& r) {
             CambiaPaleta(r);
             return true;
         case 0x0139:
-            c_.E.ObjPaleta->Paleta.resize(std::min<std::size_t>(r.U16(0), 1024));
+            c_.CambiaMedida(*c_.E.ObjPaleta, r.U16(0));
             return true;
         case 0x0234:
             c_.PonPaleta(Busca(r.U16(0)));

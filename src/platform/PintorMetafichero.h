@@ -78,6 +78,7 @@ struct ModosMeta {
     Pixel Fondo = 0xFFFFFF, Texto = 0;
     Punto OrigenBrocha;
     const Region* Recorte = nullptr;
+    Rect Caja;  // around Recorte
 };
 
 // A picture copied, as raster operation 3 combines source, brush and what is there.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <limits>
 
@@ -46,6 +47,12 @@ struct Lado {
     double En(i32 fila) const { return x + (fila - y) * pendiente; }
 };
 
+// Work for so many things that each cost something and are put in order.
+long long CosteDeOrdenar(std::size_t n, long long cadaUna) {
+    constexpr long long GASTO_NIVEL = 6;
+    return static_cast<long long>(n) * (cadaUna + GASTO_NIVEL * std::bit_width(n));
+}
+
 i32 Techo(double v, i32 menos, i32 mas) {
     const double t = std::ceil(v - APENAS);
     if (t <= menos) return menos;
@@ -85,7 +92,7 @@ void PintorRaster::Barre(const Trazado& t, bool alterno, const Rect& caja, const
         for (std::size_t i = 0; i < n; ++i)
             PonLado(c.Puntos[i], c.Puntos[i + 1 < n ? i + 1 : 0], caja, lados);
     }
-    esfuerzo_->Gasta(static_cast<long long>(lados.size()) * 40);
+    esfuerzo_->Gasta(CosteDeOrdenar(lados.size(), 40));
     std::sort(lados.begin(), lados.end(),
               [](const Lado& a, const Lado& b) { return a.arr < b.arr; });
     std::vector<const Lado*> vivos;
@@ -100,7 +107,7 @@ void PintorRaster::Barre(const Trazado& t, bool alterno, const Rect& caja, const
             y = lados[siguiente].arr - 1;
             continue;
         }
-        esfuerzo_->Gasta(static_cast<long long>(vivos.size()) * 12);
+        esfuerzo_->Gasta(CosteDeOrdenar(vivos.size(), 12));
         cruces.clear();
         for (const Lado* l : vivos) cruces.emplace_back(l->En(y), l->sentido);
         std::sort(cruces.begin(), cruces.end());
@@ -172,7 +179,7 @@ void PintorRaster::Pinta(i32 y, i32 izq, i32 der, const BrochaMeta& b, const Mod
 void PintorRaster::Rellena(const Trazado& t, bool alterno, const BrochaMeta& b,
                            const ModosMeta& m) {
     if (b.Tipo == BrochaMeta::Clase::Nula) return;
-    Barre(t, alterno, m.Recorte->Caja(), [&](i32 y, i32 izq, i32 der) {
+    Barre(t, alterno, m.Caja, [&](i32 y, i32 izq, i32 der) {
         Recorta(y, izq, der, m, [&](i32 fila, i32 a, i32 z) { Pinta(fila, a, z, b, m); });
     });
 }
@@ -203,7 +210,7 @@ void PintorRaster::PonPunto(PuntoD p, Pixel color, const ModosMeta& m) {
 // Rows of the same figure, one seed for each run that is found above or below another.
 void PintorRaster::Inunda(PuntoD p, Pixel color, bool hastaBorde, const BrochaMeta& b,
                           const ModosMeta& m) {
-    const auto [izq, arr, der, aba] = m.Recorte->Caja();
+    const auto [izq, arr, der, aba] = m.Caja;
     if (p.x < izq || p.y < arr || p.x >= der || p.y >= aba) return;
     const auto ancho = static_cast<std::size_t>(m_.Ancho);
     esfuerzo_->Gasta(static_cast<long long>(ancho) * m_.Alto);
@@ -245,7 +252,7 @@ void PintorRaster::Degrada(const PuntoD (&p)[3], const Pixel (&color)[3], const 
     Matriz vuelve;
     if (!plano.Inversa(vuelve)) return;
     const Trazado t{{{p[0], p[1], p[2]}, true}};
-    Barre(t, true, m.Recorte->Caja(), [&](i32 fila, i32 desde, i32 hasta) {
+    Barre(t, true, m.Caja, [&](i32 fila, i32 desde, i32 hasta) {
         Recorta(fila, desde, hasta, m, [&](i32 y, i32 izq, i32 der) {
             esfuerzo_->Gasta((der - izq) * 10LL);
             for (i32 x = izq; x < der; ++x) {
@@ -285,13 +292,23 @@ void PintorRaster::Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios,
     }
 }
 
-// A font that has not been used before has to be found and opened.
-void PintorRaster::PagaFuente(const FuenteMeta& f, double cuerpo) {
-    constexpr long long GASTO_FUENTE = 3'000'000;
-    constexpr std::size_t FUENTES_RECORDADAS = 64;
-    if (!fuentes_.insert({f.Cara, f.Peso, f.Cursiva, std::lround(cuerpo)}).second) return;
-    esfuerzo_->Gasta(GASTO_FUENTE);
+// A font that has not been used before has to be found and opened, and of each of its letters the
+// outline has to be asked for once.
+void PintorRaster::PagaFuente(const TextoMeta& t, double cuerpo) {
+    constexpr long long GASTO_FUENTE = 3'000'000, GASTO_LETRA = 30'000;
+    constexpr std::size_t FUENTES_RECORDADAS = 64, LETRAS = 65536;
+    const FuenteMeta& f = t.Fuente;
     if (fuentes_.size() > FUENTES_RECORDADAS) fuentes_.clear();
+    std::vector<bool>& vistas = fuentes_[{f.Cara, f.Peso, f.Cursiva, std::lround(cuerpo)}];
+    if (vistas.empty()) {
+        esfuerzo_->Gasta(GASTO_FUENTE);
+        vistas.resize(LETRAS);
+    }
+    for (const char16_t letra : t.Letras) {
+        if (vistas[letra]) continue;
+        esfuerzo_->Gasta(GASTO_LETRA);
+        vistas[letra] = true;
+    }
 }
 
 PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
@@ -306,7 +323,7 @@ PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
     const double alto = t.Fuente.Alto == 0 ? USUAL : t.Fuente.Alto;
     const double cuerpo = std::min(alto < 0 ? -alto : alto / celda, 4000.0);
     if (cuerpo < 0.5) return {};
-    PagaFuente(t.Fuente, cuerpo);
+    PagaFuente(t, cuerpo);
     const double asc = std::round(cuerpo * med.Ascenso), desc = std::round(cuerpo * med.Descenso);
     const double estrecha =
         t.Fuente.Ancho > 0 ? std::min(t.Fuente.Ancho / (med.Media * cuerpo), 100.0) : 1;
@@ -319,6 +336,7 @@ PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
     if (t.CajaRecorta) {
         CombinaConTino(recorte, RegionDe(t.Rectangulo, true), *m.Recorte, RGN_AND, *esfuerzo_);
         m.Recorte = &recorte;
+        m.Caja = recorte.Caja();
     }
     if (t.Letras.empty()) return {};
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <functional>
-#include <set>
+#include <map>
 #include <tuple>
 
 #include "platform/PintorMetafichero.h"
@@ -68,10 +68,11 @@ private:
     void Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios, double cuerpo,
                 double estrecha, const Matriz& forma, const ModosMeta& m);
 
-    void PagaFuente(const FuenteMeta& f, double cuerpo);
+    void PagaFuente(const TextoMeta& t, double cuerpo);
 
     LetrasMeta& letras_;
-    std::set<std::tuple<std::u16string, int, bool, long>> fuentes_;
+    // The letters that were asked for, by font and size.
+    std::map<std::tuple<std::u16string, int, bool, long>, std::vector<bool>> fuentes_;
     Mapa m_;
     Esfuerzo* esfuerzo_ = nullptr;
 };

@@ -108,7 +108,7 @@ void PintorRaster::Copia(const CopiaMeta& c, const BrochaMeta& b, const ModosMet
         Rellena(t, true, b, copia);
         return;
     }
-    Barre(t, true, m.Recorte->Caja(), [&](i32 fila, i32 desde, i32 hasta) {
+    Barre(t, true, m.Caja, [&](i32 fila, i32 desde, i32 hasta) {
         Recorta(fila, desde, hasta, m, [&](i32 y, i32 izq, i32 der) {
             esfuerzo_->Gasta(static_cast<long long>((der - izq) *
                                                     (lleva && c.Estira != 3 ? 10 + muestras : 25)));

@@ -200,7 +200,7 @@ void PintorRaster::Linea(Punto a, Punto b, const PlumaMeta& p, const ModosMeta& 
     const long long inicio = fase;
     fase += pasos;
     if (pasos == 0) return;
-    const Rect caja = m.Recorte->Caja();
+    const Rect caja = m.Caja;
     // The steps of which a pixel can lie in the box, along the longer axis.
     const bool ancha = std::abs(dx) >= std::abs(dy);
     const long long principal = ancha ? dx : dy, desde = ancha ? a.x : a.y;
@@ -208,7 +208,8 @@ void PintorRaster::Linea(Punto a, Punto b, const PlumaMeta& p, const ModosMeta& 
     const long long i0 = std::max(0LL, principal > 0 ? menos - desde : desde - mas);
     const long long i1 = std::min(pasos - 1, principal > 0 ? mas - desde : desde - menos);
     if (i0 > i1) return;
-    esfuerzo_->Gasta((i1 - i0 + 1) * (p.Trazos.empty() ? 12 : 40));
+    const auto trazos = static_cast<long long>(p.Trazos.size());
+    esfuerzo_->Gasta((i1 - i0 + 1) * (trazos == 0 ? 12 : 40 + 4 * trazos));
     const bool simple = m.Recorte->Rectangulos().size() == 1;
     for (long long i = i0; i <= i1; ++i) {
         // The shorter axis, rounded to the nearest.
@@ -263,7 +264,7 @@ void PintorRaster::Figura(const Trazado& t, bool alterno, const BrochaMeta& b, c
         if (!p.Nula) Traza(t, p, m);
         return;
     }
-    const Rect caja = m.Recorte->Caja();
+    const Rect caja = m.Caja;
     if (caja.Vacio()) return;
     double arr = caja.Aba, aba = caja.Arr;
     for (const Contorno& c : t)

@@ -217,8 +217,9 @@ std::span<const Rect> Region::Banda(i32 y) const {
 
 bool Region::Contiene(i32 x, i32 y) const {
     const auto banda = Banda(y);
-    return std::any_of(banda.begin(), banda.end(),
-                       [x](const Rect& r) { return x >= r.Izq && x < r.Der; });
+    const auto r = std::upper_bound(banda.begin(), banda.end(), x,
+                                    [](i32 v, const Rect& q) { return v < q.Der; });
+    return r != banda.end() && r->Izq <= x;
 }
 
 i32 Region::Area() const {
