@@ -148,6 +148,10 @@ std::string_view NombreModelo(std::string_view registro) {
     return registro.substr(0, LARGO_NOMBRE);
 }
 
+std::string_view PiezasModelo(std::string_view registro) {
+    return registro.substr(COLUMNA_PIEZAS, FIN_PIEZAS - COLUMNA_PIEZAS);
+}
+
 bool ModeloLibre(std::string_view registro) {
     return NombreModelo(registro).find_first_not_of(std::string_view(" \0", 2)) ==
            std::string_view::npos;

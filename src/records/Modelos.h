@@ -13,6 +13,8 @@ namespace tessario {
 inline constexpr std::size_t LARGO_MODELO = 126;
 std::string RegistroModeloLibre();
 std::string_view NombreModelo(std::string_view registro);
+// How the seven pieces lie, as it is written.
+std::string_view PiezasModelo(std::string_view registro);
 // Free: a name of blanks, or of the zero bytes of a file that was extended without being written.
 bool ModeloLibre(std::string_view registro);
 

@@ -1,6 +1,7 @@
 #include "records/Surtido.h"
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 #include "core/Errores.h"
@@ -28,19 +29,51 @@ bool Contiene(const std::vector<std::string_view>& registros, std::string_view u
     return std::find(registros.begin(), registros.end(), uno) != registros.end();
 }
 
-// The record of this name, or nothing.
-std::string_view DelNombre(const std::vector<std::string_view>& registros, std::string_view uno) {
-    const auto i = std::find_if(registros.begin(), registros.end(), [&](std::string_view r) {
-        return NombreModelo(r) == NombreModelo(uno);
-    });
-    return i == registros.end() ? std::string_view{} : *i;
+// What became of former records: the one that stands for each now.
+using Cambios = std::map<std::string_view, std::string_view>;
+
+bool EsElCambio(const Cambios& cambios, std::string_view registro) {
+    return std::any_of(cambios.begin(), cambios.end(),
+                       [registro](const auto& c) { return c.second == registro; });
 }
 
-// Replaces a record wherever it stands; an old one that is not there has gone by the player's hand.
-void Cambia(std::string& fichero, std::string_view antes, std::string_view ahora) {
-    for (std::size_t i = 0; i + LARGO_MODELO <= fichero.size(); i += LARGO_MODELO)
-        if (std::string_view(fichero).substr(i, LARGO_MODELO) == antes)
-            fichero.replace(i, LARGO_MODELO, ahora);
+// Adds the changes of those that have one thing in common with a former record that has gone. Each
+// former record becomes one present one, and the other way round.
+void Busca(Cambios& cambios, const std::vector<std::string_view>& antes,
+           const std::vector<std::string_view>& ahora,
+           std::string_view (*comun)(std::string_view)) {
+    for (const std::string_view registro : ahora) {
+        if (Contiene(antes, registro) || EsElCambio(cambios, registro)) continue;
+        const auto viejo = std::find_if(antes.begin(), antes.end(), [&](std::string_view r) {
+            return comun(r) == comun(registro) && !Contiene(ahora, r) && !cambios.contains(r);
+        });
+        if (viejo != antes.end()) cambios.emplace(*viejo, registro);
+    }
+}
+
+// The pieces say more than the name: a name may have gone to another figure.
+Cambios BuscaCambios(const std::vector<std::string_view>& antes,
+                     const std::vector<std::string_view>& ahora) {
+    Cambios cambios;
+    Busca(cambios, antes, ahora, PiezasModelo);
+    Busca(cambios, antes, ahora, NombreModelo);
+    return cambios;
+}
+
+// Replaces what the player has in its former state, wherever it stands. One that is not there any
+// more has gone by his hand.
+void Cambia(std::string& fichero, const Cambios& cambios,
+            const std::vector<std::string_view>& suyos) {
+    for (std::size_t i = 0; i + LARGO_MODELO <= fichero.size(); i += LARGO_MODELO) {
+        const auto c = cambios.find(std::string_view(fichero).substr(i, LARGO_MODELO));
+        if (c != cambios.end() && !Contiene(suyos, c->second))
+            fichero.replace(i, LARGO_MODELO, c->second);
+    }
+}
+
+bool ContieneFigura(const std::vector<std::string_view>& registros, std::string_view uno) {
+    return std::any_of(registros.begin(), registros.end(),
+                       [uno](std::string_view r) { return PiezasModelo(r) == PiezasModelo(uno); });
 }
 
 // A last record that was cut short is filled up, so that the next begins at its place.
@@ -53,17 +86,15 @@ void Completa(std::string& fichero) {
 
 std::string MezclaSurtido(std::string_view jugador, std::string_view visto,
                           std::string_view nuevo) {
-    const std::vector<std::string_view> suyos = Ocupados(jugador), antes = Ocupados(visto);
+    const auto suyos = Ocupados(jugador), antes = Ocupados(visto), ahora = Ocupados(nuevo);
+    const Cambios cambios = BuscaCambios(antes, ahora);
     std::string resultado(jugador);
-    for (const std::string_view registro : Ocupados(nuevo)) {
-        if (Contiene(antes, registro) || Contiene(suyos, registro)) continue;
-        const std::string_view viejo = DelNombre(antes, registro);
-        if (viejo.empty()) {
-            Completa(resultado);
-            resultado += registro;
-        } else {
-            Cambia(resultado, viejo, registro);
-        }
+    Cambia(resultado, cambios, suyos);
+    for (const std::string_view registro : ahora) {
+        if (Contiene(antes, registro) || EsElCambio(cambios, registro)) continue;
+        if (ContieneFigura(suyos, registro)) continue;
+        Completa(resultado);
+        resultado += registro;
     }
     return resultado;
 }

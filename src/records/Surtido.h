@@ -10,8 +10,9 @@ namespace tessario {
 // All three are the bytes of model files: the player's, the supply as it was when the two were last
 // brought together (empty: never), and the supply as it is now. The result is the player's file
 // with
-// - models that are new in the supply added at the end,
-// - models that were changed in the supply changed at their number, if the player's is the old one,
+// - models that are new in the supply added at the end, unless he has that figure already,
+// - models that were renamed in the supply (the same pieces in the same places) or mended (the same
+//   name) changed at their number, if the player's is the old one,
 // and nothing else touched: what the player deleted was in the old supply and does not come back,
 // and record numbers, by which games in progress know their model, stay.
 std::string MezclaSurtido(std::string_view jugador, std::string_view visto, std::string_view nuevo);

@@ -10,14 +10,14 @@ namespace tessario {
 namespace {
 
 // A record of this name whose pieces' columns are all the given digit.
-std::string Modelo(const std::string& nombre, char cifra = '1') {
+std::string Modelo(const std::string& nombre, char cifra) {
     std::string r = RegistroModeloLibre();
     r.replace(0, nombre.size(), nombre);
     r.replace(25, 70, std::string(70, cifra));
     return r;
 }
 
-const std::string A = Modelo("Barco"), B = Modelo("Casa"), C = Modelo("Gato");
+const std::string A = Modelo("Barco", '1'), B = Modelo("Casa", '2'), C = Modelo("Gato", '3');
 const std::string PROPIO = Modelo("Mi figura", '7');
 const std::string LIBRE = RegistroModeloLibre();
 
@@ -37,12 +37,12 @@ TEST(Surtido, NumbersStay) {
 }
 
 TEST(Surtido, AMendedOneIsChangedAtItsNumber) {
-    const std::string nueva = Modelo("Casa", '2');
+    const std::string nueva = Modelo("Casa", '8');
     EXPECT_EQ(MezclaSurtido(PROPIO + B + A, A + B, A + nueva), PROPIO + nueva + A);
 }
 
 TEST(Surtido, AMendedOneThatThePlayerDeletedOrChangedIsLeftAlone) {
-    const std::string nueva = Modelo("Casa", '2'), suya = Modelo("Casa", '5');
+    const std::string nueva = Modelo("Casa", '8'), suya = Modelo("Casa", '5');
     EXPECT_EQ(MezclaSurtido(A + LIBRE, A + B, A + nueva), A + LIBRE);
     EXPECT_EQ(MezclaSurtido(A + suya, A + B, A + nueva), A + suya);
 }
@@ -56,6 +56,68 @@ TEST(Surtido, WhatIsThereAlreadyIsNotDoubled) {
 TEST(Surtido, ADeletedNamesakeDoesNotOverwriteTheOther) {
     const std::string otroBarco = Modelo("Barco", '4');
     EXPECT_EQ(MezclaSurtido(A, A + otroBarco, A + otroBarco + C), A + C);
+}
+
+TEST(Surtido, ANewNamesakeOfOneThatStaysIsAdded) {
+    const std::string otroBarco = Modelo("Barco", '4');
+    EXPECT_EQ(MezclaSurtido(A + B, A + B, A + B + otroBarco), A + B + otroBarco);
+    EXPECT_EQ(MezclaSurtido(LIBRE + B, A + B, A + otroBarco + B), LIBRE + B + otroBarco);
+}
+
+TEST(Surtido, ARenamedFigureIsRenamedAtItsNumberAndNotDoubled) {
+    const std::string velero = Modelo("Velero", '1');
+    EXPECT_EQ(MezclaSurtido(PROPIO + A + B, A + B, B + velero + C), PROPIO + velero + B + C);
+}
+
+TEST(Surtido, ARenamedFigureThatThePlayerDeletedOrRenamedIsLeftAlone) {
+    const std::string velero = Modelo("Velero", '1'), suyo = Modelo("La barca de Ana", '1');
+    EXPECT_EQ(MezclaSurtido(LIBRE + B, A + B, velero + B), LIBRE + B);
+    EXPECT_EQ(MezclaSurtido(suyo + B, A + B, velero + B), suyo + B);
+    EXPECT_EQ(MezclaSurtido(B, A + B, velero + B), B);
+}
+
+// Told by one column of the last piece.
+TEST(Surtido, OnlyAllColumnsOfThePiecesMakeTheSameFigure) {
+    std::string velero = Modelo("Velero", '1'), lancha = velero;
+    velero[94] = '2';
+    lancha[25] = '0';
+    EXPECT_EQ(MezclaSurtido(A, A, velero + lancha), A + velero + lancha);
+    std::string gemelo = Modelo("Velero", '1');
+    gemelo[95] = '5';  // behind the pieces
+    EXPECT_EQ(MezclaSurtido(A, A, gemelo), gemelo);
+}
+
+// The figures go by their pieces, whatever becomes of the names.
+TEST(Surtido, NamesThatChangePlaces) {
+    const std::string casa = Modelo("Casa", '1'), barco = Modelo("Barco", '2');
+    EXPECT_EQ(MezclaSurtido(A + B, A + B, casa + barco), casa + barco);
+    EXPECT_EQ(MezclaSurtido(B + A, A + B, casa + barco), barco + casa);
+    EXPECT_EQ(MezclaSurtido(A + LIBRE, A + B, casa + barco), casa + LIBRE);
+}
+
+// The old figure goes on under another name, and its name goes to one that was not there.
+TEST(Surtido, ANameThatGoesToANewFigure) {
+    const std::string velero = Modelo("Velero", '1'), barco = Modelo("Barco", '4');
+    for (const std::string& nuevo : {barco + velero, velero + barco}) {
+        EXPECT_EQ(MezclaSurtido(A + PROPIO, A, nuevo), velero + PROPIO + barco);
+        EXPECT_EQ(MezclaSurtido(LIBRE + PROPIO, A, nuevo), LIBRE + PROPIO + barco);
+    }
+    // One name after the other, a chain: each figure moves one step.
+    const std::string casa = Modelo("Casa", '1'), gato = Modelo("Gato", '2');
+    EXPECT_EQ(MezclaSurtido(A + B, A + B, casa + gato), casa + gato);
+}
+
+// Somebody whose file and supply were never brought together may have figures under a former name.
+TEST(Surtido, AFigureThatThePlayerHasUnderAnotherNameIsNotAdded) {
+    const std::string velero = Modelo("Velero", '1');
+    EXPECT_EQ(MezclaSurtido(A + PROPIO, "", velero + B), A + PROPIO + B);
+    EXPECT_EQ(MezclaSurtido(PROPIO, A, A + Modelo("Torre", '7') + B), PROPIO + B);
+}
+
+// He copied the new one in himself and kept the old one: none of the two changes.
+TEST(Surtido, WhoHasOldAndNewKeepsBoth) {
+    const std::string velero = Modelo("Velero", '1');
+    EXPECT_EQ(MezclaSurtido(A + velero, A, velero), A + velero);
 }
 
 TEST(Surtido, OnesThatLeftTheSupplyStayWithThePlayer) {
@@ -97,6 +159,15 @@ TEST_F(SurtidoEnDisco, TwoUpgradesAndADeletionBetween) {
     EXPECT_EQ(Suyos(), A + LIBRE + PROPIO);
     Llega(A + B + C);
     EXPECT_EQ(Suyos(), A + LIBRE + PROPIO + C);
+}
+
+TEST_F(SurtidoEnDisco, ANameThatChangesTwice) {
+    Llega(A + B);
+    const std::string velero = Modelo("Velero", '1'), yate = Modelo("Yate", '1');
+    Llega(velero + B);
+    EXPECT_EQ(Suyos(), velero + B);
+    Llega(B + yate);
+    EXPECT_EQ(Suyos(), yate + B);
 }
 
 TEST_F(SurtidoEnDisco, AMissingSupplyTouchesNothing) {
