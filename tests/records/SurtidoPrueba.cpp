@@ -107,6 +107,16 @@ TEST(Surtido, ANameThatGoesToANewFigure) {
     EXPECT_EQ(MezclaSurtido(A + B, A + B, casa + gato), casa + gato);
 }
 
+// Each former figure becomes one present one and no more, even among namesakes.
+TEST(Surtido, NamesakesAreEachTakenOnce) {
+    const std::string otroBarco = Modelo("Barco", '4'), velero = Modelo("Velero", '1');
+    const std::string remendado = Modelo("Barco", '5'), otroVelero = Modelo("Velero", '9');
+    EXPECT_EQ(MezclaSurtido(A + otroBarco, A + otroBarco, velero + remendado), velero + remendado);
+    EXPECT_EQ(MezclaSurtido(A + otroVelero, A + otroVelero, velero), velero + otroVelero);
+    EXPECT_EQ(MezclaSurtido(LIBRE + otroVelero, A + otroVelero, velero), LIBRE + otroVelero);
+    EXPECT_EQ(MezclaSurtido(LIBRE + otroBarco, A + otroBarco, A), LIBRE + otroBarco);
+}
+
 // Somebody whose file and supply were never brought together may have figures under a former name.
 TEST(Surtido, AFigureThatThePlayerHasUnderAnotherNameIsNotAdded) {
     const std::string velero = Modelo("Velero", '1');
