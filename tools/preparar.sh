@@ -3,7 +3,7 @@
 # pruebas (to test), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
 
 PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev fonts-liberation2"
-PAQUETES_pruebas="python3 clang-format desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
+PAQUETES_pruebas="python3 clang-format clang-tidy desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
 PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"
 PAQUETES_paquete="debhelper lintian fakeroot dpkg-dev"
 PAQUETES_pantalla="xvfb openbox imagemagick"

@@ -109,7 +109,7 @@ std::string CarpetaDeFotos(const std::string& casa) {
     for (std::string linea; std::getline(lista, linea);) {
         if (!linea.starts_with(clave)) continue;
         std::string ruta = linea.substr(clave.size(), linea.rfind('"') - clave.size());
-        if (ruta.starts_with(hogar)) ruta = casa + ruta.substr(hogar.size());
+        if (ruta.starts_with(hogar)) ruta.replace(0, hogar.size(), casa);
         candidatas.push_back(ruta);
     }
     for (const char* nombre : {"Imágenes", "Pictures"}) candidatas.push_back(casa + nombre);

@@ -112,8 +112,8 @@ bool VistaBuleano::TeclaPropia(const QKeyEvent& e) {
 void VistaBuleano::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF caja(2.5, (height() - INTERRUPTOR_ALTO) / 2 + 0.5, INTERRUPTOR_ANCHO - 1,
-                      INTERRUPTOR_ALTO - 1);
+    const int arriba = (height() - INTERRUPTOR_ALTO) / 2;
+    const QRectF caja(2.5, arriba + 0.5, INTERRUPTOR_ANCHO - 1, INTERRUPTOR_ALTO - 1);
     const QColor fondo = !b_.Enabled ? CREMA_OSCURA : b_.Value ? COBALTO : BARRO;
     p.setPen(QPen(b_.Enabled ? (b_.Value ? COBALTO_OSCURO : TERRACOTA_OSCURA) : APAGADO, 1));
     p.setBrush(Encima() ? fondo.lighter(b_.Value ? 135 : 110) : fondo);

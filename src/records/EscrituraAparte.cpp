@@ -1,13 +1,12 @@
 #include "records/EscrituraAparte.h"
 
 #include <system_error>
-#include <utility>
 
 #include "records/Archivo.h"
 
 namespace tessario {
 
-void EscrituraAparte::Empieza(std::string ruta, std::string bytes) {
+void EscrituraAparte::Empieza(const std::string& ruta, const std::string& bytes) {
     Espera();
     try {
         hilo_ = std::thread([ruta, bytes] { EscribeFichero(ruta, bytes); });

@@ -15,7 +15,7 @@ public:
     EscrituraAparte& operator=(const EscrituraAparte&) = delete;
 
     // Replaces the file with the bytes, after the file that may still be under way.
-    void Empieza(std::string ruta, std::string bytes);
+    void Empieza(const std::string& ruta, const std::string& bytes);
     // Returns when what was begun is on the disk, or has failed.
     void Espera();
 

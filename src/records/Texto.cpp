@@ -192,7 +192,7 @@ std::string BuscaRuta(const std::string& ruta) {
     if (ruta.empty() || ruta.find('\0') != std::string::npos || Existe(ruta)) return ruta;
     // As it stands, then with the bytes of a file that was written under Windows-1252.
     for (const std::string& intento : {SinUnidad(ruta), SinUnidad(De1252(ruta))}) {
-        const std::string hallada = RecorreRuta(intento);
+        std::string hallada = RecorreRuta(intento);
         if (!hallada.empty()) return hallada;
     }
     return ruta;

@@ -52,7 +52,7 @@ bool Existe(const std::string& ruta) {
 // The image file of the record: at its path, or, when it is gone from there, by its name among the
 // program's pictures. The record keeps its own path: the file may come back.
 std::string RutaDeImagen() {
-    const std::string ruta = BuscaRuta(Gbl.RutaImagen);
+    std::string ruta = BuscaRuta(Gbl.RutaImagen);
     if (Existe(ruta)) return ruta;
     const std::string nombre = NombreDeRuta(Gbl.RutaImagen);
     const std::string hallada = BuscaRuta(Gbl.CarpetaImagenes + nombre);

@@ -130,7 +130,7 @@ bool EstaEn(const std::string& carpeta, const std::string& ruta) {
 // Writes the picture into a folder; its name there, or empty when that failed.
 std::string GuardaEn(const std::string& carpeta, const ImagenTraida_& t) {
     bool hecha = false;
-    const std::string nombre = NombreLibre(carpeta, t, hecha);
+    std::string nombre = NombreLibre(carpeta, t, hecha);
     if (hecha || Escribe(carpeta + nombre, *t.Dibujo)) return nombre;
     return {};
 }

@@ -111,6 +111,7 @@ void MuestraOpcionesSelec() {
 
 std::vector<Rect> ZonasOpciones() {
     std::vector<Rect> filas;
+    filas.reserve(static_cast<std::size_t>(OpcionesEnPanel()));
     for (i32 j = 0; j < OpcionesEnPanel(); ++j)
         filas.push_back(
             RectDe(2, j * ALTO_FILA + BORDE - 2, Pic_SelOpciones.Width() - 4, ALTO_FILA));

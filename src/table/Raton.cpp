@@ -353,7 +353,7 @@ void Pic_Trabajo_MouseUp(i16 Button, i16 /*Shift*/, float X, float Y) {
 
 bool Pic_Trabajo_MouseWheel(i16 Pasos, float X, float Y) {
     if (EnMano()) {
-        for (i16 i = 0; i < std::abs(Pasos); ++i) GiraEnMano(PasoDeGiro);
+        for (i32 i = 0; i < std::abs(Pasos); ++i) GiraEnMano(PasoDeGiro);
         return true;
     }
     const bool puede = Gbl.PermitirGiro && JuegoEnCurso().Giros != 1 && !Gbl.PuzzleTerminado &&
@@ -364,7 +364,7 @@ bool Pic_Trabajo_MouseWheel(i16 Pasos, float X, float Y) {
     Gbl.XPulsado = Entero(X);
     Gbl.YPulsado = Entero(Y);
     TerminaColocadas();
-    for (i16 i = 0; i < std::abs(Pasos); ++i) ConRegistroDeGiro(PasoDeGiro);
+    for (i32 i = 0; i < std::abs(Pasos); ++i) ConRegistroDeGiro(PasoDeGiro);
     BuscaPieza(EnteroLargo(X), EnteroLargo(Y));
     return true;
 }

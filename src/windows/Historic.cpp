@@ -119,8 +119,8 @@ void PintaTecla(i16 orden) {
     PintaTeselaLarga(tecla, elegida);
     tecla.Font.Negrita = elegida;
     const std::string titulo = TECLAS[orden - 1].titulo;
-    TextoConSombra(tecla, (lugar::TeclaAncho - tecla.TextWidth(titulo)) / 2, elegida ? 6 : 5,
-                   titulo, true);
+    const i32 margen = (lugar::TeclaAncho - tecla.TextWidth(titulo)) / 2;
+    TextoConSombra(tecla, margen, elegida ? 6 : 5, titulo, true);
 }
 
 void PintaFondo() {

@@ -44,7 +44,8 @@ void EnmarcaVentana(Ventana& v) {
 void TitulaVentana(Ventana& v, i32 x, const std::string& titulo) {
     v.Font = LETRA_TITULO;
     v.ForeColor = COBALTO;
-    v.CurrentX = x - v.TextWidth(titulo) / 2;
+    const i32 mitad = v.TextWidth(titulo) / 2;
+    v.CurrentX = x - mitad;
     v.CurrentY = TITULO_ARRIBA;
     v.Print(titulo);
 }

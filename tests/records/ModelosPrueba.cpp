@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <random>
 
 #include "apoyo/MesaTangram.h"
 #include "core/Errores.h"

@@ -118,7 +118,7 @@ TEST(DeslizantesVentana, DamagedFileGivesTheDefaultBoard) {
     Escritorio e(800, 600);
     Programa programa(e);
     programa.EscribeGlobal(22, 100);
-    programa.EscribeBytes("TsR2233.ini", std::string("\"/\"\r\n\0\xFF\"\r\n\r\n\"999\"\r\n", 20));
+    programa.EscribeBytes("TsR2233.ini", std::string("\"/\"\r\n\0\xFF\"\r\n\r\n\"999\"\r\n", 19));
     ASSERT_TRUE(programa.Arranca());
     e.Mira().Guarda("deslizantes-defecto");
     ASSERT_TRUE(programa.Sale());

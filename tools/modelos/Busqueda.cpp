@@ -6,7 +6,6 @@ namespace tessario::modelos {
 
 namespace {
 
-constexpr std::size_t PIEZAS = 7;
 constexpr i32 PASOS = 80000;  // of one attempt
 constexpr double CALOR = 0.05, FRIO = 0.0008;
 // A gap narrower than this would look like a seam, in sides of the square piece.

@@ -8,7 +8,6 @@ namespace tessario::modelos {
 
 namespace {
 
-constexpr std::size_t PIEZAS = 7;
 constexpr double POCO = 1e-6;
 // Of the pieces by number, in square pieces.
 constexpr std::array<double, PIEZAS + 1> AREAS = {0, 2, 2, 1, 0.5, 0.5, 1, 1};

@@ -8,7 +8,6 @@ namespace tessario::modelos {
 
 namespace {
 
-constexpr i16 PIEZAS = 7;
 constexpr double POCO = 1e-6;
 constexpr double R = 0.70710678118654752;
 constexpr std::array<double, 8> COS = {1, R, 0, -R, -1, -R, 0, R};
@@ -106,11 +105,10 @@ Figurin Haz(i16 pieza, i16 giro, i16 volteo) {
 }
 
 std::array<std::vector<Figurin>, PIEZAS + 1> HazTodos() {
-    constexpr std::array<i16, PIEZAS + 1> PERIODO = {0, 8, 8, 8, 8, 8, 2, 4};
     std::array<std::vector<Figurin>, PIEZAS + 1> todos;
-    for (i16 pieza = 1; pieza <= PIEZAS; ++pieza)
-        for (i16 volteo = 0; volteo <= (pieza == PIEZAS ? 1 : 0); ++volteo)
-            for (i16 giro = 0; giro < PERIODO[static_cast<std::size_t>(pieza)]; ++giro)
+    for (i16 pieza = 1; pieza <= i16{PIEZAS}; ++pieza)
+        for (i16 volteo = 0; volteo < Caras(pieza); ++volteo)
+            for (i16 giro = 0; giro < GIROS[static_cast<std::size_t>(pieza)]; ++giro)
                 todos[static_cast<std::size_t>(pieza)].push_back(Haz(pieza, giro, volteo));
     return todos;
 }

@@ -8,6 +8,13 @@
 
 namespace tessario::modelos {
 
+// In how many of its eight turns each piece looks different; the last one alone has two faces.
+inline constexpr std::size_t PIEZAS = 7;
+inline constexpr std::array<i16, PIEZAS + 1> GIROS = {0, 8, 8, 8, 8, 8, 2, 4};
+constexpr i16 Caras(i16 pieza) {
+    return pieza == PIEZAS ? 2 : 1;
+}
+
 struct Vertice {
     double x = 0, y = 0;
 };

@@ -16,9 +16,7 @@ namespace tessario::modelos {
 
 namespace {
 
-constexpr i16 PIEZAS = 7;
 constexpr i32 HOLGURA = 2;  // pixels by which a corner may miss the lattice
-constexpr std::array<i16, PIEZAS + 1> GIROS = {0, 8, 8, 8, 8, 8, 2, 4};  // that look different
 // Area of a piece in quarters of a u cell; a v cell is half as large.
 constexpr std::array<std::size_t, PIEZAS + 1> CUARTOS = {0, 8, 8, 4, 2, 2, 4, 4};
 
@@ -77,8 +75,8 @@ std::vector<Cuarto> CuartosDe(const std::vector<Vertice>& v) {
 
 std::vector<Postura> PosturasDe(bool girada) {
     std::vector<Postura> posturas;
-    for (i16 pieza = 1; pieza <= PIEZAS; ++pieza)
-        for (i16 volteo = 0; volteo <= (pieza == PIEZAS ? 1 : 0); ++volteo)
+    for (i16 pieza = 1; pieza <= i16{PIEZAS}; ++pieza)
+        for (i16 volteo = 0; volteo < Caras(pieza); ++volteo)
             for (i16 giro = 0; giro < GIROS[static_cast<std::size_t>(pieza)]; ++giro) {
                 const auto v = VerticesEnRejilla(pieza, giro, volteo, girada ? LADO_V : LADO_U);
                 Postura p{pieza, giro, volteo, CuartosDe(v)};

@@ -1,0 +1,146 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy over every C++ source of the tree and prints what it has to say.
+
+    revisa_costumbres.py COMPILE_COMMANDS [CLANG_TIDY]
+
+Most of what a run costs is reading the same library headers again for each source, so sources
+that compile alike are read together, two dozen at a time, as one translation unit. Two
+sources that give the same name to different things do not go together; should a collision escape
+the eye of this script, the compiler sees it and the sources it complains of are read apart. The
+checks are those of .clang-tidy less the path-sensitive ones, which cost ten times the others
+(they are for `clang-tidy FILE` by hand).
+
+The exit code is 1 if there is any finding.
+"""
+import itertools
+import json
+import os
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+from collections import defaultdict
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+RAIZ = Path(__file__).resolve().parent.parent
+MANOJO = 24
+CHECKS = "-clang-analyzer-*,-bugprone-suspicious-include,-bugprone-reserved-identifier"
+# A test keeps copies to compare with later and may be slow.
+EN_PRUEBAS = ",-performance-*,-bugprone-integer-division"
+
+# What a compile command says about how the source is to be read; all else is about code or output.
+OPCION_CON_VALOR = ("-isystem", "-I", "-D")
+
+# Names that a source gives outside any class or function. They stand at the margin, as the settings
+# of .clang-format have it, and nothing else does but braces, labels and directives.
+AL_MARGEN = re.compile(r"^(?!return\b|using namespace|namespace|static_assert|extern|[#/}){\s]).*$", re.M)
+HALLAZGO = re.compile(r"^(?=/\S+:\d+:\d+: (?:warning|error): )", re.M)
+PRUEBA = re.compile(r"^TEST(?:_F|_P)?\((\w+), *(\w+)")
+TIPO = re.compile(r"^(?:template ?<[^>]*> )?(?:struct|class|enum class|enum|using|union) (\w+)")
+FUNCION = re.compile(r"^[^=({]*?[\s&*](\w+)\(")  # a member, Class::Name, is not the source's own
+VALORES = re.compile(r"\b([A-Za-z]\w*)(?:\[\w*\])*(?: =|\{|;|\()")
+
+
+def nombres(texto):
+    """The names that a source gives of its own."""
+    hallados = set()
+    for linea in AL_MARGEN.findall(texto):
+        if caso := PRUEBA.match(linea):
+            hallados.add(caso.groups())
+        elif tipo := TIPO.match(linea):
+            hallados.add(tipo.group(1))
+        elif (funcion := FUNCION.match(linea)) and not linea.startswith(("const", "inline const")):
+            hallados.add(funcion.group(1))
+        else:
+            hallados.update(VALORES.findall(linea))
+    return hallados
+
+
+def opciones(orden):
+    piezas = shlex.split(orden)
+    utiles = []
+    i = 1
+    while i < len(piezas):
+        p = piezas[i]
+        if p in OPCION_CON_VALOR:
+            utiles += [p, piezas[i + 1]]
+            i += 1
+        elif p.startswith(OPCION_CON_VALOR) or p.startswith("-std="):
+            utiles.append(p)
+        i += 1
+    return tuple(utiles)
+
+
+def manojos(compilacion):
+    """Bunches of sources: ([paths], options)."""
+    iguales = defaultdict(list)
+    vistos = set()
+    for entrada in compilacion:
+        fuente = Path(entrada["file"])
+        if fuente in vistos or RAIZ not in fuente.parents or "build" in fuente.relative_to(RAIZ).parts:
+            continue
+        vistos.add(fuente)
+        iguales[opciones(entrada["command"])].append(fuente)
+    for como, fuentes in sorted(iguales.items()):
+        abiertos = []
+        for fuente in sorted(fuentes):
+            suyos = nombres(fuente.read_text(encoding="utf-8"))
+            for ramo, dados in abiertos:
+                if len(ramo) < MANOJO and not dados & suyos:
+                    ramo.append(fuente)
+                    dados |= suyos
+                    break
+            else:
+                abiertos.append(([fuente], suyos))
+        yield from ((ramo, como) for ramo, _ in abiertos)
+
+
+class Revision:
+    """One run over the tree: the bunches still to be read, and what was found."""
+
+    def __init__(self, tidy, carpeta):
+        self.tidy = tidy
+        self.carpeta = Path(carpeta)
+        self.numeros = itertools.count()
+        self.lecturas = 0
+
+    def lee(self, ramo, como):
+        """Findings of clang-tidy, one for each line that names a check, with what follows it."""
+        checks = CHECKS + (EN_PRUEBAS if ramo[0].is_relative_to(RAIZ / "tests") else "")
+        conjunto = self.carpeta / f"manojo{next(self.numeros)}.cpp"
+        conjunto.write_text("".join(f'#include "{f}"\n' for f in ramo), encoding="utf-8")
+        self.lecturas += 1
+        salida = subprocess.run(
+            [self.tidy, "--quiet", f"--config-file={RAIZ / '.clang-tidy'}", f"--checks={checks}",
+             str(conjunto), "--", *como, "-ferror-limit=0"], capture_output=True, text=True)
+        return [h.strip() for h in HALLAZGO.split(salida.stdout) if h.strip()]
+
+    def revisa(self, ramo, como):
+        """The findings of a bunch; sources that do not go with the others are read again apart."""
+        hallazgos = self.lee(ramo, como)
+        errores = [h for h in hallazgos if "[clang-diagnostic-error]" in h]
+        if not errores or len(ramo) == 1:
+            return hallazgos
+        reos = [f for f in ramo if any(e.startswith(f"{f}:") for e in errores)]
+        if not reos or len(reos) == len(ramo):
+            reos = ramo[: len(ramo) // 2]
+        resto = [f for f in ramo if f not in reos]
+        return self.revisa(reos, como) + self.revisa(resto, como)
+
+
+def main():
+    compilacion = json.loads(Path(sys.argv[1]).read_text(encoding="utf-8"))
+    tidy = sys.argv[2] if len(sys.argv) > 2 else "clang-tidy"
+    ramos = list(manojos(compilacion))
+    with tempfile.TemporaryDirectory() as carpeta, ThreadPoolExecutor(os.cpu_count()) as obreros:
+        revision = Revision(tidy, carpeta)
+        hallazgos = {h for de_uno in obreros.map(lambda r: revision.revisa(*r), ramos) for h in de_uno}
+    print("\n".join(sorted(hallazgos)))
+    print(f"{sum(len(r) for r, _ in ramos)} sources in {revision.lecturas} readings: {len(hallazgos)} findings")
+    return 1 if hallazgos else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
