@@ -1,5 +1,7 @@
 #include "core/Ventanas.h"
 
+#include <cstdlib>
+#include <limits>
 #include <memory>
 
 #include "core/Paleta.h"
@@ -20,6 +22,7 @@ namespace {
 
 // Cream ground, cobalt title, terracotta edge and rule.
 using paleta::BLANCO, paleta::GRIS, paleta::CREMA, paleta::COBALTO, paleta::TERRACOTA;
+constexpr i32 HOLGURA = 12;  // from a message to what it leaves in view, pixels
 constexpr i16 PAUSA_CARETA = 1500;
 constexpr i16 VELOCIDAD_INICIAL = 50;
 
@@ -61,6 +64,28 @@ Punto Pantalla() {
 void Centra(Ventana& v, Punto pantalla) {
     v.Left = (pantalla.x - v.Width()) / 2;
     v.Top = (pantalla.y - v.Height()) / 2;
+}
+
+// Moves a window off Gbl.LibreDeMensajes, the shortest way that keeps it on the screen. It stays
+// where there is none.
+void Aparta(Ventana& v, Punto pantalla) {
+    const Rect& libre = Gbl.LibreDeMensajes;
+    const Rect suya = RectDe(v.Left, v.Top, v.Width(), v.Height());
+    if (libre.Vacio() || Interseccion(suya, libre).Vacio()) return;
+    const Punto sitios[] = {{suya.Izq, libre.Aba + HOLGURA},
+                            {libre.Der + HOLGURA, suya.Arr},
+                            {suya.Izq, libre.Arr - HOLGURA - suya.Alto()},
+                            {libre.Izq - HOLGURA - suya.Ancho(), suya.Arr}};
+    i32 menor = std::numeric_limits<i32>::max();
+    for (const Punto& s : sitios) {
+        const i32 lejos = std::abs(s.x - suya.Izq) + std::abs(s.y - suya.Arr);
+        const bool cabe = s.x >= 0 && s.y >= 0 && s.x + suya.Ancho() <= pantalla.x &&
+                          s.y + suya.Alto() <= pantalla.y;
+        if (!cabe || lejos >= menor) continue;
+        menor = lejos;
+        v.Left = s.x;
+        v.Top = s.y;
+    }
 }
 
 void ColocaTextos() {
@@ -105,6 +130,7 @@ void ColocaBotones() {
 void Mensajes_Load() {
     Mensajes.Tamano(lugar::Ancho, Gbl.ModoMensaje * lugar::AltoLinea + lugar::AltoFijo);
     Centra(Mensajes, Pantalla());
+    Aparta(Mensajes, Pantalla());
     ColocaTextos();
     PintaMarco();
     ColocaBotones();

@@ -71,6 +71,18 @@ void Flecha(QPainter& p, QRect r, Rumbo rumbo, const QColor& color) {
     p.restore();
 }
 
+void Tilde(QPainter& p, QRect r, const QColor& color) {
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(color, r.width() * 0.17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF puntos[] = {{0.14, 0.54}, {0.4, 0.8}, {0.86, 0.22}};
+    QPolygonF trazo;
+    for (const QPointF& q : puntos)
+        trazo << QPointF(r.left() + q.x() * r.width(), r.top() + q.y() * r.height());
+    p.drawPolyline(trazo);
+    p.restore();
+}
+
 QPalette Paleta() {
     QPalette q;
     q.setColor(QPalette::Window, CREMA_OSCURA);

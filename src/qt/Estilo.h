@@ -24,6 +24,7 @@ inline const QColor COBALTO_OSCURO{0x10, 0x2B, 0x66};
 inline const QColor COBALTO_CLARO{0x9D, 0xB6, 0xE4};
 inline const QColor ESMALTE{0xFF, 0xFE, 0xFA};
 inline const QColor ORO{0xFF, 0xD2, 0x4A};
+inline const QColor VERDE{0x1B, 0x7A, 0x3A};
 inline const QColor TINTA{0x24, 0x1C, 0x18};
 inline const QColor APAGADO{0x93, 0x8B, 0x82};
 
@@ -35,6 +36,7 @@ void Azulejo(QPainter& p, QRect r, const QColor& color, bool hundido);
 void Hueco(QPainter& p, QRect r);
 enum class Rumbo { Arriba, Abajo, Izquierda, Derecha };
 void Flecha(QPainter& p, QRect r, Rumbo rumbo, const QColor& color);
+void Tilde(QPainter& p, QRect r, const QColor& color);  // a tick
 
 QPalette Paleta();
 

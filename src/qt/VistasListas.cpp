@@ -1,6 +1,10 @@
 #include "qt/VistasListas.h"
 
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyledItemDelegate>
 #include <QTimer>
 
 #include "platform/Ficheros.h"
@@ -12,6 +16,41 @@ namespace {
 
 QString Qs(const std::string& t) {
     return QString::fromStdString(t);
+}
+
+constexpr int LADO_MARCA = 13;
+
+// Rows whose mark, if they have one, stands at their right end.
+class Renglonero : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* o, const QModelIndex& i) const override {
+        QStyledItemDelegate::initStyleOption(o, i);
+        o->decorationPosition = QStyleOptionViewItem::Right;
+        o->decorationAlignment = Qt::AlignCenter;
+    }
+};
+
+// A tick, in a colour for each ground that a row can have.
+QIcon MarcaDeFila(qreal escala) {
+    QIcon icono;
+    const struct {
+        QIcon::Mode modo;
+        const QColor& color;
+    } TINTAS[] = {{QIcon::Normal, estilo::VERDE},
+                  {QIcon::Selected, estilo::ESMALTE},
+                  {QIcon::Disabled, estilo::APAGADO}};
+    for (const auto& t : TINTAS) {
+        QPixmap dibujo(QSizeF(LADO_MARCA * escala, LADO_MARCA * escala).toSize());
+        dibujo.setDevicePixelRatio(escala);
+        dibujo.fill(Qt::transparent);
+        QPainter p(&dibujo);
+        estilo::Tilde(p, {0, 0, LADO_MARCA, LADO_MARCA}, t.color);
+        icono.addPixmap(dibujo, t.modo);
+    }
+    return icono;
 }
 
 }  // namespace
@@ -86,6 +125,8 @@ VistaFilas::VistaFilas(Control& c, MarcoDeVistas& v, QWidget* padre)
     filas_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     filas_->setTextElideMode(Qt::ElideRight);
     filas_->setFont(FuenteQt(Fuente{}));
+    filas_->setIconSize(QSize(LADO_MARCA, LADO_MARCA));
+    filas_->setItemDelegate(new Renglonero(filas_));
     connect(filas_, &QListWidget::currentRowChanged, this, [this](int fila) {
         // Getting the keyboard makes the first row the current one, which chooses nothing.
         if (sincronizando_ || fila < 0 || !filas_->item(fila)->isSelected()) return;
@@ -118,6 +159,18 @@ void VistaFilas::PonFilas(const QStringList& textos) {
     sincronizando_ = false;
 }
 
+void VistaFilas::PonMarcas(const std::vector<int>& filas) {
+    if (filas.empty()) return;
+    const QIcon marca = MarcaDeFila(devicePixelRatioF());
+    const QString resuelto = QStringLiteral("Resuelto");
+    for (const int fila : filas) {
+        QListWidgetItem* const i = filas_->item(fila);
+        i->setIcon(marca);
+        i->setData(Qt::AccessibleDescriptionRole, resuelto);
+        i->setToolTip(resuelto);
+    }
+}
+
 void VistaFilas::Marca(int fila) {
     if (filas_->currentRow() == fila && (fila < 0 || filas_->item(fila)->isSelected())) return;
     sincronizando_ = true;
@@ -128,9 +181,10 @@ void VistaFilas::Marca(int fila) {
 
 i32 VistaLista::SincronizaPropio() {
     const auto iguales = [&] {
-        return std::equal(
-            vistos_.begin(), vistos_.end(), l_.Elementos.begin(), l_.Elementos.end(),
-            [](const std::string& a, const Lista::Elemento& b) { return a == b.Texto; });
+        return std::equal(vistos_.begin(), vistos_.end(), l_.Elementos.begin(), l_.Elementos.end(),
+                          [](const Lista::Elemento& a, const Lista::Elemento& b) {
+                              return a.Texto == b.Texto && a.Marca == b.Marca;
+                          });
     };
     i32 area = 0;
     if (primera_ || !(fuente_ == l_.Font)) {
@@ -139,13 +193,14 @@ i32 VistaLista::SincronizaPropio() {
     }
     if (primera_ || !iguales()) {
         primera_ = false;
-        vistos_.clear();
+        vistos_ = l_.Elementos;
         QStringList textos;
-        for (const Lista::Elemento& e : l_.Elementos) {
-            vistos_.push_back(e.Texto);
-            textos << Qs(e.Texto);
-        }
+        for (const Lista::Elemento& e : vistos_) textos << Qs(e.Texto);
         PonFilas(textos);
+        std::vector<int> marcadas;
+        for (std::size_t i = 0; i < vistos_.size(); ++i)
+            if (vistos_[i].Marca) marcadas.push_back(static_cast<int>(i));
+        PonMarcas(marcadas);
         indice_ = -2;
         area = width() * height();
     }

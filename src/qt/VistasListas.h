@@ -52,6 +52,7 @@ protected:
     virtual void Confirmada(int) {}      // two presses
     void PonFilas(const QStringList& textos);
     void Marca(int fila);
+    void PonMarcas(const std::vector<int>& filas);  // the ticks of these rows
     QListWidget* filas_;
 
 private:
@@ -70,7 +71,7 @@ protected:
 
 private:
     Lista& l_;
-    std::vector<std::string> vistos_;
+    std::vector<Lista::Elemento> vistos_;
     i32 indice_ = -1;
     Fuente fuente_;
     bool primera_ = true;

@@ -10,6 +10,7 @@
 #include "platform/Plataforma.h"
 #include "records/Archivo.h"
 #include "records/Texto.h"
+#include "rules/Juego.h"
 
 namespace tessario {
 
@@ -186,6 +187,18 @@ i16 LeeHistorico() {
     Gbl.Historico[libre] = RegistroHistorico{};
     Gbl.UltimoHistorico = libre - 1;
     return 0;
+}
+
+std::set<std::string> ModelosResueltos() {
+    std::set<std::string> nombres;
+    std::string bytes;
+    if (LeeFichero(FicheroHistorico(), bytes) != 0) return nombres;
+    for (std::string_view resto = bytes; !resto.empty();) {
+        RegistroHistorico r;
+        if (LeeLineaHistorico(TomaLinea(resto), r) && JuegoDe(r.Juego).GuardaModelos)
+            nombres.insert(Trim(r.Modelo));
+    }
+    return nombres;
 }
 
 }  // namespace tessario

@@ -3,6 +3,7 @@
 // are the file system's own bytes. Writer and reader; the window is windows/Historic.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -31,5 +32,7 @@ bool LeeLineaHistorico(std::string_view linea, RegistroHistorico& r);
 // Reads the file: the current game's records into Gbl.Historico in the order of the file, the last
 // one's index into UltimoHistorico. 0, or the error number; there is then no record.
 i16 LeeHistorico();
+// Names of the models that the file holds as solved; none when it cannot be read.
+std::set<std::string> ModelosResueltos();
 
 }  // namespace tessario

@@ -113,6 +113,14 @@ i32 FilaDelModelo() {
     return i == filas.end() ? -1 : static_cast<i32>(i - filas.begin());
 }
 
+// Those that the list shows as solved: the history is read once, when the window opens.
+std::set<std::string> ModelosMarcados() {
+    std::set<std::string> nombres;
+    for (const Lista::Elemento& e : Lis_Modelos.Elementos)
+        if (e.Marca) nombres.insert(Trim(e.Texto));
+    return nombres;
+}
+
 const Lista::Elemento* ModeloElegido() {
     if (Lis_Modelos.ListIndex < 0 || Lis_Modelos.ListIndex >= Lis_Modelos.ListCount())
         return nullptr;
@@ -242,8 +250,9 @@ void PintaPersonal() {
     MuestraBotonPortapapeles();
 }
 
-void LlenaModelos() {
+void LlenaModelos(const std::set<std::string>& resueltos) {
     CargaListaModelos(Lis_Modelos);
+    for (Lista::Elemento& e : Lis_Modelos.Elementos) e.Marca = resueltos.contains(Trim(e.Texto));
     PonPunterosDeListas();
 }
 
@@ -280,7 +289,7 @@ void Lis_Modelos_KeyPress(i16 KeyAscii) {
     Avisa(aviso::BORRA_MODELO, {Trim(modelo->Texto)});
     if (!Gbl.RespuestaMensaje) return;
     BorraModelo();
-    LlenaModelos();
+    LlenaModelos(ModelosMarcados());
     Lis_Modelos.Selecciona(0);
 }
 

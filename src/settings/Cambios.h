@@ -2,6 +2,9 @@
 // models, shapes, colours; and the keys of the window.
 #pragma once
 
+#include <set>
+#include <string>
+
 #include "platform/Tipos.h"
 
 namespace tessario {
@@ -14,7 +17,8 @@ void PintaPersonal();
 // What the Tangram's mode allows: list of models, preview, attraction.
 void TActSegunModo();
 // The list of models from the file; none is chosen.
-void LlenaModelos();
+// Those named are marked as solved.
+void LlenaModelos(const std::set<std::string>& resueltos);
 
 void Lis_Modelos_Click();
 // "D" asks, and deletes the chosen model.

@@ -252,7 +252,7 @@ void SituaPersonal() {
 void LlenaPaneles() {
     const Juego& juego = JuegoEnCurso();
     AbreListas();
-    if (juego.TieneModos) LlenaModelos();
+    if (juego.TieneModos) LlenaModelos(ModelosResueltos());
     PintaPersonal();
     if (juego.TieneModos) {
         TActSegunModo();

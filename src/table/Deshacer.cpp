@@ -35,7 +35,8 @@ void Deshaz() {
     // Deliberate: unlike one step back of the recorder, the first move goes back too.
     Sigue([] { ReproduceMovimiento(ATRAS); });
     ReponeCrono();
-    // What the pointer found may have gone from under it.
+    // What the pointer found may have gone from under it; whoever knows where it stands looks
+    // again.
     Gbl.PiezaActual = 0;
     AplicaCursor(cursor::NORMAL);
 }

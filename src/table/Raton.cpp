@@ -73,6 +73,12 @@ void TerminaColocadas() {
     BuscaPieza(Gbl.XPulsado, Gbl.YPulsado);
 }
 
+// A piece that cannot go anywhere: it is heard and seen, nothing moves and no clock starts.
+void RechazaPieza() {
+    AplicaCursor(cursor::PROHIBIDO);
+    SonidoJuego(1, sonido::RECHAZO);
+}
+
 void PulsaIzquierdo() {
     if (Gbl.PuzzleTerminado) {
         AvisaTerminado();
@@ -84,7 +90,10 @@ void PulsaIzquierdo() {
         return;
     }
     if (Gbl.PiezaActual == 0) return;
-    if (!JuegoEnCurso().SeArrastra && Gbl.CursorDeseado == cursor::PROHIBIDO) return;
+    if (!JuegoEnCurso().SeArrastra && Gbl.CursorDeseado == cursor::PROHIBIDO) {
+        RechazaPieza();
+        return;
+    }
     if (Gbl.CursorDeseado == cursor::TUTOR) {
         TutorIndicando();
         return;
@@ -229,6 +238,11 @@ void BuscaPieza(i32 x, i32 y) {
     if (Gbl.CursorDeseado != Gbl.CursorActual) AplicaCursor(Gbl.CursorDeseado);
 }
 
+// The table has changed under a pointer that stands still.
+void MiraDeNuevo() {
+    if (Gbl.XVisto >= 0 && !HoverParado()) BuscaPieza(Gbl.XVisto, Gbl.YVisto);
+}
+
 // ---------------------------------------------------------------- release
 // Keeps a dropped piece where the player can take it again.
 void MantieneALaVista(i16 piece) {
@@ -335,6 +349,8 @@ void Pic_Trabajo_MouseMove(i16 /*Button*/, i16 /*Shift*/, float X, float Y) {
     }
     const i32 x = EnteroLargo(X);
     const i32 y = EnteroLargo(Y);
+    Gbl.XVisto = x;
+    Gbl.YVisto = y;
     if (HayArrastre()) {
         Sigue([&] { MuevePieza(Corto(x), Corto(y), Gbl.PiezaActual); });
         Sigue([&] { DesplazaEnElBorde(x, y); });
@@ -404,6 +420,7 @@ void Pic_Trabajo_KeyPress(i16 KeyAscii) {
             break;
         case TECLA_DESHACER:
             Deshaz();
+            MiraDeNuevo();
             break;
         default:
             break;

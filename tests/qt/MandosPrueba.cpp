@@ -101,6 +101,34 @@ TEST_F(VistaDeMandos, RowsAndChoiceSetByTheCodeAreShownWithoutAClick) {
     EXPECT_EQ(cambios, 0);
 }
 
+TEST_F(VistaDeMandos, AMarkedRowHasATickAtItsRightEndAndKeepsItsText) {
+    Lista l;
+    l.Tamano(150, 120);
+    l.Rellena({{"uno", 1}, {"dos", 2, true}, {"tres", 3}});
+    Abre(v, {&l});
+    auto& filas = Dentro<QListWidget>(l);
+    const auto tinta = [&](int fila, bool derecha) {
+        const QImage foto = filas.viewport()->grab().toImage();
+        QRect r = filas.visualItemRect(filas.item(fila));
+        if (derecha) r.setLeft(r.right() - 18);
+        int n = 0;
+        for (int y = r.top(); y <= r.bottom(); ++y)
+            for (int x = r.left(); x <= r.right(); ++x) n += qRed(foto.pixel(x, y)) < 128;
+        return n;
+    };
+    EXPECT_EQ(tinta(0, true), 0);
+    EXPECT_GT(tinta(1, true), 10);
+    EXPECT_GT(tinta(1, false), tinta(1, true)) << "the text is there too";
+    EXPECT_EQ(filas.item(1)->text(), "dos");
+    EXPECT_EQ(filas.visualItemRect(filas.item(1)).height(),
+              filas.visualItemRect(filas.item(0)).height());
+    l.Elementos[1].Marca = false;
+    l.Elementos[2].Marca = true;
+    P().Presenta();
+    EXPECT_EQ(tinta(1, true), 0) << "the marks follow the record";
+    EXPECT_GT(tinta(2, true), 10);
+}
+
 TEST_F(VistaDeMandos, AListHandlerMayRefillTheListAndCloseTheWindow) {
     Lista l;
     l.Tamano(150, 120);

@@ -3,6 +3,7 @@
 
 #include "apoyo/PersonalMontada.h"
 #include "core/Avisos.h"
+#include "core/Cadenas.h"
 #include "core/Errores.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
@@ -657,6 +658,38 @@ TEST_F(PersonalVentana, AModelIsDeletedAfterAQuestion) {
     EXPECT_EQ(P().avisos.size(), 2U);
     EXPECT_EQ(Contenido("Archivo/Modelos.tpu").substr(126, 26), std::string(25, ' ') + "0");
     EXPECT_EQ(Gbl.ModeloActual, 1);
+}
+
+TEST_F(PersonalVentana, SolvedModelsAreMarkedByTheHistoryAsItStoodAtTheOpening) {
+    TangramDe({"Barco", "Caña", "Ave", "Pez"});
+    const auto linea = [](int juego, const std::string& modelo) {
+        return "\"20/11/2026\",\"13:54\"," + std::to_string(juego) + ",\"\",\"\",\"" + modelo +
+               "\",0,0,100,0,0,0,0,0,7,0,0,1.5,20,20,0,0,\"Ana\"\r\n";
+    };
+    Crea("TESSA33.his", linea(23,
+                              "Ca\xF1"
+                              "a") +
+                            linea(21, "Barco") + linea(23, "Pez  ") + linea(23, "Otro") +
+                            "\"not a line\"\r\n");
+    const auto marcas = [] {
+        std::string s;
+        for (const Lista::Elemento& e : Lis_Modelos.Elementos) s += e.Marca ? '*' : '-';
+        return s;
+    };
+    Visita([&] {
+        EXPECT_EQ(marcas(), "-*-*");
+        EXPECT_EQ(Trim(Lis_Modelos.Elementos[1].Texto), "Caña") << "the text stays";
+        std::filesystem::remove(P().carpeta + "TESSA33.his");
+        Lis_Modelos.Selecciona(0);
+        P().respuestas = {true};
+        Lis_Modelos.KeyPress('d');
+        EXPECT_EQ(marcas(), "*-*") << "the history is not read again";
+        Sal({true});
+    });
+    Visita([&] {
+        EXPECT_EQ(marcas(), "---") << "without a history none";
+        Sal();
+    });
 }
 
 TEST_F(PersonalVentana, DifficultyOfTheTangramIsThatOfItsOwnFigure) {

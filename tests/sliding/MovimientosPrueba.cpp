@@ -135,7 +135,7 @@ TEST_F(Movimientos, ReleaseLogsTheMoveAndCountsAnew) {
     EXPECT_FALSE(Gbl.SoltandoPieza);
 }
 
-TEST_F(Movimientos, PressOnADiagonalPieceDoesNothingAtAll) {
+TEST_F(Movimientos, PressOnADiagonalPieceIsOnlyRefused) {
     MesaCon(3, CENTRADO);
     Gbl.Sonido = true;
     P().sonidos.clear();
@@ -143,7 +143,7 @@ TEST_F(Movimientos, PressOnADiagonalPieceDoesNothingAtAll) {
     Pincha(8);
     EXPECT_EQ(CeldasDelTablero(), CENTRADO);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
-    EXPECT_TRUE(P().sonidos.empty());
+    EXPECT_EQ(P().sonidos, (std::vector<std::pair<i16, bool>>{{11, true}, {11, true}}));
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
 }
 

@@ -60,6 +60,36 @@ TEST_F(Deshacer, EveryMoveGoesBackAlsoTheFirstAndTheTableShowsIt) {
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, inicio);
 }
 
+TEST_F(Deshacer, ThePointerThatStandsStillLooksAgain) {
+    Moviles(3, 330, 250);
+    PonEnSuSitio(1);
+    Pon(4, 420, 100);
+    const Punto antes = PuntoDe(4);
+    Arrastra(4, 450, 400);
+    ASSERT_EQ(Gbl.PiezaActual, 4);
+    ASSERT_EQ(Pic_Trabajo.MouseIcon, "ManoRoja");
+    Pulsa();
+    EXPECT_EQ(Gbl.PiezaActual, 0) << "the piece has gone from under it";
+    EXPECT_EQ(Pic_Trabajo.MousePointer, PUNTERO_NORMAL);
+    Arrastra(4, 450, 400);
+    Puntero.Mueve(antes.x, antes.y);
+    ASSERT_EQ(Gbl.PiezaActual, 0);
+    Pulsa();
+    EXPECT_EQ(Gbl.PiezaActual, 4) << "and comes back to it";
+    EXPECT_EQ(Pic_Trabajo.MouseIcon, "ManoRoja");
+}
+
+TEST_F(Deshacer, TheHoleThatComesBackShowsWhichWayThePieceCanGo) {
+    Deslizantes(3);
+    TableroResuelto();
+    Gbl.Movimientos.Redimensiona(100);
+    DeslizaPieza(8);  // the pointer stands on the hole
+    ASSERT_EQ(Gbl.PiezaActual, 0);
+    Pulsa();
+    EXPECT_EQ(Gbl.PiezaActual, 8);
+    EXPECT_EQ(Pic_Trabajo.MouseIcon, "FlechaEst");
+}
+
 TEST_F(Deshacer, TheNextMoveFollowsTheOneThatIsLeft) {
     Moviles(3, 330, 250);
     Pon(4, 420, 100);

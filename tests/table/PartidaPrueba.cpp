@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "apoyo/MesaMontada.h"
+#include "core/Ventanas.h"
 #include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
@@ -53,6 +54,14 @@ protected:
         LeeFichero(P().carpeta + "TESSA33.his", bytes);
         return Lineas(bytes);
     }
+    void TodasEnSuSitio() {
+        for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {
+            Pieza& p = Gbl.Piezas[i];
+            p.X = p.XBien;
+            p.Y = p.YBien;
+            p.Giro = p.GiroBien;
+        }
+    }
 };
 
 TEST_F(Partida, JigsawOfNineIsPlayedToItsEndAndIntoTheHistory) {
@@ -91,6 +100,67 @@ TEST_F(Partida, JigsawOfNineIsPlayedToItsEndAndIntoTheHistory) {
     // The joints are gone: the table shows the picture itself.
     for (const Punto p : {Punto{99, 50}, {100, 50}, {150, 199}, {0, 0}, {299, 299}})
         EXPECT_EQ(Pic_Trabajo.Fila(p.y)[p.x], Pic_FonTamModi.Fila(p.y)[p.x]);
+}
+
+TEST_F(Partida, FinishedPictureIsSeenOnItsOwnWithinTheGivenPause) {
+    Moviles(3, 300, 300);
+    for (i16 i = 1; i <= 8; ++i) Coloca(i);
+    Gbl.VelocidadJuego = 50;
+    std::vector<std::pair<bool, double>> pausas;  // finished look, when it began
+    P().alDormir = [&] { pausas.emplace_back(Gbl.PuzzleTerminado, P().reloj); };
+    double ventana = 0;
+    P().ventanas["Mensajes"] = [&](Ventana&) {
+        if (ventana == 0) ventana = P().reloj;
+    };
+    Coloca(9);
+    ASSERT_GE(pausas.size(), 2U);
+    const auto [antes, cae] = pausas[pausas.size() - 2];
+    const auto [despues, entero] = pausas.back();
+    EXPECT_FALSE(antes) << "first the last piece as it fell";
+    EXPECT_TRUE(despues) << "then the whole picture";
+    EXPECT_GE(ventana - entero, 300) << "on its own";
+    EXPECT_NEAR(ventana - cae, 500, 1) << "in all no longer than the pause was";
+}
+
+TEST_F(Partida, CongratulationAndQuestionStandClearOfThePicture) {
+    ConectaMensajes();
+    std::vector<Rect> sitios;
+    P().ventanas["Mensajes"] = [&](Ventana& v) {
+        sitios.push_back(RectDe(v.Left, v.Top, v.Width(), v.Height()));
+    };
+    Moviles(3, 300, 300);  // on 800 x 600 the message would come up at 197, 228
+    TodasEnSuSitio();
+    FinDeJuego();
+    ASSERT_EQ(sitios.size(), 2U);
+    for (const Rect& r : sitios) EXPECT_EQ(r, RectDe(197, 312, 405, 144));
+    // High and narrow: it goes to the right.
+    Moviles(3, 240, 450);
+    Gbl.PuzzleArchivable = false;
+    TodasEnSuSitio();
+    FinDeJuego();
+    EXPECT_EQ(sitios.back(), RectDe(252, 228, 405, 144));
+    // No side has room: it stays in the middle.
+    Moviles(3, 510, 480);
+    Gbl.PuzzleArchivable = false;
+    TodasEnSuSitio();
+    FinDeJuego();
+    EXPECT_EQ(sitios.back(), RectDe(197, 228, 405, 144));
+    // Other messages are not moved.
+    EXPECT_TRUE(Gbl.LibreDeMensajes.Vacio());
+}
+
+TEST_F(Partida, CongratulationOfAScrolledTableMindsWhatIsInView) {
+    Moviles(3, 510, 480);
+    ASSERT_TRUE(BarraVer.Visible);
+    BarraVer.Pon(180);
+    ConectaMensajes();
+    Rect sitio;
+    P().ventanas["Mensajes"] = [&](Ventana& v) {
+        sitio = RectDe(v.Left, v.Top, v.Width(), v.Height());
+    };
+    TodasEnSuSitio();
+    FinDeJuego();
+    EXPECT_EQ(sitio.Arr, 480 - BarraVer.Value + 12);
 }
 
 TEST_F(Partida, FinishedJigsawGivesTheNoticeOnItsPieces) {

@@ -1,4 +1,5 @@
 #include "apoyo/MesaMontada.h"
+#include "core/Servicios.h"
 #include "panel/Colocadas.h"
 #include "panel/Cronometro.h"
 #include "pieces/Composicion.h"
@@ -678,16 +679,27 @@ TEST_F(RatonMesa, OnePressMovesTheSlidingPieceAndTheReleaseLogsIt) {
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, Pic_Imagen.Dibujo().Pixeles);
 }
 
-TEST_F(RatonMesa, PieceDiagonalToTheHoleMakesNoMoveNoSoundNoEntry) {
+TEST_F(RatonMesa, PieceDiagonalToTheHoleIsRefusedWithoutMoveClockOrEntry) {
     Deslizantes(3);
     TableroResuelto();
     const Pieza antes = Gbl.Piezas[5];
+    const auto pila = Gbl.OrdenPiezas[1];
     const Punto p = PuntoDe(5);
-    Puntero.Pulsa(p.x, p.y);
+    Gbl.CronoEnMarcha = false;
+    Puntero.Mueve(p.x, p.y);
+    PonPuntero(Pic_Trabajo, PUNTERO_RELOJ);  // whatever the pointer has become
+    Puntero.Aprieta();
     EXPECT_EQ(Gbl.Piezas[5], antes);
+    EXPECT_EQ(Gbl.OrdenPiezas[1], pila);
     EXPECT_EQ(Gbl.NumMovimientos, 0);
-    EXPECT_TRUE(P().sonidos.empty());
+    EXPECT_FALSE(Gbl.CronoEnMarcha);
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_EQ(Pic_Trabajo.MouseIcon, "Prohibido");
+    EXPECT_EQ(P().sonidos, (std::vector<std::pair<i16, bool>>{{11, true}}));
+    Puntero.Suelta();
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
+    Puntero.Pulsa(p.x, p.y, BOTON_DERECHO);
+    EXPECT_EQ(P().sonidos.size(), 1U) << "that button plays nothing";
 }
 
 TEST_F(RatonMesa, ManualOrderingSendsAnyPieceAndFinishesNothing) {
