@@ -13,4 +13,11 @@ inline constexpr Color CREMA = 0xD2E9F4;  // the tiles' glazes: ground, blue, an
 inline constexpr Color COBALTO = 0x9A3F1F;
 inline constexpr Color TERRACOTA = 0x3C51B2;
 
+// How much two colours differ in lightness, 1 to 21: (L + 0.05) / (l + 0.05) of their relative
+// luminances. Text wants 4.5 at least.
+double Contraste(Color a, Color b);
+inline constexpr double CONTRASTE_DE_LECTURA = 4.5;
+// Black or white, whichever a text of this colour reads better on; one of them always suffices.
+Color Contrario(Color c);
+
 }  // namespace tessario::paleta

@@ -17,6 +17,7 @@ namespace tessario {
 
 namespace {
 
+constexpr int ANCHO_MENOR = 800, ALTO_MENOR = 600;
 constexpr long long CUADRO_MS = 16;         // time between two pictures of the screen
 constexpr int ESPERA_EXPOSICION_MS = 1500;  // at most, for the window to come up
 
@@ -67,7 +68,12 @@ void VistaVentana::Sincroniza() {
     const QRect sitio = Sitio();
     if (sitio_ != sitio) {
         sitio_ = sitio;
-        if (!ventana_.PantallaCompleta) setFixedSize(sitio.size());
+        // A window that fills the screen is laid out for all of it: taken out of that form, it
+        // keeps the least that the program is made for.
+        if (ventana_.PantallaCompleta)
+            setMinimumSize(QSize(ANCHO_MENOR, ALTO_MENOR).boundedTo(sitio.size()));
+        else
+            setFixedSize(sitio.size());
         setGeometry(sitio);
     }
     if (titulo_ != ventana_.Caption || windowTitle().isEmpty()) {

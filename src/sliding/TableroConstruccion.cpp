@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/Cadenas.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "panel/Botonera.h"
@@ -21,6 +22,9 @@ namespace {
 constexpr i16 LETRA_MENOR = 8, LETRA_MAYOR = 50;
 constexpr const char* TEXTO_MEDIDO = "99";
 constexpr double PARTE_DE_CELDA = 0.8;
+// The rim around them, pixels, and the size from which on it is the wide one.
+constexpr i32 CANTO_FINO = 1, CANTO_ANCHO = 2;
+constexpr i16 LETRA_GRANDE = 24;
 
 // The sunken frame around the board, pixels.
 constexpr i16 GROSOR_MARCO = 3;
@@ -38,6 +42,7 @@ void EstiraImagen(Superficie& destino, i32 x, i32 y, i32 ancho, i32 alto) {
 }
 
 void EligeLetra(Superficie& s) {
+    s.Font.Negrita = true;
     for (i16 tamano = LETRA_MENOR; tamano <= LETRA_MAYOR; ++tamano) {
         s.Font.Tamano = tamano;
         if (s.TextWidth(TEXTO_MEDIDO) > Gbl.AnchoCelda * PARTE_DE_CELDA) break;
@@ -91,14 +96,32 @@ void EscribeEn(Superficie& s, i16 x, i16 y, Color color, const std::string& text
     s.Print(texto);
 }
 
-// A relief of two printings: the dark one stands a pixel up and to the left of the light one.
+// A rim around what EscribeRelieve will print there: black or white, whichever the light colour
+// reads better on. The two colours of the relief are shades of the piece's own and would not stand
+// out from it.
+void EscribeCanto(Superficie& s, i16 x, i16 y, const std::string& texto) {
+    const Color canto = paleta::Contrario(Gbl.ColorPiezasClaro);
+    const i32 ancho = s.Font.Tamano >= LETRA_GRANDE ? CANTO_ANCHO : CANTO_FINO;
+    const i32 desde = -1 - ancho;  // the relief itself reaches a pixel up and left
+    for (i32 dy = desde; dy <= ancho; ++dy)
+        for (i32 dx = desde; dx <= ancho; ++dx)
+            if (dx == desde || dx == ancho || dy == desde || dy == ancho)
+                EscribeEn(s, Corto(x + dx), Corto(y + dy), canto, texto);
+}
+
+// Two printings: the dark one stands a pixel up and to the left of the light one.
+void EscribeRelieve(Superficie& s, i16 x, i16 y, const std::string& texto) {
+    EscribeEn(s, Corto(x - 1), Corto(y - 1), Gbl.ColorPiezasOscuro, texto);
+    EscribeEn(s, x, y, Gbl.ColorPiezasClaro, texto);
+}
+
 void PintaRotulo(Superficie& s, i32 piece) {
     const std::string texto = Rotulo(piece);
     const Pieza& p = Gbl.Piezas[piece];
     const i16 x = Entero((Gbl.AnchoCelda - s.TextWidth(texto)) / 2.0 + p.XBien);
     const i16 y = Entero((Gbl.AltoCelda - s.TextHeight(texto)) / 2.0 + p.YBien);
-    EscribeEn(s, Corto(x - 1), Corto(y - 1), Gbl.ColorPiezasOscuro, texto);
-    EscribeEn(s, x, y, Gbl.ColorPiezasClaro, texto);
+    EscribeCanto(s, x, y, texto);
+    EscribeRelieve(s, x, y, texto);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ namespace {
 
 constexpr i32 ANCHO_PANEL = 150, ALTO_FILA = 18, BORDE = 4;
 constexpr i32 TEXTO_X = 14;
-using paleta::GRIS, paleta::BLANCO, paleta::AZUL, paleta::NEGRO;
+using paleta::GRIS, paleta::BLANCO, paleta::COBALTO, paleta::NEGRO;
 constexpr Color FONDO_PANEL = paleta::CREMA;
 const Fuente LETRA{Familia::Sans, 13, false, false};
 
@@ -54,7 +54,7 @@ void PintaFila(i16 opcion, i32 j) {
         LineaPanel(0, y - 2, w - 1, y - 2, BLANCO);
     }
     const bool resaltada = j + 1 == Gbl.OpcionResaltada;
-    if (resaltada) LineaPanel(2, y - 2, w - 3, y + 15, AZUL, pluma::Caja | pluma::Llena);
+    if (resaltada) LineaPanel(2, y - 2, w - 3, y + 15, COBALTO, pluma::Caja | pluma::Llena);
     Pic_SelOpciones.ForeColor = resaltada ? BLANCO : NEGRO;
     Pic_SelOpciones.CurrentX = TEXTO_X;
     Pic_SelOpciones.CurrentY = y;

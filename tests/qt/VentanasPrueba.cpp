@@ -49,6 +49,18 @@ TEST_F(VistaDeVentanas, AModalOneReturnsWhenItsButtonClosesIt) {
     EXPECT_EQ(P().VistaDe(aviso), nullptr);
 }
 
+TEST_F(VistaDeVentanas, TheMainWindowHasALeastSizeAndTheOthersTheirOwn) {
+    mesa.PantallaCompleta = true;
+    Abre(mesa, {&c});
+    EXPECT_EQ(P().VistaDe(mesa)->minimumSize(), QSize(800, 600));
+    Luego(20, [&] {
+        EXPECT_EQ(P().VistaDe(aviso)->minimumSize(), QSize(200, 100));
+        EXPECT_EQ(P().VistaDe(aviso)->maximumSize(), QSize(200, 100));
+        P().Cierra(aviso);
+    });
+    P().MuestraModal(aviso);
+}
+
 TEST_F(VistaDeVentanas, WhileItIsOpenTheOneBelowGetsNothing) {
     Abre(mesa, {&c});
     c.MouseDown = [&](i16, i16, float, float) { diario += "mesa "; };

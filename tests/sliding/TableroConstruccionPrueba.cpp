@@ -5,6 +5,7 @@
 
 #include "apoyo/PlataformaPrueba.h"
 #include "apoyo/TableroDeslizante.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
 #include "pieces/Raster.h"
@@ -15,18 +16,20 @@ namespace tessario {
 
 namespace {
 
-// Remembers what was printed.
+// Remembers what was printed: the two printings of the labels, and apart from them their rims.
 class PlataformaConTextos : public PlataformaPrueba {
 public:
     struct Impreso {
         std::string texto;
         i32 x, y;
         Color color;
+        bool negrita;
     };
-    std::vector<Impreso> impresos;
+    std::vector<Impreso> impresos, cantos;
     void PintaTexto(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
                     Color color) override {
-        if (&s == &Pic_Bitmap) impresos.push_back({std::string(texto), x, y, color});
+        auto& lista = color == 0 || color == 0xFFFFFF ? cantos : impresos;
+        if (&s == &Pic_Bitmap) lista.push_back({std::string(texto), x, y, color, f.Negrita});
         PlataformaPrueba::PintaTexto(s, x, y, texto, f, color);
     }
 };
@@ -176,7 +179,34 @@ TEST_F(Construccion, LabelIsPrintedDarkAPixelUpAndLeftThenLight) {
     EXPECT_EQ(Pic_Bitmap.Point(124, 52), PIEZAS_OSCURO);
     EXPECT_EQ(Pic_Bitmap.Point(125, 53), PIEZAS_CLARO);
     EXPECT_EQ(Pic_Bitmap.Point(142, 90), PIEZAS_CLARO);
-    EXPECT_EQ(Pic_Bitmap.Point(144, 92), PIEZAS);
+    EXPECT_EQ(Pic_Bitmap.Point(144, 92), 0U) << "the rim";
+    EXPECT_EQ(Pic_Bitmap.Point(146, 94), PIEZAS);
+}
+
+TEST_F(Construccion, LabelsAreBoldWithARimThatTheyCanBeReadOn) {
+    Monta(9, FONDO_NUMEROS);  // a font of 38: a rim of two pixels around x 123 to 124
+    for (const auto& t : T().impresos) EXPECT_TRUE(t.negrita);
+    i32 menor = 999, mayor = 0;
+    for (const auto& t : T().cantos) {
+        EXPECT_GE(paleta::Contraste(t.color, PIEZAS_CLARO), 4.5);
+        if (t.texto != "1") continue;
+        menor = std::min(menor, t.x);
+        mayor = std::max(mayor, t.x);
+    }
+    EXPECT_EQ(menor, 121);
+    EXPECT_EQ(mayor, 126);
+    // The test font's light block reaches from 124 to 142 and from 53 to 90.
+    for (const Punto p : {Punto{121, 50}, {122, 70}, {144, 70}, {130, 50}, {130, 92}, {144, 92}})
+        EXPECT_EQ(Pic_Bitmap.Point(p.x, p.y), 0U) << p.x << ", " << p.y;
+    for (const Punto p : {Punto{120, 70}, {145, 70}, {130, 49}, {130, 93}})
+        EXPECT_EQ(Pic_Bitmap.Point(p.x, p.y), PIEZAS) << p.x << ", " << p.y;
+}
+
+TEST_F(Construccion, DarkPiecesHaveLabelsWithAWhiteRim) {
+    Gbl.ColorPiezas = 0x400000;
+    Monta(3, FONDO_LETRAS);
+    ASSERT_FALSE(T().cantos.empty());
+    for (const auto& t : T().cantos) EXPECT_EQ(t.color, 0xFFFFFFU);
 }
 
 TEST_F(Construccion, LettersHaveEnyeInFifteenthPlaceAndEndAtW) {
@@ -201,6 +231,7 @@ TEST_F(Construccion, LabelsStandAtTheHomesWhereverThePiecesAre) {
     Gbl.TipoFondo = FONDO_NUMEROS;
     PreparaTablero(3);
     PonTablero({8, 7, 6, 5, 4, 3, 2, 1, 0});
+    CalculaColores();
     CreaDeslizantes(0);
     ASSERT_EQ(T().impresos.size(), 16U);
     // Margins 169 and 107, cells of 107; the font of 50 gives 26 x 52.

@@ -38,6 +38,45 @@ TEST_F(Colocacion, TheColourBlocksHaveThePiecesOwnShapes) {
     EXPECT_EQ(Pic_Trabajo.Fila(40)[53], PixelDe(Gbl.ColorFondo)) << "its hole";
 }
 
+TEST_F(Colocacion, BlocksAreOutlinedSolidWhereRightAndDashedWhereWrong) {
+    Monta(0, 3, 300, 240);
+    Coloca(1, 400, 300);  // a rectangle of 100 x 80; piece 2 is in its place, 100 from the left
+    PintaTodo();
+    const auto tabla = Pic_Trabajo.Dibujo().Pixeles;
+    Gbl.MostrandoColocadas = true;
+    MostrarPiezasBienoMal();
+    constexpr Pixel NEGRO = 0, CREMA = 0xF4E9D2;
+    const auto cuenta = [](const Rect& r, Pixel p) {
+        i32 n = 0;
+        for (i32 y = r.Arr; y < r.Aba; ++y)
+            for (i32 x = r.Izq; x < r.Der; ++x) n += Pic_Trabajo.Fila(y)[x] == p;
+        return n;
+    };
+    // A ring of two pixels: 100 x 80 less 96 x 76.
+    constexpr i32 ANILLO = 704, DENTRO = 96 * 76;
+    const Rect bien = RectDe(100, 0, 100, 80), mal = RectDe(400, 300, 100, 80);
+    EXPECT_EQ(cuenta(bien, NEGRO), ANILLO);
+    EXPECT_EQ(cuenta(bien, VERDE), DENTRO);
+    EXPECT_EQ(cuenta(mal, ROJO), DENTRO);
+    EXPECT_NEAR(cuenta(mal, NEGRO), ANILLO / 2, 20);
+    EXPECT_EQ(cuenta(mal, NEGRO) + cuenta(mal, CREMA), ANILLO);
+    for (const Rect lado : {RectDe(400, 300, 100, 1), RectDe(400, 300, 1, 80),
+                            RectDe(400, 379, 100, 1), RectDe(499, 300, 1, 80)})
+        EXPECT_GT(cuenta(lado, CREMA), 30) << "on every side";
+    Gbl.MostrandoColocadas = false;
+    MostrarPiezasBienoMal();
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, tabla) << "nothing of it stays";
+}
+
+TEST_F(Colocacion, SmallBlocksHaveAThinOutline) {
+    Monta(0, 10, 300, 300);  // squares of 30
+    PintaTodo();
+    Gbl.MostrandoColocadas = true;
+    MostrarPiezasBienoMal();
+    EXPECT_EQ(Pic_Trabajo.Fila(30)[45], 0U);
+    EXPECT_EQ(Pic_Trabajo.Fila(31)[45], VERDE);
+}
+
 TEST_F(Colocacion, SlidingPiecesAreRightByPositionAlone) {
     Gbl.JuegoActual = JuegoDeslizantes;
     Gbl.PiezasPorLado = 3;

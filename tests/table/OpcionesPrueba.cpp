@@ -7,7 +7,8 @@
 namespace tessario {
 namespace {
 
-constexpr Color AZUL = 0xFF0000, BLANCO = 0xFFFFFF, GRIS = 0x808080;
+// The light is the cobalt of the palette.
+constexpr Color AZUL = 0x9A3F1F, BLANCO = 0xFFFFFF, GRIS = 0x808080;
 
 class PanelOpciones : public PruebaBase {
 protected:
