@@ -68,6 +68,15 @@ TEST_F(Colocacion, BlocksAreOutlinedSolidWhereRightAndDashedWhereWrong) {
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, tabla) << "nothing of it stays";
 }
 
+TEST_F(Colocacion, APictureOfThoseColoursGetsNoOutlineWhenTheDisplayEnds) {
+    Monta(0, 3, 300, 240);
+    Pic_Bitmap.PonPicture(nullptr);
+    Pic_Bitmap.PonBackColor(0x0000FF);
+    Coloca(1, 400, 300);
+    MostrarPiezasBienoMal();
+    for (i32 x = 400; x < 500; ++x) EXPECT_EQ(Pic_Trabajo.Fila(300)[x], ROJO) << x;
+}
+
 TEST_F(Colocacion, SmallBlocksHaveAThinOutline) {
     Monta(0, 10, 300, 300);  // squares of 30
     PintaTodo();

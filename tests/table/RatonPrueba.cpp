@@ -694,6 +694,7 @@ TEST_F(RatonMesa, PieceDiagonalToTheHoleIsRefusedWithoutMoveClockOrEntry) {
     EXPECT_EQ(Gbl.NumMovimientos, 0);
     EXPECT_FALSE(Gbl.CronoEnMarcha);
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_EQ(Pic_Trabajo.MousePointer, PUNTERO_PROPIO);
     EXPECT_EQ(Pic_Trabajo.MouseIcon, "Prohibido");
     EXPECT_EQ(P().sonidos, (std::vector<std::pair<i16, bool>>{{11, true}}));
     Puntero.Suelta();
