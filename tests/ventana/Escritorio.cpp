@@ -404,13 +404,12 @@ int Numero(const std::string& linea, std::size_t columna, std::size_t ancho) {
 
 }  // namespace
 
-Programa::Programa(Escritorio& e) : e_(e) {
+Programa::Programa(Escritorio& e, const std::string& nombre) : e_(e) {
     namespace fs = std::filesystem;
     static int n = 0;
-    carpeta_ = (fs::temp_directory_path() /
-                ("tessario-ventana-" + std::to_string(getpid()) + "-" + std::to_string(++n)))
-                   .string() +
-               "/";
+    const std::string propio =
+        "tessario-ventana-" + std::to_string(getpid()) + "-" + std::to_string(++n);
+    carpeta_ = (fs::temp_directory_path() / (nombre.empty() ? propio : nombre)).string() + "/";
     const fs::path origen = fs::path(TESSARIO_PROGRAMA).parent_path();
     fs::create_directories(carpeta_ + "Archivo");
     fs::create_directories(carpeta_ + "Imagenes");

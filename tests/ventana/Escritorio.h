@@ -114,8 +114,9 @@ struct PartidaLeida {
 
 class Programa {
 public:
-    // A folder of its own with the real program, the pictures, the models and the first games.
-    explicit Programa(Escritorio& e);
+    // A folder of its own with the real program, the pictures, the models and the first games; it
+    // lies in the folder for temporary files and has this name, or one that no other has.
+    explicit Programa(Escritorio& e, const std::string& nombre = {});
     // A program that is installed, with a home: it is started as that user, if we may choose, and
     // Carpeta() is the working folder in that home.
     struct Instalado {

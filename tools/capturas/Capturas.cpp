@@ -138,7 +138,7 @@ bool TomaAjustes(const char* nombre, int juego,
                  const std::function<PartidaGuardada(Programa&)>& partida) {
     constexpr int PERSONALIZAR = 2;
     Escritorio e(GRANDE.ancho, GRANDE.alto);
-    Programa programa(e);
+    Programa programa(e, "Tessario");  // the window shows where it lies
     programa.EscribeGlobal(juego, 60, true, true);
     programa.EscribePartida(partida(programa));
     Escritorio::Marco marco;
