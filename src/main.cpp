@@ -13,6 +13,8 @@
 #include "qt/Senales.h"
 #include "qt/Unica.h"
 #include "session/CopiaSeguridad.h"
+#include "settings/Imagen.h"
+#include "settings/Mandos.h"
 #include "start/Arranque.h"
 
 namespace {
@@ -57,6 +59,9 @@ int main(int argc, char** argv) {
     unica.AlLlamar([&] { plataforma.TraeAlFrente(); });
     PonSistema(&plataforma);
     plataforma.SonidoDeMando = [] { SonidoJuego(1, sonido::TECLA); };
+    plataforma.AlCopiar = [] {
+        if (Personal.Abierta) MuestraBotonPortapapeles();
+    };
     plataforma.AlApremiar = [] { Gbl.SinPausas = true; };
     const Senales senales([&] {
         CopiaAlTerminar();

@@ -39,6 +39,13 @@ PlataformaQt::PlataformaQt() {
     espera_.setSingleShot(true);
     espera_.setInterval(0);
     QObject::connect(&espera_, &QTimer::timeout, [this] { Mira(); });
+    copiado_.setSingleShot(true);
+    copiado_.setInterval(0);
+    QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &copiado_,
+                     qOverload<>(&QTimer::start));
+    QObject::connect(&copiado_, &QTimer::timeout, [this] {
+        if (AlCopiar) Entrega(AlCopiar);
+    });
     QApplication::setQuitOnLastWindowClosed(false);
 }
 

@@ -25,6 +25,8 @@ public:
     // The system asks for the end while the game sleeps inside its own work: the rest of that
     // should not be waited for. The end itself comes with the next events.
     std::function<void()> AlApremiar;
+    // Some program has put something else on the clipboard.
+    std::function<void()> AlCopiar;
     // The event loop, until Termina. Returns the exit status.
     int Ejecuta();
     // A later start has called: the windows come up, put away or not, the one on top last.
@@ -94,6 +96,7 @@ private:
     long long ultimaVuelta_ = 0;  // ns: the last such call returned
     int seguidas_ = 0;            // calls that came at once after the one before
     QTimer espera_;               // until the next look under the pointer
+    QTimer copiado_;              // until AlCopiar is told
     bool forzada_ = false;        // it tells though nothing has changed places
     bool terminando_ = false, enMarcha_ = false, sincronizando_ = false;
 };

@@ -303,6 +303,32 @@ TEST(PersonalVentana, ADroppedFileThatIsNoPictureIsToldAndChangesNothing) {
     EXPECT_EQ(programa.LeePartida(21).imagen, "aa.bmp");
 }
 
+TEST(PersonalVentana, TheButtonFollowsWhatIsCopiedWhileTheWindowIsOpen) {
+    Escritorio e(1024, 768);
+    Programa programa(e);
+    programa.EscribeGlobal(21, 100);
+    programa.EscribePartida(SinColorNuevo(programa));
+    ASSERT_TRUE(programa.Arranca());
+    Ajustes ajustes(e, programa);
+    ASSERT_TRUE(ajustes.Abre());
+    const Foto sin = e.Mira();
+    const auto cambiados = [&] {
+        constexpr int MEDIO_ANCHO = 85, MEDIO_ALTO = 11;
+        return e.Mira().Diferencia(sin, ajustes.Marco().x + DEL_PORTAPAPELES.x - MEDIO_ANCHO,
+                                   ajustes.Marco().y + DEL_PORTAPAPELES.y - MEDIO_ALTO,
+                                   2 * MEDIO_ANCHO, 2 * MEDIO_ALTO);
+    };
+    {
+        const Oferta oferta(e, "image/bmp", Programa::ImagenDeCuadros(400, 300, 3));
+        ASSERT_TRUE(e.Espera([&] { return cambiados() > 1000; })) << "it comes";
+        ajustes.Pulsa(DEL_PORTAPAPELES);
+        e.EsperaQuieto();
+        EXPECT_GT(Cerca(e.Mira(), ColorNuevo()), 1000);
+    }
+    const Oferta texto(e, "UTF8_STRING", "Querida abuela:");
+    EXPECT_TRUE(e.Espera([&] { return cambiados() == 0; })) << "and goes";
+}
+
 TEST(PersonalVentana, AFirstStartEndsInAGameWithThePictureChosenByMouse) {
     Escritorio e(800, 600);
     Programa programa(e);
