@@ -223,8 +223,9 @@ void VistaEtiqueta::paintEvent(QPaintEvent*) {
 
 namespace {
 
-// From the point, which stays free, outwards; with its edge.
-constexpr int BRAZO_DESDE = 3, BRAZO_HASTA = 15;
+// An arm, from the point, which stays free, outwards, and half as wide as it is beside its middle
+// line; both with the edge.
+constexpr int BRAZO_DESDE = 3, BRAZO_HASTA = 18, BRAZO_MEDIO = 2;
 constexpr int PUNTERO_A = 6;  // from the point to the corner of the pointer beside it
 
 }  // namespace
@@ -249,13 +250,14 @@ i32 VistaCruz::SincronizaPropio() {
 void VistaCruz::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const QPoint medio(Cruz::RADIO, Cruz::RADIO);
-    for (const int canto : {1, 0}) {
-        const int cerca = BRAZO_DESDE + 1 - canto, lejos = BRAZO_HASTA - 1 + canto;
-        const QRect este(QPoint(cerca, -canto), QPoint(lejos, canto));
-        const QRect oeste(QPoint(-lejos, -canto), QPoint(-cerca, canto));
+    for (const int dentro : {0, 1}) {
+        const int cerca = BRAZO_DESDE + dentro, lejos = BRAZO_HASTA - dentro;
+        const int medioAncho = BRAZO_MEDIO - dentro;
+        const QRect este(QPoint(cerca, -medioAncho), QPoint(lejos, medioAncho));
+        const QRect oeste(QPoint(-lejos, -medioAncho), QPoint(-cerca, medioAncho));
         for (const QRect& r : {este, oeste})
             for (const QRect& brazo : {r, QRect(r.y(), r.x(), r.height(), r.width())})
-                p.fillRect(brazo.translated(medio), canto ? Qt::black : Qt::white);
+                p.fillRect(brazo.translated(medio), dentro ? Qt::white : Qt::black);
     }
     // On the other side where the window ends.
     const QSize t = puntero_.size();

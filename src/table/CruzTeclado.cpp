@@ -85,16 +85,14 @@ bool EnMano(const Control& c) {
 void Suelta(const Control& c) {
     Gbl.CruzSujeta = false;
     Envia(c, c.MouseUp, BOTON_IZQUIERDO);
-    if (c.Click && c.Enabled && c.Visible && ControlEn(Mesa, Gbl.CruzX, Gbl.CruzY) == &c) c.Click();
+    if (c.Click && c.Enabled && ControlEn(Mesa, Gbl.CruzX, Gbl.CruzY) == &c) c.Click();
 }
 
 // What stays in hand waits for the next press of the key; of all else the press ends at once.
 void Toma() {
     Ve({Gbl.CruzX, Gbl.CruzY});
     const Control* const c = CruzMesa.Sobre;
-    if (!c) return;
-    const bool sorda = DentroDeTarea() && (c == &Pic_Trabajo || c == &Pic_Muestra);
-    if (sorda) return;
+    if (!c || (c == &Pic_Trabajo && DentroDeTarea())) return;
     Envia(*c, c->MouseDown, BOTON_IZQUIERDO);
     Gbl.CruzSujeta = EnMano(*c);
     if (!Gbl.CruzSujeta) Suelta(*c);
@@ -172,7 +170,6 @@ void ConectaCruz() {
 }
 
 void AnotaPuntero(float X, float Y) {
-    if (CruzMesa.Visible) return;
     const Punto o = OrigenDe(Pic_Trabajo);
     Gbl.CruzX = o.x + EnteroLargo(static_cast<double>(X));
     Gbl.CruzY = o.y + EnteroLargo(static_cast<double>(Y));

@@ -11,7 +11,8 @@ namespace tessario {
 void ConectaCruz();
 // A key of the window. False: it is none of the cross's.
 bool TeclaDeCruz(i16 KeyCode, i16 Shift);
-// The mouse is at this point of the table: there the cross will appear.
+// The pointer, be it the mouse or the cross, is at this point of the table: there the cross will
+// appear.
 void AnotaPuntero(float X, float Y);
 // Lets go of what the cross holds, where it is.
 void SueltaCruz();

@@ -281,7 +281,11 @@ private:
 
     // What comes less often than the mouse.
     void EventoRaro() {
-        switch (Hasta(8)) {
+        switch (Hasta(10)) {
+            case 8:
+            case 9:
+                Cruz();
+                break;
             case 0:
             case 1:
             case 2:
@@ -326,6 +330,19 @@ private:
         const i16 tecla = TECLAS[Hasta(7)];
         ultimo_ = "key " + std::to_string(tecla);
         if (Mesa.KeyPress) Mesa.KeyPress(tecla);
+    }
+
+    // A few keys of the cross, some of them held.
+    void Cruz() {
+        static constexpr i16 TECLAS[] = {' ', 33, 34, 36, 37, 38, 39, 40, 'R'};
+        static constexpr i16 CON[] = {0, 0, CON_MAYUS, CON_CONTROL};
+        for (i32 n = 1 + Hasta(6); n > 0; --n) {
+            const i16 tecla = TECLAS[Hasta(9)], con = CON[Hasta(4)];
+            ultimo_ = "cross " + std::to_string(tecla) + "+" + std::to_string(con);
+            Mesa.KeyDown(tecla, con);
+            for (i32 veces = Una(3) ? Hasta(30) : 0; veces > 0; --veces)
+                Mesa.KeyDown(tecla, static_cast<i16>(con | TECLA_REPETIDA));
+        }
     }
 
     // A command button reached with the tabulator and pressed with the space bar, whatever the
@@ -448,7 +465,8 @@ private:
     }
 
     void CompruebaBanderas() const {
-        Exige(!Gbl.ArrastrandoPieza || apretado_, "no piece in hand without a press");
+        Exige(!Gbl.ArrastrandoPieza || apretado_ || Gbl.CruzSujeta,
+              "no piece in hand without a press");
         Exige(!Gbl.SoltandoPieza, "no drop under way between events");
         Exige(!Gbl.GirandoPieza || apretado_, "no turning without a press");
         Exige(!Gbl.GiroEnCurso && Gbl.EntradaAplazada.empty(), "nothing is left waiting");

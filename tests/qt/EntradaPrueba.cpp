@@ -266,23 +266,25 @@ TEST_F(TecladoQt, CrossIsWhiteWithABlackEdgeAndLeavesItsPointFree) {
     ventana.PonBackColor(0x808080);
     Apunta(290, 190, 150, 130);
     for (const int d : {-1, 1}) {
-        for (const int r : {4, 14}) {
+        for (const int r : {4, 17}) {
             EXPECT_EQ(Punto(ventana, 150 + d * r, 130), BLANCO) << d << " " << r;
             EXPECT_EQ(Punto(ventana, 150, 130 + d * r), BLANCO) << d << " " << r;
         }
-        for (const int r : {3, 15}) {
+        for (const int r : {3, 18}) {
             EXPECT_EQ(Punto(ventana, 150 + d * r, 130), NEGRO) << d << " " << r;
             EXPECT_EQ(Punto(ventana, 150, 130 + d * r), NEGRO) << d << " " << r;
         }
         for (const int s : {-1, 1}) {
-            EXPECT_EQ(Punto(ventana, 150 + d * 8, 130 + s), NEGRO) << d << " " << s;
-            EXPECT_EQ(Punto(ventana, 150 + s, 130 + d * 8), NEGRO) << d << " " << s;
+            EXPECT_EQ(Punto(ventana, 150 + d * 8, 130 + s), BLANCO) << d << " " << s;
+            EXPECT_EQ(Punto(ventana, 150 + d * 8, 130 + 2 * s), NEGRO) << d << " " << s;
+            EXPECT_EQ(Punto(ventana, 150 + 2 * s, 130 + d * 8), NEGRO) << d << " " << s;
+            EXPECT_EQ(Punto(ventana, 150 + d * 8, 130 + 3 * s), FONDO) << d << " " << s;
         }
-        EXPECT_EQ(Punto(ventana, 150 + d * 16, 130), FONDO);
+        EXPECT_EQ(Punto(ventana, 150 + d * 19, 130), FONDO);
         EXPECT_EQ(Punto(ventana, 150, 130 + d * 2), FONDO);
     }
     EXPECT_EQ(Punto(ventana, 150, 130), FONDO);
-    EXPECT_EQ(Punto(ventana, 154, 132), FONDO);
+    EXPECT_EQ(Punto(ventana, 154, 133), FONDO);
 }
 
 TEST_F(TecladoQt, BesideTheCrossStandsThePointerOfWhatLiesThere) {

@@ -273,6 +273,23 @@ TEST_F(CruzDelTeclado, SpaceOnTheBareTableTakesNothing) {
     EXPECT_EQ(Gbl.NumMovimientos, 0);
 }
 
+TEST_F(CruzDelTeclado, ReleaseIsAClickWhereThePressWasAndNowhereElse) {
+    Casi({5});
+    int clicks = 0;
+    Pic_Trabajo.Click = [&] { ++clicks; };
+    VeA(5);
+    Tecla(ESPACIO);
+    EXPECT_EQ(clicks, 0);
+    Tecla(ARRIBA);
+    Tecla(ESPACIO);
+    EXPECT_EQ(clicks, 1);
+    Tecla(ESPACIO);
+    Tecla(RE_PAG);
+    Tecla(ESPACIO);
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_EQ(clicks, 1) << "it was let go over the strip";
+}
+
 TEST_F(CruzDelTeclado, LastPieceEndsTheGame) {
     Casi({5});
     VeA(5);
@@ -334,9 +351,11 @@ TEST_F(CruzDelTeclado, RTurnsThePieceUnderTheMouseToo) {
     Tecla('R');
     EXPECT_EQ(Gbl.Piezas[5].Giro, 1);
     EXPECT_FALSE(Mesa.ApuntaElTeclado());
-    // Over the strip the cross has no piece under it.
+    // Over the strip the cross has the strip under it, whatever lies below.
     Tecla(RE_PAG);
+    Pon(1, Gbl.CruzX - 50, Gbl.CruzY - 40);
     Tecla('R');
+    EXPECT_EQ(Gbl.Piezas[1].Giro, 0);
     EXPECT_EQ(Gbl.NumMovimientos, 1);
 }
 
@@ -505,6 +524,23 @@ TEST_F(CruzDelTeclado, TableIsDeafToItWhileAnotherHandlerIsAtWork) {
     EXPECT_FALSE(Gbl.CruzSujeta);
 }
 
+TEST_F(CruzDelTeclado, TableIsDeafToItWhileTheMouseTurnsAPiece) {
+    Casi({5, 9});
+    const Punto p = PuntoDe(5);
+    P().botones = BOTON_DERECHO;
+    P().alDejarPasar = [&] {
+        P().alDejarPasar = nullptr;
+        VeA(9);
+        Tecla(ESPACIO);
+        P().botones = 0;
+    };
+    Puntero.Mueve(p.x, p.y);
+    Puntero.Aprieta(BOTON_DERECHO);
+    EXPECT_EQ(Gbl.Piezas[5].Giro, 1);
+    EXPECT_EQ(Gbl.NumMovimientos, 1);
+    EXPECT_EQ(Gbl.OrdenPiezas[1], 5) << "piece 9 was not lifted";
+}
+
 TEST_F(CruzDelTeclado, CrossEndsTheSolverByItsButton) {
     Casi({1, 5, 9});
     Tecla(INICIO);
@@ -539,12 +575,14 @@ TEST_F(CruzDelTeclado, ArrowSlidesThePieceThatGoesThatWay) {
         EXPECT_EQ(Gbl.Movimientos[1].Pieza, c.piece);
         EXPECT_EQ(Sonidos(), (std::vector<int>{53}));
         EXPECT_FALSE(Mesa.ApuntaElTeclado()) << "no cross is needed for it";
-        Tecla(c.tecla, TECLA_REPETIDA, 3);
+        EXPECT_EQ(Gbl.CruzX, -1) << "and the mouse was nowhere yet";
+        Tecla(c.tecla);
+        EXPECT_EQ(Gbl.NumMovimientos, 1) << "the hole is at the edge now";
+        const auto vuelta = static_cast<i16>(c.tecla + (c.tecla < DERECHA ? 2 : -2));
+        Tecla(vuelta, TECLA_REPETIDA, 3);
         EXPECT_EQ(Gbl.NumMovimientos, 1) << "one move for each press";
-        // One cell is left on that side now, whose piece follows; then there is none.
-        Tecla(c.tecla);
-        Tecla(c.tecla);
-        EXPECT_EQ(Gbl.NumMovimientos, 1);
+        Tecla(vuelta);
+        EXPECT_EQ(Sitio(c.piece), antes);
     }
 }
 
@@ -626,7 +664,9 @@ TEST_F(CruzDelTeclado, ArrowsDoNothingToTheBoardWhileTheSolverOrAShuffleIsAtWork
         if (++vueltas > 3) return;
         const i16 numero = Gbl.NumMovimientos;
         const Punto hueco{Gbl.HuecoX, Gbl.HuecoY};
+        Gbl.NumVecinos = 0;
         for (const i16 t : {IZQUIERDA, ARRIBA, DERECHA, ABAJO}) Tecla(t);
+        EXPECT_EQ(Gbl.NumVecinos, 0) << "nor to what that work may hold";
         EXPECT_EQ(Gbl.NumMovimientos, numero);
         EXPECT_EQ((Punto{Gbl.HuecoX, Gbl.HuecoY}), hueco);
     };

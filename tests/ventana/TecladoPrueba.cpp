@@ -213,7 +213,8 @@ TEST(TecladoVentana, SlidingPuzzleIsPlayedToTheEnd) {
     EXPECT_EQ(leida.movimientos, 4);
 }
 
-// Pixels of the cross on the dark table: its white arms and their black edges.
+// White pixels, as the arms of the cross are: four of 14 by 3 within their black edge.
+constexpr int CRUZ = 4 * 14 * 3;
 int Cruces(const Foto& f, int x, int y, int w, int h) {
     return f.Cuenta(x, y, w, h, 0xFFFFFF);
 }
@@ -240,15 +241,14 @@ TEST(TecladoVentana, MouseThatMovesTakesTheCrossAwayAndDropsWhatItHolds) {
     // Half of the screen, which is the whole of a table on which figures are created.
     Mano mano(e, programa, {26 + ANCHO / 2, 26 + ALTO / 2});
     mano.AlPuzzle();
-    // Four arms of eleven pixels, one of them the white heart of an edge of three.
-    EXPECT_EQ(Cruces(e.Mira(), 498, 370, 80, 80), 44);
+    EXPECT_EQ(Cruces(e.Mira(), 498, 370, 80, 80), CRUZ);
     EXPECT_EQ(e.Mira().Diferencia(antes, 0, 0, 480, ALTO), 0);
     mano.Ve({705, 510});
     e.Tecla("space");
     mano.Ve({705, 210});
     const Foto enMano = e.Mira();
     enMano.Guarda("teclado-diseno");
-    EXPECT_GT(Cruces(enMano, 670, 200, 80, 80), 44) << "the cross, and the closed hand";
+    EXPECT_GT(Cruces(enMano, 670, 200, 80, 80), CRUZ) << "the cross, and the closed hand";
     e.Mueve(302, 101);
     e.EsperaQuieto();
     const Foto despues = e.Mira();
