@@ -13,6 +13,22 @@ inline constexpr Color CREMA = 0xD2E9F4;  // the tiles' glazes: ground, blue, an
 inline constexpr Color COBALTO = 0x9A3F1F;
 inline constexpr Color TERRACOTA = 0x3C51B2;
 
+// A text and the ground that it stands on. Whoever paints text in colours of the program takes them
+// from here; the test of the palette measures every row of TODAS.
+struct Tinta {
+    Color Texto, Fondo;
+};
+namespace tinta {
+inline constexpr Tinta TITULO{COBALTO, CREMA}, MENSAJE{NEGRO, CREMA};         // of windows on cream
+inline constexpr Tinta GRUPO{AZUL, GRIS_CLARO};                               // title of a group
+inline constexpr Tinta ETIQUETA{NEGRO, 0xF4FAFD}, VALOR{0x800080, 0xF4FAFD};  // lines of figures
+inline constexpr Tinta SUGERENCIA{AZUL, 0xD8EEF8};
+inline constexpr Tinta OPCION{NEGRO, CREMA}, OPCION_ELEGIDA{BLANCO, COBALTO};
+inline constexpr Tinta VISOR{0x323C32, 0xA0C3A0};  // of the clock and the counters
+inline constexpr const Tinta* TODAS[] = {&TITULO,     &MENSAJE, &GRUPO,          &ETIQUETA, &VALOR,
+                                         &SUGERENCIA, &OPCION,  &OPCION_ELEGIDA, &VISOR};
+}  // namespace tinta
+
 // How much two colours differ in lightness, 1 to 21: (L + 0.05) / (l + 0.05) of their relative
 // luminances. Text wants 4.5 at least.
 double Contraste(Color a, Color b);

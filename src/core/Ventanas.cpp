@@ -21,7 +21,8 @@ Ventana Careta;
 namespace {
 
 // Cream ground, cobalt title, terracotta edge and rule.
-using paleta::BLANCO, paleta::GRIS, paleta::CREMA, paleta::COBALTO, paleta::TERRACOTA;
+using paleta::BLANCO, paleta::GRIS, paleta::TERRACOTA;
+namespace tinta = paleta::tinta;
 constexpr i32 HOLGURA = 12;  // from a message to what it leaves in view, pixels
 constexpr i16 PAUSA_CARETA = 1500;
 constexpr i16 VELOCIDAD_INICIAL = 50;
@@ -220,11 +221,12 @@ void ConectaCareta() {
 void ReiniciaVentanas() {
     Mensajes = Ventana{};
     Mensajes.Nombre = "Mensajes";
-    Mensajes.PonBackColor(CREMA);
+    Mensajes.PonBackColor(tinta::MENSAJE.Fondo);
     ReiniciaEtiqueta(Tex_Titulo, "Tex_Titulo");
     Tex_Titulo.Font.Negrita = true;
-    Tex_Titulo.ForeColor = COBALTO;
+    Tex_Titulo.ForeColor = tinta::TITULO.Texto;
     ReiniciaEtiqueta(Tex_Mensaje, "Tex_Mensaje");
+    Tex_Mensaje.ForeColor = tinta::MENSAJE.Texto;
     Mensajes.Controles = {&Tex_Titulo, &Tex_Mensaje};
     for (const BotonMensaje& b : BOTONES) {
         *b.cuadro = Cuadro{};

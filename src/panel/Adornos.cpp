@@ -9,7 +9,7 @@ namespace tessario {
 
 namespace {
 
-using paleta::BLANCO, paleta::GRIS, paleta::AZUL;
+using paleta::BLANCO, paleta::GRIS;
 constexpr int RECTA = pluma::Desde | pluma::ConColor;
 constexpr int CAJA_DESDE = RECTA | pluma::Relativo | pluma::Caja;
 
@@ -57,7 +57,7 @@ void TextoConSombra(Superficie& destino, double x, double y, const std::string& 
     destino.CurrentX = x;
     destino.CurrentY = y;
     destino.Print(texto);
-    destino.ForeColor = AZUL;
+    destino.ForeColor = paleta::tinta::GRUPO.Texto;
     destino.FontTransparent = true;
     destino.CurrentX = x + 1;
     destino.CurrentY = y + 1;

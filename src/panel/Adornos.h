@@ -11,7 +11,7 @@
 namespace tessario {
 
 // The ground of the windows and of their groups.
-inline constexpr Color FONDO_VENTANA = paleta::GRIS_CLARO;
+inline constexpr Color FONDO_VENTANA = paleta::tinta::GRUPO.Fondo;
 inline constexpr i32 ALTO_BOTON_LARGO = 23;  // pixels; its width is the surface's own
 
 // A raised edge one pixel wide round the whole window.

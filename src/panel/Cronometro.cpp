@@ -23,9 +23,9 @@ constexpr i16 ZONA_INTERRUPTOR = 23;  // value of ZonaCrono over the switch
 constexpr Color MARCO_NEGRO = paleta::NEGRO, MARCO_GRIS = paleta::GRIS, MARCO_CLARO = 0xE0E0E0;
 
 // Colours of the display: ground, three inner edges from the outside in, text and its shadow.
-constexpr Color VISOR_FONDO = 10535840;
+constexpr Color VISOR_FONDO = paleta::tinta::VISOR.Fondo;
 constexpr Color VISOR_BORDES[3] = {5268560, 7243630, 9218700};
-constexpr Color VISOR_SOMBRA = 7705973, VISOR_TEXTO = 3292210;
+constexpr Color VISOR_SOMBRA = 7705973, VISOR_TEXTO = paleta::tinta::VISOR.Texto;
 struct EstiloVisor {
     Color marco, esquina;  // the whole outline; then its top and left side
 };

@@ -132,7 +132,8 @@ constexpr Rect MAS_AYUDA = RectDe(5, 3, 55, 19);
 constexpr i32 LADO_CERRAR = 19, MARGEN_CERRAR = 6, ARRIBA_CERRAR = 2;
 constexpr Punto ORIGEN_CERRAR = {234, 30};  // in Pic_BmpVario
 constexpr i32 LINEA_X = 3, LINEA_Y = 13, LINEA_PASO = 11;
-constexpr Color FONDO_PANEL = 0xD8EEF8, BORDE_PANEL = 0x406890, TEXTO_PANEL = paleta::AZUL;
+constexpr Color FONDO_PANEL = paleta::tinta::SUGERENCIA.Fondo, BORDE_PANEL = 0x406890,
+                TEXTO_PANEL = paleta::tinta::SUGERENCIA.Texto;
 const Fuente LETRA_PANEL{Familia::Sans, 11, false, false};  // its tails end above the next line
 const Fuente LETRA_ENLACE{Familia::Sans, 11, false, true};
 

@@ -90,14 +90,14 @@ QPalette Paleta() {
     q.setColor(QPalette::Base, CREMA);
     q.setColor(QPalette::AlternateBase, CREMA_OSCURA);
     q.setColor(QPalette::Text, TINTA);
-    q.setColor(QPalette::PlaceholderText, APAGADO);
+    q.setColor(QPalette::PlaceholderText, TINTA_APAGADA);
     q.setColor(QPalette::Button, BARRO);
     q.setColor(QPalette::ButtonText, COBALTO_OSCURO);
     q.setColor(QPalette::BrightText, ESMALTE);
     q.setColor(QPalette::Highlight, COBALTO);
     q.setColor(QPalette::HighlightedText, ESMALTE);
     q.setColor(QPalette::Link, COBALTO);
-    q.setColor(QPalette::LinkVisited, TERRACOTA);
+    q.setColor(QPalette::LinkVisited, VISITADO);
     q.setColor(QPalette::ToolTipBase, CREMA);
     q.setColor(QPalette::ToolTipText, COBALTO_OSCURO);
     q.setColor(QPalette::Light, ESMALTE);
@@ -106,9 +106,9 @@ QPalette Paleta() {
     q.setColor(QPalette::Dark, TERRACOTA);
     q.setColor(QPalette::Shadow, TERRACOTA_OSCURA);
     for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        q.setColor(QPalette::Disabled, papel, APAGADO);
+        q.setColor(QPalette::Disabled, papel, TINTA_APAGADA);
     q.setColor(QPalette::Disabled, QPalette::Base, CREMA_OSCURA);
-    q.setColor(QPalette::Disabled, QPalette::Highlight, APAGADO);
+    q.setColor(QPalette::Disabled, QPalette::Highlight, TINTA_APAGADA);
     q.setColor(QPalette::Inactive, QPalette::Highlight, COBALTO);
     return q;
 }

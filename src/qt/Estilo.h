@@ -26,7 +26,9 @@ inline const QColor ESMALTE{0xFF, 0xFE, 0xFA};
 inline const QColor ORO{0xFF, 0xD2, 0x4A};
 inline const QColor VERDE{0x1B, 0x7A, 0x3A};
 inline const QColor TINTA{0x24, 0x1C, 0x18};
-inline const QColor APAGADO{0x93, 0x8B, 0x82};
+inline const QColor APAGADO{0x93, 0x8B, 0x82};        // drawn parts of what is off
+inline const QColor TINTA_APAGADA{0x4A, 0x43, 0x3C};  // and its text
+inline const QColor VISITADO{0x96, 0x42, 0x24};
 
 // The ring around the control that has the keyboard.
 void Anillo(QPainter& p, QRect r);

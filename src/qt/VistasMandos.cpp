@@ -60,7 +60,7 @@ bool VistaMando::Encima() const {
 }
 
 QColor VistaMando::Tinta() const {
-    return control().Enabled ? COBALTO_OSCURO : APAGADO;
+    return control().Enabled ? COBALTO_OSCURO : TINTA_APAGADA;
 }
 
 QRect VistaMando::PintaRotulo(QPainter& p, QRect r, const std::string& texto,
@@ -292,8 +292,8 @@ void VistaPotenciometro::PintaEsfera(QPainter& p) const {
     QRadialGradient luz(pomo.center() - QPointF(pomo.width() / 6, pomo.height() / 5),
                         pomo.width() * 0.75);
     const QColor barro = k_.Enabled ? Esmalte(TERRACOTA) : BARRO;
-    luz.setColorAt(0, barro.lighter(135));
-    luz.setColorAt(1, barro.darker(112));
+    luz.setColorAt(0, barro);  // no lighter: the figures stand on it
+    luz.setColorAt(1, barro.darker(130));
     p.setPen(QPen(barro.darker(150), 1));
     p.setBrush(luz);
     p.drawEllipse(pomo);
@@ -303,7 +303,7 @@ void VistaPotenciometro::PintaEsfera(QPainter& p) const {
     p.setPen(QPen(ESMALTE, std::max(2.0, radio * 0.12), Qt::SolidLine, Qt::RoundCap));
     p.drawLine(pomo.center() + rumbo * radio * 0.62, pomo.center() + rumbo * radio * 0.88);
     p.setFont(anfitrion().textos().Letra(CIFRAS));
-    p.setPen(ESMALTE);
+    p.setPen(k_.Enabled ? ESMALTE : TINTA_APAGADA);
     p.drawText(pomo, Qt::AlignCenter, QString::number(k_.Value));
     if (!k_.Caption.empty())
         PintaRotulo(p, QRect(0, height() - RENGLON, width(), RENGLON), k_.Caption, Qt::AlignCenter);

@@ -22,8 +22,8 @@ namespace {
 
 constexpr i32 ANCHO_PANEL = 150, ALTO_FILA = 18, BORDE = 4;
 constexpr i32 TEXTO_X = 14;
-using paleta::GRIS, paleta::BLANCO, paleta::COBALTO, paleta::NEGRO;
-constexpr Color FONDO_PANEL = paleta::CREMA;
+using paleta::GRIS, paleta::BLANCO;
+constexpr Color FONDO_PANEL = paleta::tinta::OPCION.Fondo;
 const Fuente LETRA{Familia::Sans, 13, false, false};
 
 // What the window of saved puzzles opens for, by option.
@@ -54,8 +54,9 @@ void PintaFila(i16 opcion, i32 j) {
         LineaPanel(0, y - 2, w - 1, y - 2, BLANCO);
     }
     const bool resaltada = j + 1 == Gbl.OpcionResaltada;
-    if (resaltada) LineaPanel(2, y - 2, w - 3, y + 15, COBALTO, pluma::Caja | pluma::Llena);
-    Pic_SelOpciones.ForeColor = resaltada ? BLANCO : NEGRO;
+    const paleta::Tinta& tinta = resaltada ? paleta::tinta::OPCION_ELEGIDA : paleta::tinta::OPCION;
+    if (resaltada) LineaPanel(2, y - 2, w - 3, y + 15, tinta.Fondo, pluma::Caja | pluma::Llena);
+    Pic_SelOpciones.ForeColor = tinta.Texto;
     Pic_SelOpciones.CurrentX = TEXTO_X;
     Pic_SelOpciones.CurrentY = y;
     Pic_SelOpciones.Print(Gbl.TextosOpciones[opcion]);

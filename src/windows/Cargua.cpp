@@ -35,7 +35,6 @@ constexpr std::size_t LARGO_EXTENSION = 4;
 constexpr i32 LARGO_NOMBRE = 64;         // characters of a name
 constexpr i32 LARGO_NOMBRE_PUZZLE = 25;  // of the name that stands in the record
 constexpr i16 INTRO = 13;
-using paleta::COBALTO;
 
 // Window pixels. The texts were set for lines of this width.
 namespace lugar {
@@ -250,7 +249,7 @@ void ReiniciaControles() {
     Tex_TituloCargua = Etiqueta{};
     Tex_TituloCargua.Nombre = "Tex_Titulo";
     Tex_TituloCargua.Font.Negrita = true;
-    Tex_TituloCargua.ForeColor = COBALTO;
+    Tex_TituloCargua.ForeColor = paleta::tinta::TITULO.Texto;
     Tex_MensajeCargua = Etiqueta{};
     Tex_MensajeCargua.Nombre = "Tex_Mensaje";
     Lis_CarGua = Lista{};

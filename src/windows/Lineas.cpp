@@ -20,7 +20,8 @@ namespace {
 
 constexpr i32 ANCHO_PANEL = 398;
 constexpr i32 ETIQUETA_X = 20, PRIMERA_LINEA = 20, PASO = 15, CORTE = 10, BAJO_ULTIMA = 35;
-constexpr Color TINTA_ETIQUETA = paleta::NEGRO, TINTA_VALOR = 0x800080;
+constexpr Color TINTA_ETIQUETA = paleta::tinta::ETIQUETA.Texto,
+                TINTA_VALOR = paleta::tinta::VALOR.Texto;
 const Fuente LETRA{Familia::Mono, 12, false, false};
 constexpr i32 ANCHO_LETRA = 7;  // of every character of that font, pixels
 

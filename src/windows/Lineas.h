@@ -4,13 +4,14 @@
 
 #include <string>
 
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "platform/Controles.h"
 
 namespace tessario {
 
-inline constexpr i32 LINEAS_VALOR_X = 178;       // left edge of the values, pixels
-inline constexpr Color PAPEL_LINEAS = 0xF4FAFD;  // ground of the panel
+inline constexpr i32 LINEAS_VALOR_X = 178;  // left edge of the values, pixels
+inline constexpr Color PAPEL_LINEAS = paleta::tinta::VALOR.Fondo;  // ground of the panel
 
 // Which window asks, and what it asks about.
 struct Ficha {

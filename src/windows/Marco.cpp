@@ -43,7 +43,7 @@ void EnmarcaVentana(Ventana& v) {
 
 void TitulaVentana(Ventana& v, i32 x, const std::string& titulo) {
     v.Font = LETRA_TITULO;
-    v.ForeColor = COBALTO;
+    v.ForeColor = paleta::tinta::TITULO.Texto;
     const i32 mitad = v.TextWidth(titulo) / 2;
     v.CurrentX = x - mitad;
     v.CurrentY = TITULO_ARRIBA;

@@ -16,7 +16,7 @@ inline constexpr i32 LADO_BOTON = 48;  // of a square button, pixels
 inline constexpr i32 ENTRE_BOTONES = 15;
 inline constexpr i32 PIE_VENTANA = 17;  // below the buttons
 
-inline constexpr Color CREMA_VENTANA = paleta::CREMA;  // the ground, as in messages
+inline constexpr Color CREMA_VENTANA = paleta::tinta::TITULO.Fondo;  // the ground, as in messages
 
 // Gives the window its size, the middle of the screen, and its ground with its frame.
 void PreparaVentana(Ventana& v, i32 ancho, i32 alto);
