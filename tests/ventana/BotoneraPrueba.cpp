@@ -154,6 +154,9 @@ TEST(BotoneraVentana, JigsawButtonsDoWhatTheyAreFor) {
     for (std::size_t i = 0; i < 8; ++i) {
         const Centro c = CentroDe(p.piezas[i]);
         EXPECT_EQ(colores.En(c.x, c.y), i < 2 ? VERDE : ROJO) << i + 1;
+        // The left edge: one black line, or dashes of eight rows, beginning with a black one.
+        const int negros = colores.Cuenta(p.piezas[i].x, p.piezas[i].y, 1, 120, 0);
+        EXPECT_EQ(negros, i < 2 ? 120 : 64) << i + 1;
     }
     j.programa.PulsaBoton(10);
     EXPECT_EQ(j.Mira().Diferencia(normal, 0, 0, BOTONERA, ALTO), 0);

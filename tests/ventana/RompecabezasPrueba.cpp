@@ -66,6 +66,9 @@ TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
     ASSERT_TRUE(e.Espera([&] { return e.HayVentana("TESSARIO"); }));
     e.EsperaQuieto();
     e.Mira().Guarda("rompecabezas-fin");
+    Escritorio::Marco marco;
+    ASSERT_TRUE(e.BuscaVentana("TESSARIO", marco));
+    EXPECT_TRUE(marco.x >= 480 || marco.y >= 360) << "clear of the finished picture";
     e.Tecla("Return");
     e.EsperaQuieto();
     const Foto fin = e.Mira();
