@@ -12,6 +12,10 @@ inline constexpr Color AZUL = 0xFF0000, VERDE = 0x00FF00, ROJO = 0x0000FF;
 inline constexpr Color CREMA = 0xD2E9F4;  // the tiles' glazes: ground, blue, and the warm red
 inline constexpr Color COBALTO = 0x9A3F1F;
 inline constexpr Color TERRACOTA = 0x3C51B2;
+inline constexpr Color TEJA = 0x4060C0;  // frame of a table in small, ground beside a preview
+
+// The table of a player who has not chosen yet.
+inline constexpr Color FONDO_MESA = 0x800000, PIEZAS_MESA = 0x008000, CONTRASTE_MESA = BLANCO;
 
 // A text and the ground that it stands on. Whoever paints text in colours of the program takes them
 // from here; the test of the palette measures every row of TODAS.

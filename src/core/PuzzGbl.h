@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/Numeros.h"
+#include "core/Paleta.h"
 #include "platform/Region.h"
 #include "platform/Superficie.h"
 #include "platform/Tipos.h"
@@ -84,14 +85,14 @@ struct DatosAjustes {
     Booleano AtraccionPiezas = true;  // Tangram pieces attract each other
     i16 FactorAtraccion = 20;         // percent, 0 to 100
     i16 ZoomImagen = 100;             // percent of the image's stored size; 100 in games 22, 23
-    std::string NombreJugador = "MiNombre";  // at most 9 characters, without the padding blanks
-    Color ColorFondo = 0x800000;             // of the table
-    Color ColorPiezas = 0x008000;            // of pieces without a picture
+    std::string NombreJugador = "MiNombre";   // at most 9 characters, without the padding blanks
+    Color ColorFondo = paleta::FONDO_MESA;    // of the table
+    Color ColorPiezas = paleta::PIEZAS_MESA;  // of pieces without a picture
 };
 
 // ---------------------------------------------------------------- colours that follow from those
 struct DatosColores {
-    Color ColorContraste = 0xFFFFFF;                    // text and figures on the table
+    Color ColorContraste = paleta::CONTRASTE_MESA;      // text and figures on the table
     Color ColorFondoClaro = 0, ColorFondoOscuro = 0;    // ColorFondo + 40 and - 40 a channel
     Color ColorPiezasClaro = 0, ColorPiezasOscuro = 0;  // the same of ColorPiezas
 };

@@ -1,5 +1,7 @@
 #include "core/Superficies.h"
 
+#include "core/Paleta.h"
+
 namespace tessario {
 
 Ventana Mesa;
@@ -29,7 +31,7 @@ void ReiniciaSuperficies() {
     Pic_Moldes = {};
     // Masks and templates: closed figures come out filled in black on a white ground.
     for (Superficie* s : {&Pic_PiezaMascara, &Pic_Temporal}) s->FillSolido = true;
-    Pic_PiezaColor.PonBackColor(0x00FF00);
+    Pic_PiezaColor.PonBackColor(paleta::VERDE);
 
     const struct {
         Cuadro* cuadro;

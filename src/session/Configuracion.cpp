@@ -68,9 +68,9 @@ void AvisaImagenPerdida(i16 numero) {
 
 void AjustesPorDefecto() {
     Gbl.NombreJugador = "MiNombre";
-    Gbl.ColorFondo = 0x800000;
-    Gbl.ColorPiezas = 0x008000;
-    Gbl.ColorContraste = 0xFFFFFF;
+    Gbl.ColorFondo = paleta::FONDO_MESA;
+    Gbl.ColorPiezas = paleta::PIEZAS_MESA;
+    Gbl.ColorContraste = paleta::CONTRASTE_MESA;
     CalculaColores();
     Gbl.MostrarMuestra = JuegoEnCurso().MuestraPorDefecto;
     Gbl.ModeloActual = 1;

@@ -12,6 +12,7 @@
 #include "pieces/Formas.h"
 #include "platform/Plataforma.h"
 #include "records/Modelos.h"
+#include "rules/Catalogo.h"
 #include "rules/Colores.h"
 #include "rules/Juego.h"
 #include "rules/Medidas.h"
@@ -29,7 +30,7 @@ namespace {
 
 constexpr i16 TECLA_ESCAPE = 27, TECLA_AYUDA = 112, TECLA_PEGAR = 'V';
 constexpr i16 TECLA_IZQUIERDA = 37, TECLA_ARRIBA = 38, TECLA_DERECHA = 39, TECLA_ABAJO = 40;
-constexpr i32 FORMAS = 8, FORMAS_POR_FILA = 4;
+constexpr i32 FORMAS_POR_FILA = 4;
 
 // A step in a grid for an arrow key; none for another key.
 Punto PasoDe(i16 KeyCode) {
@@ -154,7 +155,7 @@ void Pic_TipPuzSel_KeyDown(i16 KeyCode) {
     const Punto paso = PasoDe(KeyCode);
     const i32 salto = paso.x + FORMAS_POR_FILA * paso.y;
     if (salto == 0) return;
-    for (i32 i = Gbl.FormaPiezas + salto; i >= 0 && i < FORMAS; i += salto)
+    for (i32 i = Gbl.FormaPiezas + salto; i >= 0 && i < FORMAS_DE_PIEZA; i += salto)
         if (Pic_TipPuz[i].Enabled) {
             Pulsa(Pic_TipPuz[i]);
             return;
@@ -312,7 +313,7 @@ void ConectaCambios() {
     Lis_Modelos.KeyPress = Atiende(Lis_Modelos_KeyPress);
     Lis_NroPiezas.Click = Atiende(Lis_NroPiezas_Click);
     Spin1.Change = Atiende(Spin1_Change);
-    for (i16 i = 0; i < FORMAS; ++i)
+    for (i16 i = 0; i < FORMAS_DE_PIEZA; ++i)
         Pic_TipPuz[i].MouseDown = AlApretar([i] { Pic_TipPuz_MouseDown(i); });
     Pic_TipPuzSel.KeyDown = [](i16 KeyCode, i16) {
         Sigue([&] { Pic_TipPuzSel_KeyDown(KeyCode); });

@@ -8,6 +8,7 @@
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
 #include "core/Errores.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -34,7 +35,7 @@ namespace {
 
 constexpr i32 ORILLA_VISTA = 4;  // pixels by which the preview is smaller than its box
 constexpr i16 ESTILO_VISOR = 1;
-constexpr Color RESTO_PANTALLA = 0x4060C0;
+constexpr Color RESTO_PANTALLA = paleta::TEJA;
 constexpr std::uintmax_t FICHERO_GRANDE = 512U * 1024;  // bytes; reading it shows the hourglass
 constexpr float TRES_CUARTOS = 4.0F / 3.0F;
 

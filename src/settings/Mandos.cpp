@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Cadenas.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -76,7 +77,7 @@ constexpr i32 COLOR_MARCA = COLOR_LADO + 2;
 // Files of Pic_BmpBoton.
 constexpr i32 TESELA_AYUDA = 294, TESELA_SALIR = 343, TESELA_FILA = 49;
 
-constexpr Color MARCO_ELEGIDA = 0x9A3F1F, BLANCO = 0xFFFFFF, NEGRO = 0, GRIS = 0x808080;
+constexpr Color MARCO_ELEGIDA = paleta::COBALTO;
 constexpr int RECTA = pluma::Desde | pluma::ConColor;
 
 void Coloca(Control& c, const Sitio& s) {
@@ -334,7 +335,7 @@ void ColocaPrograma(const Juego& juego) {
 
 // Washed out towards the ground: what cannot be chosen.
 void Apaga(Cuadro& c) {
-    constexpr Pixel suelo = 0xC0C0C0;
+    constexpr Pixel suelo = paleta::GRIS_CLARO;
     for (i32 y = 0; y < c.Height(); ++y) {
         Pixel* const fila = c.Fila(y);
         // Three parts of ground, one of picture, each channel in its own byte.
@@ -362,8 +363,8 @@ void PonMarca(CampoColor& campo, Color color) {
     if (!campo.Marca.Visible) return;
     campo.Marca.Mueve(p.x - 1, p.y - 1);
     constexpr i32 fin = COLOR_MARCA - 1;
-    campo.Marca.Line(RECTA | pluma::Caja | pluma::Llena, 0, 0, fin, fin, NEGRO);
-    campo.Marca.Line(RECTA | pluma::Caja | pluma::Llena, 1, 1, fin - 1, fin - 1, BLANCO);
+    campo.Marca.Line(RECTA | pluma::Caja | pluma::Llena, 0, 0, fin, fin, paleta::NEGRO);
+    campo.Marca.Line(RECTA | pluma::Caja | pluma::Llena, 1, 1, fin - 1, fin - 1, paleta::BLANCO);
     campo.Marca.Line(RECTA | pluma::Caja | pluma::Llena, 2, 2, fin - 2, fin - 2, color);
 }
 
@@ -426,7 +427,7 @@ void PintaFormas() {
     Pic_TipPuzMarco.Mueve(elegida.Left - MARCO_SALE, elegida.Top - MARCO_SALE);
     Pic_TipPuzMarco.PonBackColor(MARCO_ELEGIDA);
     const i32 fin = Pic_TipPuzMarco.Width() - 1;
-    Pic_TipPuzMarco.Line(RECTA | pluma::Caja, 1, 1, fin - 1, fin - 1, BLANCO);
+    Pic_TipPuzMarco.Line(RECTA | pluma::Caja, 1, 1, fin - 1, fin - 1, paleta::BLANCO);
     Pic_TipPuzSel.NombreAccesible = "Forma de las piezas: " + Gbl.NombresFormas[Gbl.FormaPiezas];
 }
 
@@ -445,7 +446,7 @@ void PintaColores(CampoColor& campo, Color color) {
     PonMarca(campo, color);
     Cuadro& m = campo.Muestra;
     m.PonBackColor(color);
-    m.Line(RECTA | pluma::Caja, 0, 0, m.Width() - 1, m.Height() - 1, GRIS);
+    m.Line(RECTA | pluma::Caja, 0, 0, m.Width() - 1, m.Height() - 1, paleta::GRIS);
     const char* const cual = &campo == &ColFon ? "Color de fondo: " : "Color de las piezas: ";
     s.NombreAccesible = cual + TextoColor(color);
     m.ToolTipText = TextoColor(color);

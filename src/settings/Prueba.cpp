@@ -1,6 +1,7 @@
 #include "settings/Prueba.h"
 
 #include "core/Numeros.h"
+#include "core/Paleta.h"
 #include "core/PuzzGbl.h"
 #include "core/Servicios.h"
 #include "core/Superficies.h"
@@ -22,7 +23,7 @@ constexpr i32 CELDAS_X[] = {5, 35, 65, 95}, CELDAS_Y[] = {5, 29, 53};
 constexpr i32 CELDA_ANCHO = 29, CELDA_ALTO = 23;
 constexpr i32 TESELA_X = 102, TESELA_Y = 3;
 constexpr i32 HUECO_X = 95, HUECO_Y = 4;
-constexpr Color MARCO = 0x4060C0, HUECO = 0xC0C0C0;
+constexpr Color MARCO = paleta::TEJA, HUECO = paleta::GRIS_CLARO;
 
 // The piece's way, a pixel to the right and one up at each step: first by hand, then by itself.
 constexpr i32 SALIDA_X = 53, SALIDA_Y = 45;

@@ -1,4 +1,6 @@
 #include "apoyo/MesaMoviles.h"
+#include "apoyo/MesaTangram.h"
+#include "records/Modelos.h"
 #include "rules/PuzzBas.h"
 #include "table/Colocacion.h"
 
@@ -129,6 +131,40 @@ TEST_F(Colocacion, EachPieceOfTheSolutionSoundsAndIsFollowedByItsPauses) {
     ResuelvePuzzle();
     EXPECT_EQ(P().sonidos, (std::vector<std::pair<i16, bool>>{{51, false}}));
     EXPECT_DOUBLE_EQ(P().dormido - antes, 6 + 15) << "a step, and the rest after it";
+}
+
+TEST_F(Colocacion, TheSolutionRestsAfterATurn) {
+    Monta(0, 3, 300, 240);
+    Coloca(4, Gbl.Piezas[4].XBien, Gbl.Piezas[4].YBien, 1);  // in its place but turned
+    Gbl.Movimientos.Redimensiona(100);
+    Gbl.ResolviendoPuzzle = true;
+    Gbl.VelocidadJuego = 50;
+    const double antes = P().dormido;
+    ResuelvePuzzle();
+    EXPECT_EQ(Gbl.Piezas[4].Giro, 0);
+    EXPECT_DOUBLE_EQ(P().dormido - antes, 160 + 110 + 6 + 15)
+        << "the turn's own, the rest after it, a step back to the place, the rest there";
+}
+
+TEST_F(Colocacion, TheSolutionRestsAfterTurningOver) {
+    AbreTangram(MODO_CREAR);
+    Gbl.ModoJuego = MODO_RESOLVER;
+    Gbl.CarpetaArchivo = CARPETA_MODELOS;
+    Gbl.ModeloActual = 1;
+    LeeModelo();
+    CalculaTamanos();
+    for (i16 i = 1; i <= PIEZAS_TANGRAM; ++i) {
+        Pieza& p = Gbl.Piezas[i];
+        PonPieza(i, p.XBien, p.YBien, p.GiroBien, p.VolteoBien);
+    }
+    Gbl.Piezas[PIEZAS_TANGRAM].Volteo = static_cast<i16>(1 - Gbl.Piezas[PIEZAS_TANGRAM].VolteoBien);
+    PintaTodo();
+    Gbl.ResolviendoPuzzle = true;
+    Gbl.VelocidadJuego = 50;
+    const double antes = P().dormido;
+    ResuelvePuzzle();
+    EXPECT_EQ(Gbl.Piezas[PIEZAS_TANGRAM].Volteo, Gbl.Piezas[PIEZAS_TANGRAM].VolteoBien);
+    EXPECT_DOUBLE_EQ(P().dormido - antes, 110 + 15) << "the rest after it, the rest in the place";
 }
 
 TEST_F(Colocacion, SolvingPutsEveryPieceHomeTurnedAndLogged) {

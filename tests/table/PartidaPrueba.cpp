@@ -258,6 +258,15 @@ TEST_F(Partida, JigsawThatIsTakenBackShowsItsJointsAgain) {
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, conJuntas);
 }
 
+TEST_F(Partida, TheFinishedPuzzleStandsHalfASecondBeforeItIsPraised) {
+    Moviles(3, 300, 300);
+    Gbl.VelocidadJuego = 50;
+    const double antes = P().dormido;
+    FinDeJuego();
+    EXPECT_DOUBLE_EQ(P().dormido - antes, 500);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+}
+
 TEST_F(Partida, HistoryThatCannotBeWrittenIsReportedByNumber) {
     Moviles(3, 300, 300);
     Gbl.CarpetaPrograma = P().carpeta + "no/existe/";
