@@ -36,9 +36,7 @@ int main(int argc, char** argv) {
         std::fputs(SIN_PANTALLA, stderr);
         return 1;
     }
-    // Whole factors only: a picture box's pixel is a square of the screen's pixels.
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+    PideEscalaEntera();
     CallaQuejas();
     int sinArgumentos = 1;
     Q_UNUSED(argc)

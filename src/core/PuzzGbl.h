@@ -234,8 +234,20 @@ struct DatosComposicion {
 
 // ---------------------------------------------------------------- mouse machine
 // Something that the player has done and that waits for its turn: what happens on the table, a key,
-// and what is asked of the strip and of the options panel.
-enum class Suceso : u8 { Aprieta, Mueve, Suelta, Click, Rueda, Tecla, Orden, Opcion, Mando };
+// and what is asked of the strip and of the options panel, or that the
+// screen has changed its size.
+enum class Suceso : u8 {
+    Aprieta,
+    Mueve,
+    Suelta,
+    Click,
+    Rueda,
+    Tecla,
+    Orden,
+    Opcion,
+    Mando,
+    Pantalla
+};
 struct EntradaTabla {
     Suceso Que = Suceso::Mueve;
     i16 Numero = 0;      // mouse button; notches of the wheel; character; command or option

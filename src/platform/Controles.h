@@ -258,6 +258,8 @@ struct Ventana : Superficie {
     // Something was dropped on the window or on one of its controls; a window without this event
     // takes nothing. It comes when the drag is over, so a handler may open another window.
     std::function<void(const Traido& traido)> DragDrop;
+    // The screen that the window fills has another size now.
+    std::function<void()> Resize;
 };
 
 // Corner of a control in its window's pixels.

@@ -3,9 +3,12 @@
 #include <dlfcn.h>
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QString>
 #include <QtGlobal>
+#include <algorithm>
+#include <charconv>
 
 namespace tessario {
 
@@ -35,7 +38,37 @@ bool HayWayland() {
     return !plataformas.entryList({QStringLiteral("libqwayland*")}).isEmpty();
 }
 
+std::string EscalaEntera(std::string_view factor) {
+    double v = 0;
+    const char* const fin = factor.data() + factor.size();
+    const auto [hasta, error] = std::from_chars(factor.data(), fin, v);
+    constexpr double MAYOR = 64;
+    if (error != std::errc() || hasta != fin || !(v >= 0 && v < MAYOR)) return std::string(factor);
+    return std::to_string(std::max(1, static_cast<int>(v)));
+}
+
 }  // namespace
+
+std::string EscalasEnteras(std::string_view valor) {
+    std::string enteras;
+    while (true) {
+        const std::string_view parte = valor.substr(0, valor.find(';'));
+        const std::size_t numero = parte.rfind('=') + 1;  // 0 when there is no name
+        enteras += std::string(parte.substr(0, numero)) + EscalaEntera(parte.substr(numero));
+        if (parte.size() == valor.size()) return enteras;
+        enteras += ';';
+        valor.remove_prefix(parte.size() + 1);
+    }
+}
+
+void PideEscalaEntera() {
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+    // These pass by the policy.
+    for (const char* variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"})
+        if (const QByteArray valor = qgetenv(variable); !valor.isEmpty())
+            qputenv(variable, QByteArray::fromStdString(EscalasEnteras(valor.toStdString())));
+}
 
 bool HayPantalla() {
     // Whoever names a platform that needs no display knows what they do.

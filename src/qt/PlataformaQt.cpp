@@ -27,6 +27,7 @@ constexpr long long PASO_NS = 4'000'000;  // between two looks at the window sys
 constexpr long long SEGUIDA_NS = 20'000;  // a call that comes sooner did nothing in between
 constexpr int SEGUIDAS_LIBRES = 300;      // so many of them before the loop is made to rest
 constexpr unsigned long DESCANSO_US = 1000;
+constexpr int REPOSO_PANTALLA_MS = 150;
 
 // Leaves a handler that still runs when the program ends. No run-time error of the game, so that
 // nothing on the way takes it for one.
@@ -46,6 +47,20 @@ PlataformaQt::PlataformaQt() {
     QObject::connect(&copiado_, &QTimer::timeout, [this] {
         if (AlCopiar) Entrega(AlCopiar);
     });
+    // A change comes in several parts: size, place, which screen is the first.
+    pantalla_.setSingleShot(true);
+    pantalla_.setInterval(REPOSO_PANTALLA_MS);
+    QObject::connect(&pantalla_, &QTimer::timeout, [this] { CambiaPantalla(); });
+    auto* const app = qGuiApp;
+    const auto sigue = [this](QScreen* s) {
+        if (s)
+            QObject::connect(s, &QScreen::geometryChanged, &pantalla_,
+                             [this] { pantalla_.start(); });
+    };
+    for (QScreen* const s : QGuiApplication::screens()) sigue(s);
+    QObject::connect(app, &QGuiApplication::screenAdded, &pantalla_, sigue);
+    QObject::connect(app, &QGuiApplication::primaryScreenChanged, &pantalla_,
+                     [this] { pantalla_.start(); });
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -221,6 +236,17 @@ void PlataformaQt::Mira() {
     const QWidget* const modal = QApplication::activeModalWidget();
     if (vista && (!modal || modal == vista->window()))
         vista->Mira(vista->mapFromGlobal(QPointF(p)));
+}
+
+// The windows find their places again; whoever fills the screen is told.
+void PlataformaQt::CambiaPantalla() {
+    if (terminando_) return;
+    Sincroniza(true);
+    const std::vector<VistaVentana*> ahora = abiertas_;
+    for (VistaVentana* const v : ahora) {
+        const bool abierta = std::find(abiertas_.begin(), abiertas_.end(), v) != abiertas_.end();
+        if (abierta && v->ventana().Resize) Entrega(v->ventana().Resize);
+    }
 }
 
 void PlataformaQt::Minimiza(Ventana& v) {

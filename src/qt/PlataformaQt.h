@@ -87,6 +87,7 @@ private:
     void Sincroniza(bool ya);
     void AnclaAyuda();
     void Mira();
+    void CambiaPantalla();
 
     std::vector<VistaVentana*> abiertas_;  // from the bottom up
     std::unique_ptr<VentanaAyuda> ayuda_;
@@ -97,6 +98,7 @@ private:
     int seguidas_ = 0;            // calls that came at once after the one before
     QTimer espera_;               // until the next look under the pointer
     QTimer copiado_;              // until AlCopiar is told
+    QTimer pantalla_;             // until a change of the screen has settled
     bool forzada_ = false;        // it tells though nothing has changed places
     bool terminando_ = false, enMarcha_ = false, sincronizando_ = false;
 };

@@ -56,9 +56,14 @@ bool VistaVentana::EsMia(const Vista* v) const {
 }
 
 QRect VistaVentana::Sitio() const {
-    if (ventana_.PantallaCompleta) return QGuiApplication::primaryScreen()->geometry();
-    return {ventana_.Left, ventana_.Top, std::max(ventana_.Width(), 1),
-            std::max(ventana_.Height(), 1)};
+    const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
+    if (ventana_.PantallaCompleta) return pantalla;
+    // The record counts from the corner of the screen that the table fills; a screen that has
+    // become smaller still has the whole window, or its upper left corner.
+    const int ancho = std::max(ventana_.Width(), 1), alto = std::max(ventana_.Height(), 1);
+    const int x = std::min(ventana_.Left, std::max(0, pantalla.width() - ancho));
+    const int y = std::min(ventana_.Top, std::max(0, pantalla.height() - alto));
+    return {pantalla.x() + x, pantalla.y() + y, ancho, alto};
 }
 
 // --- Keeping in step.

@@ -144,6 +144,21 @@ void MontaSinImagen() {
     MontaMesa(1);
 }
 
+// ---------------------------------------------------------------- another screen
+
+// The picture of the puzzle again, from the zoomed one, with the margins that it has now. Its file
+// may have gone since. x and y: the margins that it had.
+void CambiaMargenes(i32 x, i32 y) {
+    const i32 w = Pic_FonTamModi.Width() - x, h = Pic_FonTamModi.Height() - y;
+    if (w <= 0 || h <= 0 || Gbl.AnchoImagen <= 0 || Gbl.AltoImagen <= 0) return;
+    Pic_FonTamReal.TamanoLimpio(Gbl.AnchoImagen, Gbl.AltoImagen);
+    StretchBlt(Pic_FonTamReal, 0, 0, Gbl.AnchoImagen, Gbl.AltoImagen, Pic_FonTamModi, x, y, w, h,
+               SRCCOPY);
+    Pic_FonTamReal.PonPicture(Pic_FonTamReal.Image());
+    AmpliaImagen();
+    VaciaReal();
+}
+
 // ---------------------------------------------------------------- reading
 
 void LeeRutas(const std::vector<std::string>& lineas) {
@@ -227,6 +242,18 @@ void LeePuzzle(const std::string& bytes) {
     else
         MontaConImagen();
     JuegoEnCurso().TrasMontar();
+}
+
+void RehazMesa() {
+    const i32 x = Gbl.MargenX, y = Gbl.MargenY;
+    CalculaTamanos();
+    JuegoEnCurso().AdaptaTablero();
+    if (JuegoEnCurso().Imagen == UsoDeImagen::Ninguno) {
+        MontaSinImagen();
+        return;
+    }
+    if (Gbl.MargenX != x || Gbl.MargenY != y) Sigue([&] { CambiaMargenes(x, y); });
+    MontaMesa(1);
 }
 
 i16 GuardaPuzzle(const std::string& Ruta) {

@@ -11,6 +11,8 @@ namespace tessario {
 std::string EscribePuzzle();
 // Takes the state from the bytes of a file and rebuilds the table. Errors stay pending.
 void LeePuzzle(const std::string& bytes);
+// Lays the game in play again, its pieces where they are, on a screen whose size has changed.
+void RehazMesa();
 // Writes the whole state, replacing what is there. 0, or the error number.
 i16 GuardaPuzzle(const std::string& Ruta);
 // Reads a record; CargaCorrecta says whether it could be opened.

@@ -12,7 +12,6 @@
 #include "core/Ventanas.h"
 #include "panel/Botonera.h"
 #include "panel/Cronometro.h"
-#include "panel/Desplazamiento.h"
 #include "panel/Sugerencias.h"
 #include "platform/Plataforma.h"
 #include "records/Archivo.h"
@@ -27,6 +26,7 @@
 #include "start/Juegos.h"
 #include "table/Mesa.h"
 #include "table/Ordenes.h"
+#include "table/Resolucion.h"
 #include "windows/Cargua.h"
 #include "windows/Estadis.h"
 #include "windows/Historic.h"
@@ -36,7 +36,6 @@ namespace tessario {
 namespace {
 
 constexpr i32 ANCHO_MINIMO = 800, ALTO_MINIMO = 600;  // display mode offered below that width
-constexpr i32 BORDE_MESA = 2;                         // Mesa reaches out of the screen by that
 
 constexpr const char* FICHERO_SONDA = "CSCD.WRK";
 // The models as they came with the program, beside the player's own file.
@@ -181,8 +180,7 @@ void CargaMesa() {
 void SituaMesa() {
     Mesa.Left = Mesa.Top = 0;
     Mesa.PantallaCompleta = true;
-    Mesa.Tamano(Gbl.AnchoPantalla + BORDE_MESA, Gbl.AltoPantalla + BORDE_MESA);
-    QuitaBarras();  // the strip and the sizes go by the visible table
+    DimensionaMesa();
 }
 
 void AbreMesa() {

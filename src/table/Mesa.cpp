@@ -18,6 +18,7 @@
 #include "table/Opciones.h"
 #include "table/Ordenes.h"
 #include "table/Raton.h"
+#include "table/Resolucion.h"
 #include "table/Tareas.h"
 
 namespace tessario {
@@ -68,6 +69,9 @@ void Entrega(const EntradaTabla& e) {
             break;
         case Suceso::Mando:
             CumpleMando();
+            break;
+        case Suceso::Pantalla:
+            CambiaResolucion();
             break;
     }
 }
@@ -242,6 +246,15 @@ void ConectaVentana() {
     };
     Mesa.DragDrop = [](const Traido& traido) {
         if (!DentroDeTarea()) Atiende([&] { LlevaAPersonal([&] { return TomaTraido(traido); }); });
+    };
+    // Work under way is ended first: it counts in the pixels of the old screen.
+    Mesa.Resize = [] {
+        if (DentroDeTarea() || Gbl.ManejadoresEnCurso > 0) {
+            TerminaTareas();
+            Aplaza(Suceso::Pantalla);
+        } else {
+            Recibe({Suceso::Pantalla});
+        }
     };
     // Closing the window from outside asks like the exit button does; when the answer is yes, that
     // has closed the window already.
