@@ -158,8 +158,10 @@ TEST_F(PersonalVentana, LeavingWithNothingChangedDoesNothing) {
     const auto antes = Piezas();
     const Imagen zoom = Pic_FonTamModi.Image();
     Gbl.SegundosJuego = 77;
+    Personal.MousePointer = PUNTERO_RELOJ;
     Visita([&] {
         EXPECT_TRUE(HayCopia());
+        EXPECT_EQ(Personal.MousePointer, PUNTERO_NORMAL);
         Sal();
         EXPECT_FALSE(Personal.Abierta);
     });
@@ -517,10 +519,14 @@ TEST_F(PersonalVentana, GroundOfTheSlidingPuzzleAsksAndEnablesTheLists) {
 TEST_F(PersonalVentana, ThereAndBackOfTheGroundChangesNothing) {
     PonImagen("a.bmp", 900, 900);
     Deslizantes(4);
+    Gbl.ColorFondo = 0x123456;
     const std::string registro = EscribePuzzle();
     Visita([&] {
+        EXPECT_EQ(Pic_MostrarImagen.Point(5, 5), 0x123456U) << "numbers have no picture";
         Sel(2).Pon(1);
+        EXPECT_NE(Pic_MostrarImagen.Point(120, 90), 0x123456U);
         Sel(2).Pon(2);
+        EXPECT_EQ(Pic_MostrarImagen.Point(120, 90), 0x123456U);
         EXPECT_FALSE(File1.Enabled);
         Sal();
     });

@@ -85,6 +85,10 @@ TEST_F(PruebaAtraccion, TheTableInSmallHasTwelveCellsLessAHole) {
         EXPECT_EQ(Pic_Prueba.Width(), 131);
         EXPECT_EQ(Pic_Prueba.Point(4, 4), 0x4060C0U);
         EXPECT_EQ(Pic_Prueba.Point(124, 76), 0x4060C0U);
+        EXPECT_EQ(Pic_Prueba.Point(60, 76), 0x4060C0U);
+        EXPECT_NE(Pic_Prueba.Point(60, 77), 0x4060C0U);
+        EXPECT_EQ(Pic_Prueba.Point(124, 60), 0x4060C0U);
+        EXPECT_NE(Pic_Prueba.Point(125, 60), 0x4060C0U);
         const auto tesela = [](i32 x, i32 y) {
             const Pixel p = PixelDe(Pic_Prueba.Point(x, y));
             return Punto{static_cast<i32>((p >> 8) & 0xFFFU), static_cast<i32>(p & 0xFFU)};
