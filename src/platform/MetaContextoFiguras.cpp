@@ -204,11 +204,11 @@ void ContextoMeta::Poligonos(const std::vector<std::vector<PuntoD>>& p, bool cer
 // breadth or no height.
 std::optional<ContextoMeta::CajaFigura> ContextoMeta::Caja(PuntoD a, PuntoD b, bool girada) const {
     const Matriz m = AlDispositivo();
-    const PlumaMeta pluma = PlumaViva();
-    const bool encoge = pluma.Dentro && !pluma.Fina && !pluma.Nula && !ReglasEmf;
-    const double dentro = encoge ? pluma.Ancho / 2 : 0;
     CajaFigura c;
     if (m.Recta() || (!girada && !enCamino_)) {
+        const PlumaMeta pluma = PlumaViva();
+        const bool encoge = pluma.Dentro && !pluma.Fina && !pluma.Nula && !ReglasEmf;
+        const double dentro = encoge ? pluma.Ancho / 2 : 0;
         const double borde = ReglasEmf && pluma.Nula ? 0 : 1;
         const PuntoD p = Redondo(a), q = Redondo(b);
         const double izq = std::min(p.x, q.x), der = std::max(p.x, q.x) - borde;
@@ -223,11 +223,6 @@ std::optional<ContextoMeta::CajaFigura> ContextoMeta::Caja(PuntoD a, PuntoD b, b
     c.Centro = m.De({(a.x + b.x) / 2, (a.y + b.y) / 2});
     c.EjeX = m.Vector({std::abs(b.x - a.x) / 2, 0});
     c.EjeY = m.Vector({0, std::abs(b.y - a.y) / 2});
-    for (PuntoD* eje : {&c.EjeX, &c.EjeY}) {
-        const double largo = std::hypot(eje->x, eje->y);
-        if (dentro > 0 && largo > dentro)
-            *eje = {eje->x * (largo - dentro) / largo, eje->y * (largo - dentro) / largo};
-    }
     return c;
 }
 
@@ -323,7 +318,6 @@ void ContextoMeta::DibujaArco(Arco clase, PuntoD a, PuntoD b, PuntoD desde, Punt
 
 void ContextoMeta::ArcoAngulo(PuntoD centro, double radio, double desde, double barrido) {
     constexpr double GRADO = VUELTA / 360;
-    if (!std::isfinite(desde) || !std::isfinite(barrido)) return;
     const Matriz m = AlDispositivo();
     CajaFigura c;
     c.Centro = m.De(centro);

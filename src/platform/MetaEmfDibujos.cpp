@@ -5,7 +5,6 @@ namespace tessario {
 
 namespace {
 
-constexpr std::size_t DIB_MINIMO = 12;
 constexpr std::size_t LETRAS_MAXIMAS = 65536;  // of one text
 
 }  // namespace
@@ -16,7 +15,6 @@ std::optional<Mapa> LectorEmf::Bitmap(const Registro& r, std::size_t i, u32 uso,
                                       i32 filas, CabeceraDib* leida) {
     const std::size_t cabecera = r.U32(i), nCabecera = r.U32(i + 4);
     const std::size_t bits = r.U32(i + 8), nBits = r.U32(i + 12);
-    if (nCabecera < DIB_MINIMO || nBits == 0) return std::nullopt;
     return BitmapDe(c_, r.Parte(cabecera, nCabecera), r.Parte(bits, nBits), uso, conAlfa, filas,
                     leida);
 }

@@ -95,6 +95,7 @@ private:
 class PintorAnotador : public PintorMetafichero {
 public:
     i32 ancho = 0, alto = 0;
+    bool alternoDeRegion = false;  // of the last figure that became a region
     struct Nota {
         char clase = ' ';
         std::vector<PuntoD> puntos = {};  // of the whole figure
@@ -168,7 +169,8 @@ public:
         n.texto = t;
         return {10, 0};
     }
-    Region RegionDe(const Trazado& t, bool) override {
+    Region RegionDe(const Trazado& t, bool alterno) override {
+        alternoDeRegion = alterno;
         return t.empty() ? Region{} : Region(Rect{1, 2, 3, 4});
     }
     Trazado Ensancha(const Trazado& t, const PlumaMeta&) override { return t; }

@@ -22,6 +22,7 @@ Campos Une(Campos a, const Campos& b) {
 
 constexpr long long GEOMETRICA = 0x10000, ROJO = 0x0000FF;  // as files have it: red lowest
 constexpr Pixel TINTA_ROJA = 0xFF0000;
+constexpr i32 ANCHO = 96, ALTO = 48;  // of the picture
 constexpr long long PLUMA_NULA = 0x80000008, BROCHA_NULA = 0x80000005;
 
 class RegistrosEmf : public Paseo {
@@ -92,6 +93,19 @@ TEST_F(RegistrosEmf, WidthsAndLengthsOfPensFollowTheScale) {
     const PlumaMeta& q = Unica(e.R(37, {1}).R(54, {20, 0}).Fin()).pluma;
     EXPECT_EQ(q.Ancho, 6);
     EXPECT_EQ(q.Trazos, (std::vector<double>{8, 12}));
+}
+
+TEST_F(RegistrosEmf, DashesOfEachStyle) {
+    const std::vector<double> finos[] = {{18, 6}, {3, 3}, {9, 6, 3, 6}, {9, 3, 3, 3, 3, 3}};
+    const std::vector<double> anchos[] = {{15, 5}, {5, 5}, {15, 5, 5, 5}, {15, 5, 5, 5, 5, 5}};
+    for (std::size_t k = 0; k < 4; ++k) {
+        const auto estilo = static_cast<long long>(k + 1);
+        EXPECT_EQ(Pluma(38, {1, estilo, 1, 0, 0}).Trazos, finos[k]) << estilo;
+        EXPECT_EQ(Extendida(GEOMETRICA | estilo, 5).Trazos, anchos[k]) << estilo;
+    }
+    Emf e;
+    e.R(35, {F(0.125F), 0, 0, F(0.125F), 0, 0}).R(95, {1, 0, 0, 0, 0, GEOMETRICA, 2, 0, 0, 0, 0});
+    EXPECT_EQ(Unica(e.R(37, {1}).R(54, {90, 0}).Fin()).pluma.Ancho, 1) << "a pixel at least";
 }
 
 TEST_F(RegistrosEmf, APenIsFilledWithAPicture) {
@@ -228,7 +242,9 @@ TEST_F(RegistrosEmf, OriginsAndScalesOfWindowAndViewport) {
     Emf d;  // both ways alike: the smaller scale, from the upper left corner
     d.R(17, {7}).R(9, {10, 10}).R(11, {30, 20});
     EXPECT_EQ(donde(d), (PuntoD{20, 40}));
-    // 9.6 pixels to the millimetre were told by the header: 960 pixels on 254 millimetres.
+    Emf z;  // until extents are set a unit is a tenth of a millimetre, upwards
+    EXPECT_EQ(Unica(z.R(17, {7}).R(15, {100, -100, 0}).Fin()).puntos.at(0), (PuntoD{38, 38}));
+    // The header told of 960 pixels on 254 millimetres.
     constexpr double POR_MM = 960.0 / 254;
     for (const auto& [modo, mm] : std::vector<std::pair<long long, double>>{
              {2, 0.1}, {3, 0.01}, {4, 0.254}, {5, 0.0254}, {6, 25.4 / 1440}}) {
@@ -375,6 +391,52 @@ TEST_F(RegistrosEmf, PathsAreDrawnAtTheirEnd) {
     EXPECT_EQ(Unica(e.Fin()).recorte, (Rect{1, 2, 3, 4}));
 }
 
+TEST_F(RegistrosEmf, APathHoldsSeveralFigures) {
+    Emf e;
+    e.R(59, {}).R(27, {1, 2}).R(54, {3, 4}).R(27, {5, 6}).R(54, {7, 8}).R(54, {9, 9});
+    const Trazado t = Unica(e.R(60, {}).R(64, {0, 0, 0, 0}).Fin()).figura;
+    ASSERT_EQ(t.size(), 2U);
+    EXPECT_EQ(t[0].Puntos, (Puntos{{1, 2}, {3, 4}}));
+    EXPECT_EQ(t[1].Puntos, (Puntos{{5, 6}, {7, 8}, {9, 9}}));
+}
+
+TEST_F(RegistrosEmf, AClipFromAPathFollowsTheFillModeUnlessThePathWasWidened) {
+    const auto recorta = [&](long long relleno, bool ensancha, long long modo) {
+        Emf e;
+        e.R(19, {relleno}).R(59, {}).R(27, {10, 10}).R(54, {20, 10}).R(60, {});
+        if (ensancha) e.R(66, {});
+        return Unica(e.R(67, {modo}).R(15, {0, 0, 0}).Fin()).recorte;
+    };
+    EXPECT_EQ(recorta(1, false, 5), (Rect{1, 2, 3, 4}));
+    EXPECT_TRUE(p.alternoDeRegion);
+    recorta(2, false, 5);
+    EXPECT_FALSE(p.alternoDeRegion);
+    recorta(1, true, 5);
+    EXPECT_FALSE(p.alternoDeRegion);
+    for (const long long modo : {0, 6, -1})
+        EXPECT_EQ(recorta(1, false, modo), (Rect{0, 0, ANCHO, ALTO})) << modo;
+}
+
+TEST_F(RegistrosEmf, APathOfTooManyPointsEndsTheReading) {
+    constexpr int PUNTOS = 60000, VECES = 17;
+    Campos c{0, 0, 0, 0, PUNTOS};
+    c.resize(5 + PUNTOS, 1);
+    Emf e;
+    e.R(59, {});
+    for (int i = 0; i < VECES; ++i) e.R(89, c);
+    EXPECT_EQ(Lee(e.Fin()), Lectura::Imposible);
+}
+
+TEST_F(RegistrosEmf, BoxesOfNoBreadthDrawNothing) {
+    Emf e;
+    for (const Campos& caja : {Campos{10, 10, 10, 30}, {10, 10, 30, 10}}) {
+        e.R(42, caja).R(43, caja).R(44, Une(caja, {4, 4}));
+        for (const u32 tipo : {45, 46, 47, 55}) e.R(tipo, Une(caja, {0, 0, 50, 50}));
+    }
+    ASSERT_TRUE(Bien(e.Fin()));
+    EXPECT_TRUE(p.notas.empty());
+}
+
 // --- Regions.
 
 TEST_F(RegistrosEmf, RegionsAreFilledFramedAndTurned) {
@@ -395,6 +457,19 @@ TEST_F(RegistrosEmf, RegionsAreFilledFramedAndTurned) {
     n = nota(72, {2, 3, 2});
     EXPECT_EQ(n.tinta, 0x00FF00U);
     EXPECT_EQ(n.puntos, (Puntos{{10, 12}, {30, 28}}));
+}
+
+TEST_F(RegistrosEmf, AFrameIsAsBroadAsItIsTold) {
+    const Campos region{32, 1, 1, 16, 0, 0, 0, 0, 10, 12, 30, 28};
+    Emf e;
+    e.R(39, {2, 0, ROJO, 0}).R(72, Une({0, 0, 0, 0, 48, 2, 3, 2}, region));
+    const Mapa m = Pinta(e.Fin());
+    for (i32 y = 0; y < ALTO; ++y)
+        for (i32 x = 0; x < ANCHO; ++x) {
+            const bool fuera = x < 10 || x >= 30 || y < 12 || y >= 28;
+            const bool dentro = x >= 13 && x < 27 && y >= 14 && y < 26;
+            ASSERT_EQ(m.Fila(y)[x], fuera || dentro ? 0xFFFFFFU : TINTA_ROJA) << x << ", " << y;
+        }
 }
 
 // --- Pictures.
@@ -460,15 +535,22 @@ TEST_F(RegistrosEmf, ABlockThroughAMask) {
 }
 
 TEST_F(RegistrosEmf, ABlockOnAParallelogram) {
-    Campos c = Une({0, 0, 0, 0, 5, 6, 25, 8, 3, 16, 1, 0, 1, 1}, SIN_GIRO);
-    c = Une(Une(Une(c, {0, 0}), SitioDe(140)), {2, 3, 0, 0, 0, 0, 0});
-    const auto& n = Unica(Emf().R(79, Une(c, DOS)).Fin());
+    const auto bloque = [&](const Campos& mascara, const Campos& resto) {
+        Campos c = Une({0, 0, 0, 0, 5, 6, 25, 8, 3, 16, 1, 2, 3, 4}, SIN_GIRO);
+        c = Une(Une(Une(c, {0, 0}), SitioDe(140)), Une({7, 8, 0}, mascara));
+        return Unica(Emf().R(79, Une(Une(c, DOS), resto)).Fin());
+    };
+    auto n = bloque({0, 0, 0, 0}, {});
     EXPECT_EQ(n.puntos, (Puntos{{5, 6}, {25, 8}, {3, 16}}));
-    EXPECT_EQ((PuntoD{n.copia.Izq, n.copia.Arr}), (PuntoD{1, 0}));
-    EXPECT_EQ((PuntoD{n.copia.Ancho, n.copia.Alto}), (PuntoD{1, 1}));
-    EXPECT_EQ(n.copia.MascaraX, 2);
-    EXPECT_EQ(n.copia.MascaraY, 3);
+    EXPECT_EQ((PuntoD{n.copia.Izq, n.copia.Arr}), (PuntoD{1, 2}));
+    EXPECT_EQ((PuntoD{n.copia.Ancho, n.copia.Alto}), (PuntoD{3, 4}));
+    EXPECT_EQ(n.copia.MascaraX, 7);
+    EXPECT_EQ(n.copia.MascaraY, 8);
     EXPECT_EQ(n.origen.Fila(0)[0], 0x0000FFU);
+    EXPECT_EQ(n.mascara.Ancho, 0);
+    n = bloque({188, 48, 236, 4}, {40, 2, 1, 0x10001, 0, 0, 0, 0, 0, 0, 0, 0xFFFFFF, 0x80});
+    EXPECT_NE(n.mascara.Fila(0)[0], 0U);
+    EXPECT_EQ(n.mascara.Fila(0)[1], 0U);
 }
 
 TEST_F(RegistrosEmf, RowsOfABitmap) {
@@ -523,9 +605,38 @@ TEST_F(RegistrosEmf, Gradients) {
     EXPECT_EQ(p.notas[1].puntos, (Puntos{{31, 22}, {1, 22}, {31, 2}}));
     EXPECT_EQ(lados(1), (std::vector<std::vector<Pixel>>{{A, A, B}, {B, B, A}}));
     EXPECT_TRUE(lados(3).empty());
+    // One triangle is there, two are told: none is painted.
+    Emf corto;
+    corto.R(118, Une(Une({0, 0, 0, 0, 2, 2, 2}, v), {0, 1, 1}));
+    ASSERT_TRUE(Bien(corto.Fin()));
+    EXPECT_TRUE(p.notas.empty());
 }
 
 // --- Text.
+
+TEST_F(RegistrosEmf, LettersFollowTheScaleAndTurnWithTheWorld) {
+    const auto texto = [&](const Campos& mundo) {
+        Emf e;
+        e.R(82, {1, -10, 4, 0, 0, 400, 0, 0, 0, 0}).R(37, {1}).R(17, {8}).R(9, {10, 10});
+        e.R(11, {20, 30}).R(35, mundo);
+        e.R(84, {0, 0, 0, 0, 1, 0, 0, 5, 6, 1, 76, 0, 0, 0, 0, 0, 80, 'x', 7});
+        return Unica(e.Fin()).texto;
+    };
+    // Twice as broad and three times as high by the page; the world once more.
+    TextoMeta t = texto({F(2), 0, 0, F(2), 0, 0});
+    EXPECT_EQ(t.Fuente.Alto, -60);
+    EXPECT_EQ(t.Fuente.Ancho, 16);
+    EXPECT_EQ(t.Avances, (Puntos{{28, 0}}));
+    EXPECT_EQ(t.Lugar, (PuntoD{20, 36}));
+    EXPECT_EQ(t.Forma.a, 1);
+    // A quarter of a turn: the letters are as the page has them, the world turns them.
+    t = texto({0, F(1), F(-1), 0, 0, 0});
+    EXPECT_EQ(t.Fuente.Alto, -30);
+    EXPECT_EQ(t.Fuente.Ancho, 8);
+    EXPECT_EQ(t.Avances, (Puntos{{14, 0}}));
+    EXPECT_EQ((PuntoD{t.Forma.a, t.Forma.b}), (PuntoD{0, 1}));
+    EXPECT_EQ((PuntoD{t.Forma.c, t.Forma.d}), (PuntoD{-1, 0}));
+}
 
 TEST_F(RegistrosEmf, TextWithBoxAndAdvances) {
     Emf e;

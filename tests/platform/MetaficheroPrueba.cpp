@@ -188,6 +188,47 @@ TEST_F(Paseo, ObjectsOutsideTheTableAreNobody) {
     EXPECT_EQ(p.notas[0].tinta, 0xFF0000U);
 }
 
+TEST_F(Paseo, ReadyMadeObjectsByTheirNumbers) {
+    constexpr long long HECHO = 0x80000000;
+    const auto dibuja = [&](long long pluma, long long brocha) {
+        Emf e;
+        e.R(37, {HECHO | pluma}).R(37, {HECHO | brocha}).R(43, {0, 0, 9, 9});
+        EXPECT_TRUE(Bien(e.Fin()));
+        std::vector<std::pair<char, Pixel>> v;
+        for (const auto& n : p.notas) v.emplace_back(n.clase, n.tinta);
+        return v;
+    };
+    using Dibujado = std::vector<std::pair<char, Pixel>>;
+    constexpr Pixel GRISES[] = {0xFFFFFF, 0xC0C0C0, 0x808080, 0x404040, 0x000000};
+    for (long long k = 0; k < 5; ++k) EXPECT_EQ(dibuja(8, k), (Dibujado{{'f', GRISES[k]}})) << k;
+    EXPECT_EQ(dibuja(8, 18), (Dibujado{{'f', 0xFFFFFF}}));
+    EXPECT_EQ(dibuja(6, 5), (Dibujado{{'l', 0xFFFFFF}}));
+    EXPECT_EQ(dibuja(7, 5), (Dibujado{{'l', 0}}));
+    EXPECT_EQ(dibuja(19, 5), (Dibujado{{'l', 0}}));
+    EXPECT_EQ(dibuja(8, 5), (Dibujado{}));
+    // Twenty colours, the basic ones at both ends.
+    Emf e;
+    for (const long long k : {0, 1, 2, 6, 7, 8, 9, 10, 11, 12, 13, 18, 19, 20})
+        e.R(15, {0, 0, 0x01000000 | k});
+    ASSERT_TRUE(Bien(e.Fin()));
+    std::vector<Pixel> colores;
+    for (const auto& n : p.notas) colores.push_back(n.tinta);
+    EXPECT_EQ(colores, (std::vector<Pixel>{0x000000, 0x800000, 0x008000, 0x008080, 0xC0C0C0,
+                                           0xC0DCC0, 0xA6CAF0, 0xFFFBF0, 0xA0A0A4, 0x808080,
+                                           0xFF0000, 0x00FFFF, 0xFFFFFF, 0x000000}));
+    // Fonts: two of them bold, those of equal letters smaller.
+    const auto fuente = [&](long long k) {
+        Emf f;
+        f.R(37, {HECHO | k}).R(108, {0, 0, 1, 0x300, 1, 0, 0, 'x'});
+        EXPECT_TRUE(Bien(f.Fin()));
+        return p.notas.at(0).texto.Fuente;
+    };
+    for (const long long k : {10, 11, 16}) EXPECT_EQ(fuente(k).Cara, u"Courier New") << k;
+    for (const long long k : {12, 13, 14, 17}) EXPECT_EQ(fuente(k).Cara, u"Arial") << k;
+    for (const long long k : {13, 14}) EXPECT_EQ(fuente(k).Peso, 700) << k;
+    for (const long long k : {12, 17}) EXPECT_EQ(fuente(k).Peso, 400) << k;
+}
+
 TEST_F(Paseo, InAWmfTheLowestFreePlaceIsTaken) {
     Wmf w;
     w.R(0x02FC, {0, 0xFF, 0, 0}).R(0x02FC, {0, 0xFF00, 0, 0}).R(0x02FC, {0, 0, 0xFF, 0});
