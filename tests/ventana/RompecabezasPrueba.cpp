@@ -90,6 +90,36 @@ TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
     }
 }
 
+TEST(RompecabezasVentana, CongratulationMovesOffThePictureThatItWouldCover) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
+    programa.EscribeGlobal(21, 50);
+    PartidaGuardada p = TresPorTres(0);
+    for (auto& q : p.piezas) {
+        q.x = q.xBien;
+        q.y = q.yBien;
+    }
+    p.piezas[8].x = 20;
+    p.piezas[8].y = 420;
+    p.archivable = true;
+    programa.EscribePartida(p);
+    ASSERT_TRUE(programa.Arranca());
+    const Centro c = CentroDe(p.piezas[8]);
+    e.Arrastra(c.x, c.y, 320 + CELDA_ANCHO / 2 + 4, 240 + CELDA_ALTO / 2 + 4);
+    // In the middle of the screen it would begin at 228; the picture ends at 360.
+    for (const char* titulo : {"TESSARIO", "Histórico de puzzles resueltos"}) {
+        Escritorio::Marco marco;
+        ASSERT_TRUE(e.Espera([&] { return e.BuscaVentana(titulo, marco); })) << titulo;
+        e.EsperaQuieto();
+        EXPECT_EQ(marco.y, 372) << titulo;
+        EXPECT_EQ(e.Mira().Cuenta(0, 0, 480, 360, 0), 0) << "all of the picture is in view";
+        e.Mira().Guarda(std::string("final-") + titulo[0]);
+        ASSERT_TRUE(e.Responde(titulo, false));
+    }
+    ASSERT_TRUE(programa.Sale());
+}
+
 TEST(RompecabezasVentana, DragIsSeenOnTheWay) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
