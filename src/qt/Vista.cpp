@@ -1,7 +1,6 @@
 #include "qt/Vista.h"
 
 #include <QAbstractScrollArea>
-#include <QApplication>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -204,10 +203,7 @@ bool Vista::eventFilter(QObject* o, QEvent* e) {
             if (o != Interior()) return false;
             auto& k = static_cast<QKeyEvent&>(*e);
             if (k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab) return false;
-            if (ventana_.Tecla(k, this)) return true;
-            // A key that has led the keyboard elsewhere has done its work.
-            const QWidget* const foco = QApplication::focusWidget();
-            return foco && foco != o;
+            return ventana_.Tecla(k, this);
         }
         case QEvent::FocusIn:
         case QEvent::FocusOut:

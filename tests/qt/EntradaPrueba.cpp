@@ -247,6 +247,13 @@ TEST_F(TecladoQt, MouseThatPressesOrTurnsItsWheelIsBackBeforeWhatItDoes) {
     Apunta(40, 50, 40, 50);
     Pulsa(ventana, 40, 50);
     EXPECT_EQ(diario.find("vuelve mueve0(20,20) abajo1(20,20) arriba1(20,20) "), 0U) << diario;
+    // Without a move before it.
+    Apunta(40, 50, 200, 150);
+    QMouseEvent quieto(QEvent::MouseButtonPress, {20, 20}, QCursor::pos(), Qt::LeftButton,
+                       Qt::LeftButton, {});
+    QApplication::sendEvent(&DeControl(ventana, caja), &quieto);
+    EXPECT_EQ(diario.find("vuelve mueve0(20,20) abajo1(20,20) "), 0U) << diario;
+    Suelta(ventana, 40, 50);
     caja.MouseWheel = [this](i16, float, float) {
         diario += "rueda ";
         return true;
@@ -285,6 +292,25 @@ TEST_F(TecladoQt, CrossIsWhiteWithABlackEdgeAndLeavesItsPointFree) {
     }
     EXPECT_EQ(Punto(ventana, 150, 130), FONDO);
     EXPECT_EQ(Punto(ventana, 154, 133), FONDO);
+}
+
+TEST_F(TecladoQt, ButtonUnderTheCrossIsLiftedAndTheOneUnderTheMouseIsNot) {
+    caja.Resalta = true;
+    caja.PonBackColor(0x808080);
+    P().Presenta();
+    Mueve(ventana, 30, 40);
+    Eventos();
+    const QRgb levantada = Punto(ventana, 100, 80);
+    EXPECT_GT(levantada, 0x808080U);
+    Apunta(31, 40, 200, 150);
+    EXPECT_EQ(Punto(ventana, 100, 80), 0x808080U) << "the mouse is left there";
+    cruz.Sobre = &caja;
+    cruz.Apunta(40, 50);
+    P().Presenta();
+    EXPECT_EQ(Punto(ventana, 100, 80), levantada);
+    cruz.Sobre = nullptr;
+    P().Presenta();
+    EXPECT_EQ(Punto(ventana, 100, 80), 0x808080U);
 }
 
 TEST_F(TecladoQt, BesideTheCrossStandsThePointerOfWhatLiesThere) {
