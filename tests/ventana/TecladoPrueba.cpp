@@ -213,6 +213,68 @@ TEST(TecladoVentana, SlidingPuzzleIsPlayedToTheEnd) {
     EXPECT_EQ(leida.movimientos, 4);
 }
 
+TEST(TecladoVentana, PieceIsCarriedBeyondTheViewOnASmallScreenAndTheTutorAsked) {
+    Escritorio e(800, 600);
+    Programa programa(e);
+    programa.EscribeImagenDeCuadros("cuadros.bmp", 900, 720, 3);
+    programa.EscribeGlobal(21, 100);
+    PartidaGuardada p;
+    p.imagen = "cuadros.bmp";
+    p.anchoImagen = 900;
+    p.altoImagen = 720;
+    p.borde = false;
+    for (int i = 0; i < 9; ++i) {
+        PiezaGuardada q;
+        q.x = q.xBien = i % 3 * 300;
+        q.y = q.yBien = i / 3 * 240;
+        p.piezas.push_back(q);
+    }
+    p.piezas[7].x = 60;  // its place is out of view, at (300, 480)
+    p.piezas[7].y = 40;
+    p.orden = {8, 1, 2, 3, 4, 5, 6, 7, 9};
+    programa.EscribePartida(p);
+    ASSERT_TRUE(programa.Arranca());
+    Mano mano(e, programa, {450, 360});
+    mano.AlPuzzle();
+
+    // The tutor is the third command that Tab comes to; its answer is seen.
+    e.Teclas("Tab", 3);
+    e.Tecla("space");
+    e.Mira().Guarda("teclado-tutor");
+    mano.Ve({210, 160});
+    e.Mira().Guarda("teclado-tutor-pieza");
+    e.Tecla("space");
+    // A table in two colours, by the last but two.
+    e.Teclas("Tab", 10);
+    e.Tecla("space");
+    e.EsperaQuieto();
+    const Foto colores = e.Mira();
+    colores.Guarda("teclado-colores");
+    EXPECT_GT(colores.Cuenta(60, 40, 300, 240, 0xFF0000), 40000) << "piece 8 is red";
+
+    // A press on the piece ends that and takes it. It goes 240 right and 440 down: the cross would
+    // then stand 18 rows below the view of 583, which scrolls by as much.
+    mano.Ve({211, 160});
+    e.Tecla("space");
+    mano.Ve({451, 160});
+    e.Teclas("Down", 55);
+    const Foto abajo = e.Mira();
+    abajo.Guarda("teclado-desplazada");
+    EXPECT_EQ(abajo.En(150, 224), Programa::ColorDeCuadro(3)) << "it was at 240 before";
+    EXPECT_EQ(abajo.En(150, 219), Programa::ColorDeCuadro(0));
+    e.Tecla("space");
+    ASSERT_TRUE(mano.CierraFelicitacion());
+    e.Mira().Guarda("teclado-desplazada-fin");
+    const auto salir = programa.Boton(7, true);
+    e.Pulsa(salir.x, salir.y);
+    ASSERT_TRUE(e.Responde("Salir de TESSARIO", true));
+    ASSERT_EQ(programa.EsperaFin(), 0);
+    const PartidaLeida leida = programa.LeePartida(21);
+    EXPECT_TRUE(leida.terminado);
+    EXPECT_FALSE(leida.archivable) << "the tutor was asked";
+    EXPECT_EQ(leida.movimientos, 1);
+}
+
 // White pixels, as the arms of the cross are: four of 14 by 3 within their black edge.
 constexpr int CRUZ = 4 * 14 * 3;
 int Cruces(const Foto& f, int x, int y, int w, int h) {
