@@ -17,7 +17,7 @@
 //     p <piece> <turn> <turned over> <x> <y>
 //
 // with the corner of the piece's box. A line `d <n>` records how many of the seven pieces the
-// silhouette gives away (Dificultad.h).
+// silhouette gives away (Estudio.h).
 #pragma once
 
 #include <cmath>
