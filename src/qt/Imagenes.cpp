@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
-#include <QSaveFile>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -17,6 +16,7 @@
 #include "platform/Dib.h"
 #include "platform/Metafichero.h"
 #include "qt/Letras.h"
+#include "records/Archivo.h"
 
 namespace tessario::imagenes {
 
@@ -227,9 +227,6 @@ i32 CargaReducida(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino) {
 }
 
 i32 Guarda(const std::string& ruta, const Mapa& imagen) {
-    const QString nombre = QFile::decodeName(ruta.c_str());
-    const QFileInfo info(nombre);
-    if (!QFileInfo(info.absolutePath()).isDir()) return ERROR_RUTA;
     if (imagen.Ancho <= 0 || imagen.Alto <= 0) return ERROR_ACCESO;
     const QImage lienzo(reinterpret_cast<const uchar*>(imagen.Pixeles.data()), imagen.Ancho,
                         imagen.Alto, static_cast<qsizetype>(imagen.Ancho) * 4,
@@ -238,10 +235,7 @@ i32 Guarda(const std::string& ruta, const Mapa& imagen) {
     QBuffer memoria(&bytes);
     memoria.open(QIODevice::WriteOnly);
     if (!lienzo.save(&memoria, "BMP")) return ERROR_ACCESO;
-    QSaveFile f(nombre);
-    if (!f.open(QIODevice::WriteOnly)) return errno == ENOSPC ? ERROR_LLENO : ERROR_ACCESO;
-    if (f.write(bytes) != bytes.size() || !f.commit()) return ERROR_LLENO;
-    return 0;
+    return EscribeFichero(ruta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 bool Recurso(std::string_view nombre, Mapa& destino) {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/Errores.h"
 #include "records/Texto.h"
@@ -19,6 +20,9 @@ namespace tessario {
 namespace {
 
 constexpr mode_t PERMISOS_NUEVO = 0666;  // before the process's mask
+
+// A file under way to another's place: this and six letters or digits of the system's choice.
+constexpr std::string_view TEMPORAL = ".tsr", AL_AZAR = "XXXXXX";
 
 // An open file, closed at the end of its life.
 class Descriptor {
@@ -136,7 +140,8 @@ void AseguraCarpeta(const std::string& carpeta) {
 
 i16 Reemplaza(const std::string& ruta, std::string_view bytes, const struct stat* anterior) {
     const std::string carpeta = CarpetaDe(ruta);
-    std::string temporal = carpeta + ".tsrXXXXXX";
+    std::string temporal = carpeta;
+    temporal.append(TEMPORAL).append(AL_AZAR);
     Descriptor d(mkostemp(temporal.data(), O_CLOEXEC));
     if (!d.Vale()) return NumeroDe(errno);
     i16 error = LlenaTemporal(d, bytes, anterior);
@@ -146,6 +151,13 @@ i16 Reemplaza(const std::string& ruta, std::string_view bytes, const struct stat
     else
         AseguraCarpeta(carpeta);
     return error;
+}
+
+bool EsTemporal(const std::filesystem::path& ruta) {
+    const std::string nombre = ruta.filename();
+    struct stat datos {};
+    return nombre.size() == TEMPORAL.size() + AL_AZAR.size() && nombre.starts_with(TEMPORAL) &&
+           lstat(ruta.c_str(), &datos) == 0 && S_ISREG(datos.st_mode) && datos.st_uid == geteuid();
 }
 
 // The line, after the end of a last line that has none.
@@ -226,6 +238,14 @@ bool SeAbre(const std::string& ruta) {
 i16 BorraFichero(const std::string& ruta) {
     if (ruta.find('\0') != std::string::npos) return ERROR_NOMBRE;
     return unlink(ruta.c_str()) == 0 ? i16{0} : NumeroDe(errno);
+}
+
+void BorraTemporales(const std::string& carpeta) {
+    std::error_code e;
+    std::vector<std::string> restos;
+    for (std::filesystem::directory_iterator i(carpeta, e), fin; !e && i != fin; i.increment(e))
+        if (EsTemporal(i->path())) restos.push_back(i->path());
+    for (const std::string& resto : restos) unlink(resto.c_str());
 }
 
 }  // namespace tessario

@@ -21,5 +21,8 @@ i16 AnadeLinea(const std::string& ruta, std::string_view linea);
 bool SeAbre(const std::string& ruta);
 // 0, or the error number.
 i16 BorraFichero(const std::string& ruta);
+// Deletes what replacements that were cut short left in a folder, with its trailing "/"; files of
+// another owner and whatever else lies there stay.
+void BorraTemporales(const std::string& carpeta);
 
 }  // namespace tessario

@@ -22,6 +22,7 @@
 #include "session/Dificultad.h"
 #include "session/Montaje.h"
 #include "session/Pegada.h"
+#include "session/Restos.h"
 #include "settings/Cambios.h"
 #include "settings/Imagen.h"
 #include "settings/Mandos.h"
@@ -36,11 +37,6 @@ namespace {
 
 constexpr i32 ANCHO = 656, ALTO = 552, ALTO_FONDO = 511, ALTO_MODELOS = 505;  // pixels
 constexpr i32 TEMA_PERSONAL = 2111;
-
-// The copy of the record that undoes what was done in the window.
-std::string FicheroCopia() {
-    return Gbl.CarpetaArchivo + "TESSA33.CSE";
-}
 
 // ---------------------------------------------------------------- the puzzle at the opening
 
@@ -84,7 +80,7 @@ void VuelveALaFoto() {
 
 // Settings, pieces and picture of the puzzle as they were at the opening.
 void Deshace() {
-    CargaAjustes(FicheroCopia());
+    CargaAjustes(FicheroAlEntrar());
     if (!Gbl.CargaCorrecta) VuelveALaFoto();
     static_cast<DatosPiezas&>(Gbl) = Gbl.AlEntrar;
     Gbl.AnchoImagen = Gbl.AlEntrar.AnchoImagen;
@@ -193,7 +189,7 @@ void CierraPersonal() {
 // Nothing of the window outlives it, whichever way it was closed.
 void Personal_Unload() {
     std::error_code e;
-    fs::remove(FicheroCopia(), e);
+    fs::remove(FicheroAlEntrar(), e);
     fs::current_path(Gbl.CarpetaPrograma, e);  // a medium that was listed can be taken out
     if (Gbl.ParametrosCambiados)
         OlvidaApartada(Gbl.AlEntrar.RutaImagen);
@@ -276,7 +272,7 @@ void Form_Load() {
     SituaPersonal();
     CargaTeselas();
     TomaFoto();
-    Sigue([] { GuardaPuzzle(FicheroCopia()); });
+    Sigue([] { GuardaPuzzle(FicheroAlEntrar()); });
     Gbl.Cargando = true;
     Sigue([] { LlenaPaneles(); });
     Gbl.Cargando = false;

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
@@ -20,6 +21,7 @@
 #include "rules/Catalogo.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "session/Restos.h"
 #include "settings/Imagen.h"
 #include "settings/Mandos.h"
 #include "settings/Personal.h"
@@ -87,8 +89,9 @@ void CopiaFichero(const std::string& origen, const std::string& destino) {
 }
 
 void TrasladaAjustes(const std::string& medio) {
-    for (const FicheroTrasladado& f : TRASLADO) {
-        const std::string nombre = std::string(f.subcarpeta) + f.nombre;
+    // The first one tells that all have moved, so it goes last.
+    for (auto f = std::rbegin(TRASLADO); f != std::rend(TRASLADO); ++f) {
+        const std::string nombre = std::string(f->subcarpeta) + f->nombre;
         CopiaFichero(medio + nombre, Gbl.CarpetaPrograma + nombre);
     }
 }
@@ -234,6 +237,10 @@ bool Main() {
     Sistema().Muestra(Careta);
     PreparaRutas();
     Sigue([] { PreparaCarpetas(); });
+    Sigue([] {
+        RecogeRestos(
+            {Gbl.CarpetaPrograma, Gbl.CarpetaArchivo, Gbl.CarpetaImagenes, CarpetaDelJugador()});
+    });
     bool sigue = true;
     Sigue([&] { sigue = CompruebaPantalla(); });
     if (!sigue) return false;
