@@ -222,6 +222,42 @@ TEST_F(Cortes, ChangeOfGame) {
     });
 }
 
+// The settings that come with the program move to the player's folder: however often that is cut
+// short, the next start brings all of them.
+TEST_F(Cortes, FirstStartOfAnInstalledProgram) {
+    const std::string medio = P().carpeta;
+    fs::create_directory(medio + "CSCD.WRK");  // nothing can be written beside the program
+    Crea("TSR33.INI", "global");
+    Crea("TSR2133.INI", "jigsaw");
+    Crea("TSR2233.INI", "sliding");
+    Crea("TSR2333.INI", "Tangram");
+    const auto empieza = [&] {
+        Gbl.CarpetaPrograma = medio;
+        PreparaCarpetas();
+    };
+    const Carpeta antes = Lee(medio);
+    calzo::Pon(calzo::Modo::Cuenta, 0);
+    empieza();
+    calzo::Quita();
+    const int llamadas = calzo::Llamadas();
+    const Carpeta despues = Lee(medio);
+    ASSERT_GE(despues.size(), antes.size() + 4);
+    for (int n = 1; n <= llamadas; ++n) {
+        fs::remove_all(CarpetaSistema());
+        EXPECT_EQ(Lee(medio), antes);
+        EXPECT_EQ(EnOtroProceso([&] {
+                      calzo::Pon(calzo::Modo::Mata, n);
+                      empieza();
+                  }),
+                  calzo::SALIDA_MATADO)
+            << n;
+        empieza();
+        RecogeRestos({Gbl.CarpetaPrograma, Gbl.CarpetaArchivo});
+        EXPECT_EQ(Lee(medio), despues) << "ended at call " << n;
+    }
+    std::cout << "first start: " << llamadas << " calls, each the last one once\n";
+}
+
 TEST_F(Cortes, PasteThatWasNotAccepted) {
     const std::string pegada = Crea("Imagenes/tsportap.bmp", "first");
     CortaEnTodas("second paste", [&] {
