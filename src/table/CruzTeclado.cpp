@@ -103,11 +103,12 @@ void TomaOSuelta() {
         SueltaCruz();
     else if (CruzMesa.Visible)
         Toma();
-    else
+    else  // Deliberate: the first one only shows where it would take something
         Ve(Gbl.CruzX < 0 ? MedioDelPuzzle() : Punto{Gbl.CruzX, Gbl.CruzY});
 }
 
-// One step of rotation, in hand or not; also for who has the other hand at the mouse.
+// One step of rotation, in hand or not. Deliberate: also without the cross, for who has the other
+// hand at the mouse.
 void Gira() {
     if (Gbl.CruzX < 0) return;
     if (CruzMesa.Visible) Situa(Gbl.CruzX, Gbl.CruzY);
@@ -145,7 +146,7 @@ void Flecha(i16 KeyCode, i16 Shift) {
     const auto& f = FLECHAS[KeyCode - IZQUIERDA];
     const auto queVa = JuegoEnCurso().PiezaQueVa;
     if (queVa && !Gbl.OrdenManual && !(Shift & CON_MAYUS) && !Gbl.CruzSujeta) {
-        // A press for each move, as with the mouse: a held key does not run on by itself.
+        // Deliberate: a press for each move, as with the mouse. A held key does not run on.
         if (DentroDeTarea() || (Shift & TECLA_REPETIDA)) return;
         if (const i16 piece = queVa(f.lado); piece != 0) PulsaPiezaEntera(piece);
         return;
