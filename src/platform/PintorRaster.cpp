@@ -277,8 +277,6 @@ void PintorRaster::Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios,
                           double estrecha, const Matriz& forma, const ModosMeta& m) {
     BrochaMeta tinta;
     tinta.Tinta = m.Texto;
-    ModosMeta copia = m;
-    copia.Rop2 = COPIA;
     for (std::size_t i = 0; i < t.Letras.size(); ++i) {
         const LetrasMeta::Letra& l = letras_.De(t.Fuente, cuerpo, t.Letras[i], t.PorIndice);
         Trazado figura = l.Figura;
@@ -288,7 +286,7 @@ void PintorRaster::Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios,
                 // A letter's pixel is told by its middle.
                 p = {p.x - 0.5, p.y - 0.5};
             }
-        Rellena(figura, false, tinta, copia);
+        Rellena(figura, false, tinta, m);
     }
 }
 

@@ -369,6 +369,11 @@ TEST_F(Pixeles, AClipOfSeveralBoxesLetsNothingElseThrough) {
     r.PonPunto({8, 5}, VERDE, modos);
     r.PonPunto({11, 5}, VERDE, modos);
     EXPECT_EQ(Sitios(VERDE), Caja(11, 5, 12, 6));
+    modos.Recorte = &todo;
+    for (const PuntoD& p : {PuntoD{0, 0}, {ANCHO - 1, ALTO - 1}, {-1, 3}, {3, -1}, {ANCHO, 3}})
+        r.PonPunto(p, 0x444444, modos);
+    EXPECT_EQ(Sitios(0x444444).size(), 2U);
+    modos.Recorte = &dos;
     r.RellenaRegion(Region(Rect{0, 6, ANCHO, 7}), Lisa(0x333333), modos);
     EXPECT_EQ(Sitios(0x333333).size(), 8U);
 }

@@ -145,6 +145,19 @@ TEST_F(PegadaDosVeces, NoBringsTheFormerOneBack) {
     }
 }
 
+TEST_F(PegadaDosVeces, OneOfThatNameInAnotherFolderIsNotThePuzzlesOwn) {
+    Crea("Otra/tsportap.bmp", PRIMERA);
+    Visita([&] {
+        fs::current_path(P().carpeta + "Otra");
+        Pulsa(Pic_BotPortapapeles);
+        EXPECT_FALSE(fs::exists(Apartada()));
+        EXPECT_EQ(Contenido("Otra/tsportap.bmp"), OTRA);
+        Sal();
+    });
+    EXPECT_TRUE(P().avisos.empty());
+    EXPECT_EQ(EnDisco(), PRIMERA);
+}
+
 TEST_F(PegadaDosVeces, AChangeOfGameBringsItBackToo) {
     Visita([&] {
         Pulsa(Pic_BotPortapapeles);
@@ -266,6 +279,18 @@ TEST_F(ImagenVentana, ADroppedFileOfTheProgramsPicturesIsJustChosen) {
         Personal.DragDrop({{P().carpeta + "Imagenes/b.bmp"}, {}});
         EXPECT_TRUE(P().guardadas.empty());
         EXPECT_EQ(FicheroElegido(), "b.bmp");
+        Sal({false});
+    });
+}
+
+TEST_F(ImagenVentana, ADroppedFileOfTheProgramsFolderThatIsNotListedIsImported) {
+    const std::string foto = P().carpeta + "Imagenes/gato.webp";
+    Crea("Imagenes/gato.webp", "RIFF");
+    P().ajenas[foto] = Mapa(640, 480, 0x0A0B0C);
+    Visita([&] {
+        Personal.DragDrop({{foto}, {}});
+        EXPECT_EQ(FicheroElegido(), "gato.bmp");
+        EXPECT_EQ(P().guardadas.count(P().carpeta + "Imagenes/gato.bmp"), 1U);
         Sal({false});
     });
 }
