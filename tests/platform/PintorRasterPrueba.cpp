@@ -1,4 +1,5 @@
 // The pixels of metafiles: hatches, modes, lines, copies, each by numbers worked out by hand.
+#include <algorithm>
 #include <set>
 
 #include "apoyo/Metaficheros.h"
@@ -220,6 +221,19 @@ TEST_F(Pixeles, EndsOfWideLines) {
     r.Traza(linea, Gorda(AZUL, 4, Extremo::Cuadrado, Junta::Redonda), modos);
     EXPECT_EQ(Sitios(AZUL), Caja(8, 8, 22, 12));
     r.Abre(ANCHO, ALTO, esfuerzo);
+    r.Traza({{{{10, 5}, {10, 15}}, false}}, Gorda(AZUL, 4, Extremo::Cuadrado, Junta::Redonda),
+            modos);
+    EXPECT_EQ(Sitios(AZUL), Caja(8, 3, 12, 17));
+    r.Abre(ANCHO, ALTO, esfuerzo);  // along (3, 4): a square of 10 to the side, put on its corner
+    r.Traza({{{{10, 10}, {13, 14}}, false}}, Gorda(AZUL, 10, Extremo::Cuadrado, Junta::Redonda),
+            modos);
+    EXPECT_EQ(En(7, 6), AZUL);
+    EXPECT_EQ(En(16, 17), AZUL);
+    EXPECT_EQ(En(12, 5), AZUL);
+    EXPECT_EQ(En(4, 9), AZUL);
+    EXPECT_EQ(En(5, 4), BLANCO);
+    EXPECT_EQ(En(15, 7), BLANCO);
+    r.Abre(ANCHO, ALTO, esfuerzo);
     r.Traza(linea, Gorda(VERDE, 8, Extremo::Redondo, Junta::Redonda), modos);
     EXPECT_EQ(En(7, 10), VERDE);
     EXPECT_EQ(En(23, 10), VERDE);
@@ -244,6 +258,15 @@ TEST_F(Pixeles, CornersOfWideLines) {
     EXPECT_EQ(esquina(Junta::Redonda, 10), (std::pair{false, true}));
     EXPECT_EQ(En(16, 16), ROJO);
     EXPECT_EQ(En(15, 15), BLANCO) << "the inner side is as it is";
+    // An eighth of a turn: the mitre's tip lies 10 / cos(22.5 degrees) from the corner.
+    for (const Junta junta : {Junta::Inglete, Junta::Bisel}) {
+        r.Abre(ANCHO, ALTO, esfuerzo);
+        r.Traza({{{{5, 20}, {20, 20}, {30, 10}}, false}}, Gorda(ROJO, 20, Extremo::Plano, junta),
+                modos);
+        EXPECT_EQ(En(23, 29) == ROJO, junta == Junta::Inglete);
+        EXPECT_EQ(En(21, 29), ROJO);
+        EXPECT_EQ(En(26, 29), BLANCO);
+    }
 }
 
 TEST_F(Pixeles, CopiesAreStretchedMirroredAndCut) {
@@ -279,6 +302,125 @@ TEST_F(Pixeles, WhatShrinksIsJoinedAsTheModeTells) {
     EXPECT_EQ(uno(3), 0x330040U) << "that under the middle";
 }
 
+TEST_F(Pixeles, RowsThatShrinkAreJoinedToo) {
+    const Mapa m = De(1, {0x0F0080, 0x330040, 0xFFFFFF, 0xFFFFFF});
+    CopiaMeta c = Copia(m, 4, 4, 1, 2);
+    c.Estira = 4;
+    r.Copia(c, {}, modos);
+    EXPECT_EQ(En(4, 4), 0x210060U);
+    EXPECT_EQ(En(4, 5), BLANCO);
+    // Of very many only some are taken, all over.
+    std::vector<Pixel> muchos(4000, 0);
+    std::fill(muchos.begin() + 2000, muchos.end(), 0xFFFFFF);
+    const Mapa alta = De(1, muchos);
+    c = Copia(alta, 6, 4, 1, 1);
+    c.Estira = 4;
+    r.Copia(c, {}, modos);
+    EXPECT_NEAR(En(6, 4) & 0xFFU, 128, 16);
+    EXPECT_EQ(En(6, 4) & 0xFFU, En(6, 4) >> 16);
+}
+
+TEST_F(Pixeles, WithoutASourceOnlyOperationsThatNeedNoneAreDone) {
+    const auto con = [&](u32 operacion) {
+        r.Abre(ANCHO, ALTO, esfuerzo);
+        CopiaMeta c;
+        c.Operacion = operacion;
+        c.Esquina = {3, 4};
+        c.Derecha = {7, 4};
+        c.Abajo = {3, 9};
+        r.Copia(c, Lisa(0x335577), modos);
+        return En(3, 4);
+    };
+    EXPECT_EQ(con(0xF0), 0x335577U) << "the brush";
+    EXPECT_EQ(Sitios(0x335577), Caja(3, 4, 7, 9));
+    EXPECT_EQ(con(0x5A), 0xCCAA88U);
+    EXPECT_EQ(con(0x55), 0U);
+    EXPECT_EQ(con(0xCC), BLANCO) << "it would need one";
+    EXPECT_EQ(con(0x66), BLANCO);
+}
+
+TEST_F(Pixeles, ACopyThatIsTurned) {
+    const Mapa m = De(2, {ROJO, AZUL});
+    CopiaMeta c = Copia(m, 0, 0, 0, 0);
+    c.Esquina = {10, 5};  // a quarter of a turn: its columns run downwards
+    c.Derecha = {10, 13};
+    c.Abajo = {6, 5};
+    r.Copia(c, {}, modos);
+    const auto rojos = Sitios(ROJO), azules = Sitios(AZUL);
+    EXPECT_EQ(rojos.size(), 16U);
+    EXPECT_EQ(azules.size(), 16U);
+    EXPECT_TRUE(rojos.count({8, 6}));
+    EXPECT_TRUE(azules.count({8, 11}));
+}
+
+// Letters are boxes half as broad as high that stand on the base line; a cell is 0.9 above and 0.2
+// below it.
+TEST_F(Pixeles, LettersStandOneBehindTheOther) {
+    TextoMeta t;
+    t.Letras = u"A B";
+    t.Fuente.Alto = -10;
+    t.Lugar = {2, 20};
+    t.Alineacion = 24;
+    t.Extra = 1;
+    t.ExtraBlanco = 3;
+    modos.Opaco = false;
+    modos.Texto = ROJO;
+    const PuntoD avance = r.Escribe(t, modos);
+    EXPECT_EQ(avance, (PuntoD{3 * 5 + 3 + 3, 0}));
+    auto letras_ = Caja(2, 10, 7, 20);
+    letras_.merge(Caja(8, 10, 13, 20));
+    letras_.merge(Caja(17, 10, 22, 20));
+    EXPECT_EQ(Sitios(ROJO), letras_);
+}
+
+TEST_F(Pixeles, LettersStandByTheirAlignmentAndAdvances) {
+    const auto izquierda = [&](unsigned alineacion) {
+        r.Abre(ANCHO, ALTO, esfuerzo);
+        TextoMeta t;
+        t.Letras = u"AB";
+        t.Fuente.Alto = -10;
+        t.Lugar = {20, 15};
+        t.Alineacion = alineacion;
+        t.Avances = {{6, 0}, {8, 0}};
+        modos.Opaco = false;
+        modos.Texto = ROJO;
+        r.Escribe(t, modos);
+        return *Sitios(ROJO).begin();
+    };
+    using S = std::pair<i32, i32>;
+    EXPECT_EQ(izquierda(24), (S{20, 5})) << "on the base line";
+    EXPECT_EQ(izquierda(24 | 2), (S{6, 5})) << "its right end";
+    EXPECT_EQ(izquierda(24 | 6), (S{13, 5})) << "its middle";
+    EXPECT_EQ(izquierda(0), (S{20, 14})) << "the top of its cell";
+    EXPECT_EQ(izquierda(8), (S{20, 3})) << "the foot of its cell";
+}
+
+TEST_F(Pixeles, TheGroundOfLettersTheirLinesAndTheirBox) {
+    TextoMeta t;
+    t.Letras = u"AB";
+    t.Fuente.Alto = -10;
+    t.Lugar = {5, 20};
+    t.Alineacion = 24;
+    modos.Texto = ROJO;
+    modos.Fondo = AZUL;
+    r.Escribe(t, modos);
+    auto fondo = Caja(5, 11, 15, 22);
+    for (const auto& s : Caja(5, 10, 15, 20)) fondo.erase(s);
+    EXPECT_EQ(Sitios(AZUL), fondo);
+    r.Abre(ANCHO, ALTO, esfuerzo);
+    t.Letras = u"  ";
+    t.Fuente.Subrayada = true;
+    t.Caja = t.CajaOpaca = t.CajaRecorta = true;
+    t.Rectangulo = Rectangulo(0, 0, 9, 30);
+    modos.Opaco = false;
+    r.Escribe(t, modos);
+    EXPECT_EQ(En(0, 0), AZUL) << "the box is filled";
+    EXPECT_EQ(En(8, 29), AZUL);
+    EXPECT_EQ(En(9, 0), BLANCO);
+    EXPECT_EQ(En(6, 21), ROJO) << "underlined";
+    EXPECT_EQ(En(10, 21), BLANCO) << "and cut by the box";
+}
+
 TEST_F(Pixeles, OperationsOfThreeAreBitByBit) {
     const Mapa m = De(1, {0xFF00FF});
     r.Rellena(Rectangulo(0, 0, 4, 4), true, Lisa(0x0F0F0F), modos);
@@ -294,6 +436,21 @@ TEST_F(Pixeles, OperationsOfThreeAreBitByBit) {
     EXPECT_EQ(con(0x55), 0xCCFFCCU) << "the opposite of the paper";
     EXPECT_EQ(con(0x00), 0U);
     EXPECT_EQ(con(0xFF), BLANCO);
+}
+
+TEST_F(Pixeles, BeyondItsMaskAPictureIsOutside) {
+    const Mapa m = De(3, {ROJO, AZUL, VERDE}), mascara = De(2, {0xFFFFFF, 0});
+    CopiaMeta c = Copia(m, 2, 2, 3, 1);
+    c.Mascara = &mascara;
+    c.OperacionFuera = 0x55;
+    r.Rellena(Rectangulo(0, 0, ANCHO, ALTO), true, Lisa(0x111111), modos);
+    r.Copia(c, {}, modos);
+    EXPECT_EQ(En(2, 2), ROJO);
+    EXPECT_EQ(En(3, 2), 0xEEEEEEU);
+    EXPECT_EQ(En(4, 2), 0xEEEEEEU);
+    c.MascaraX = 1;
+    r.Copia(c, {}, modos);
+    EXPECT_EQ(En(2, 2), ~ROJO & BLANCO);
 }
 
 TEST_F(Pixeles, OpacityMixesAndAKeyLeavesOut) {
