@@ -15,9 +15,11 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <span>
 #include <stdexcept>
 #include <string>
 
+#include "apoyo/Invariantes.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
@@ -43,6 +45,10 @@ public:
 
 void Exige(bool condicion, const char* texto) {
     if (!condicion) throw Queja(texto);
+}
+
+void Cumple(std::span<const Invariante> cuales) {
+    if (const std::string falta = Incumplido(cuales); !falta.empty()) throw Queja(falta);
 }
 
 // Why the picture may differ from one laid afresh.
@@ -411,41 +417,17 @@ private:
     }
 
     void Comprueba() {
-        CompruebaOrden();
-        CompruebaGrabadora();
-        CompruebaBanderas();
+        Cumple(InvariantesSiempre());
+        Cumple(InvariantesEntreSucesos());
+        // A piece in hand is counted, and stands on a cell, when it is dropped.
+        if (!Gbl.ArrastrandoPieza) Cumple(InvariantesEnReposo());
+        CompruebaMano();
         if (numero_ % 16 == 0 && !Gbl.ArrastrandoPieza) CompruebaCadena();
-        if (Gbl.JuegoActual == JuegoDeslizantes && !Gbl.ArrastrandoPieza) CompruebaCeldas();
         Exige(Gbl.JuegoActual == juego_, "the game is the one that was started");
         // The picture is looked at when something was drawn on it.
         const Rect imagen = Pic_Imagen.TomaSucio(), vista = Pic_Trabajo.TomaSucio();
         dibujado_ = dibujado_ || !imagen.Vacio() || !vista.Vacio();
         if (!Gbl.ArrastrandoPieza && dibujado_) CompruebaImagen();
-    }
-
-    static void CompruebaOrden() {
-        Exige(Gbl.Piezas.Superior() == Gbl.NumPiezas, "as many pieces as counted");
-        Exige(Gbl.OrdenPiezas.Superior() == Gbl.NumPiezas, "as many entries in the order");
-        std::vector<bool> visto(static_cast<std::size_t>(Gbl.NumPiezas) + 1);
-        for (i32 i = 1; i <= Gbl.NumPiezas; ++i) {
-            const i16 p = Gbl.OrdenPiezas[i];
-            Exige(p >= 1 && p <= Gbl.NumPiezas, "the order names pieces");
-            Exige(!visto[static_cast<std::size_t>(p)], "the order is a permutation");
-            visto[static_cast<std::size_t>(p)] = true;
-        }
-        Exige(Gbl.PiezaActual >= 0 && Gbl.PiezaActual <= Gbl.NumPiezas, "the piece in hand exists");
-    }
-
-    static void CompruebaGrabadora() {
-        Exige(Gbl.NumMovimientos >= 0 && Gbl.NumMovimientos <= Gbl.Movimientos.Superior(),
-              "the log's index is in range");
-        if (Gbl.GrabadoraEncendida)
-            Exige(Gbl.NumMovimientos <= Gbl.FinMovimientos &&
-                      Gbl.FinMovimientos <= Gbl.Movimientos.Superior(),
-                  "the recorder's end is in range");
-        for (i32 i = 1; i <= Gbl.NumMovimientos; ++i)
-            Exige(Gbl.Movimientos[i].Pieza >= 1 && Gbl.Movimientos[i].Pieza <= Gbl.NumPiezas,
-                  "the log names pieces");
     }
 
     // The log leads to where the pieces are: taken back from the last move to the first, each move
@@ -464,38 +446,10 @@ private:
         }
     }
 
-    void CompruebaBanderas() const {
+    void CompruebaMano() const {
         Exige(!Gbl.ArrastrandoPieza || apretado_ || Gbl.CruzSujeta,
               "no piece in hand without a press");
-        Exige(!Gbl.SoltandoPieza, "no drop under way between events");
         Exige(!Gbl.GirandoPieza || apretado_, "no turning without a press");
-        Exige(!Gbl.GiroEnCurso && Gbl.EntradaAplazada.empty(), "nothing is left waiting");
-        Exige(!Gbl.Barajando, "no shuffle under way between events");
-        Exige(!Gbl.ResolviendoPuzzle, "no solving under way between events");
-        Exige(!Gbl.OrdenandoPiezas, "no arrangement under way between events");
-        Exige(!Gbl.TareaAutomatica, "no automatic run under way between events");
-        Exige(!Gbl.AutoAtras && !Gbl.AutoAdelante, "no replay under way between events");
-        Exige(Gbl.MarcaPausa == 0, "no pause under way between events");
-        Exige(Gbl.EventosAnidados == 0 && Gbl.ManejadoresEnCurso == 0, "no handler still at work");
-        Exige(Mesa.MousePointer == PUNTERO_NORMAL, "no busy pointer between events");
-        // A piece in hand is counted when it is dropped.
-        Exige(Gbl.ArrastrandoPieza || Gbl.PiezasColocadas == CuentaColocadas(),
-              "the count of placed pieces is right");
-    }
-
-    static void CompruebaCeldas() {
-        const i32 celdas = Gbl.PiezasPorLado * Gbl.PiezasPorLado;
-        std::vector<bool> visto(static_cast<std::size_t>(celdas) + 1);
-        const auto ocupa = [&](i16 x, i16 y) {
-            const i16 c = CeldaDePosicion(x, y);
-            Exige(c >= 1 && c <= celdas, "on the board");
-            Exige((x - Gbl.MargenX) % Gbl.AnchoCelda == 0 && (y - Gbl.MargenY) % Gbl.AltoCelda == 0,
-                  "exactly on a cell");
-            Exige(!visto[static_cast<std::size_t>(c)], "pieces and hole on distinct cells");
-            visto[static_cast<std::size_t>(c)] = true;
-        };
-        for (i32 i = 1; i <= Gbl.NumPiezas; ++i) ocupa(Gbl.Piezas[i].X, Gbl.Piezas[i].Y);
-        ocupa(Gbl.HuecoX, Gbl.HuecoY);
     }
 
     // Lays the table afresh and compares; then what the player sees is put back.

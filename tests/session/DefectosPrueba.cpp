@@ -1,5 +1,6 @@
 // The defaults of a game without a file come over whatever another game has left in the block;
 // and what a loaded record brings with it.
+#include "apoyo/Invariantes.h"
 #include "apoyo/MesaMontada.h"
 #include "apoyo/MesaMoviles.h"
 #include "core/Errores.h"
@@ -19,6 +20,11 @@ namespace {
 
 class Defectos : public MesaMontada {
 protected:
+    // Whatever was damaged, what lies on the table is a game.
+    void TearDown() override {
+        EXPECT_EQ(Incumplido(InvariantesSiempre()), "");
+        MesaMontada::TearDown();
+    }
     // Every setting other than its default.
     static void Revuelve(i16 juego) {
         Gbl.JuegoActual = juego;

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "apoyo/Invariantes.h"
 #include "apoyo/MesaMontada.h"
 #include "core/Cadenas.h"
 #include "core/Errores.h"
@@ -39,6 +40,9 @@ protected:
         lineas_.clear();
         BorraError();
         LeePuzzle(bytes);
+        if (ErrorPendiente() == 0) {
+            EXPECT_EQ(Incumplido(InvariantesSiempre()), "");
+        }
     }
     static std::vector<Pieza> Tabla() { return {Gbl.Piezas.begin(), Gbl.Piezas.end()}; }
     // The player slides a piece into the hole.
