@@ -1,9 +1,10 @@
 # Shared by play and check, which read it in: what the machine must have, by Debian package names.
 # instala_paquetes GROUP... installs what is missing of the groups juego (to build and play),
-# pruebas (to test), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
+# pruebas (to test), fuzz (to fuzz), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
 
 PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev fonts-liberation2"
 PAQUETES_pruebas="python3 clang-format clang-tidy desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
+PAQUETES_fuzz="clang libgtest-dev"
 PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"
 PAQUETES_paquete="debhelper lintian fakeroot dpkg-dev"
 PAQUETES_pantalla="xvfb openbox imagemagick"
