@@ -3,13 +3,9 @@
 //
 // The processor time of the process is taken when the welcome stands on the laid table, so that the
 // splash, which only waits, does not count.
-#include <unistd.h>
-
 #include <cstdio>
-#include <fstream>
-#include <sstream>
-#include <string>
 
+#include "Medidas.h"
 #include "ventana/Escritorio.h"
 
 namespace tessario::ventana {
@@ -17,26 +13,6 @@ namespace {
 
 constexpr int POR_LADO = 20, ANCHO_CELDA = 51, ALTO_CELDA = 38;
 constexpr double LIMITE_SEGUNDOS = 0.25, LIMITE_MEGAS = 100;
-
-// User and system time of a process so far, in seconds.
-double Procesador(pid_t pid) {
-    std::ifstream f("/proc/" + std::to_string(pid) + "/stat");
-    std::string todo((std::istreambuf_iterator<char>(f)), {});
-    std::istringstream resto(todo.substr(todo.rfind(')') + 2));
-    std::string campo;
-    for (int i = 0; i < 11; ++i) resto >> campo;  // up to the field before utime
-    long usuario = 0, sistema = 0;
-    resto >> usuario >> sistema;
-    return static_cast<double>(usuario + sistema) / static_cast<double>(sysconf(_SC_CLK_TCK));
-}
-
-// Resident memory in megabytes.
-double Memoria(pid_t pid) {
-    std::ifstream f("/proc/" + std::to_string(pid) + "/status");
-    for (std::string linea; std::getline(f, linea);)
-        if (linea.rfind("VmRSS:", 0) == 0) return std::stod(linea.substr(6)) / 1024;
-    return 0;
-}
 
 PartidaGuardada Cuatrocientas() {
     PartidaGuardada p;
@@ -54,13 +30,6 @@ PartidaGuardada Cuatrocientas() {
         p.piezas.push_back(q);
     }
     return p;
-}
-
-bool Linea(const char* nombre, const char* unidad, double valor, double limite) {
-    const bool bien = valor <= limite;
-    std::printf("%-44s %11.2f %s %32.2f  %s\n", nombre, valor, unidad, limite,
-                bien ? "ok" : "TOO MUCH");
-    return bien;
 }
 
 bool Mide() {
@@ -83,5 +52,8 @@ bool Mide() {
 }  // namespace tessario::ventana
 
 int main() {
-    return tessario::ventana::Mide() ? 0 : 1;
+    using namespace tessario::ventana;
+    bool bien = Mide();
+    bien = MideGrande() && bien;
+    return MideOcio() && bien ? 0 : 1;
 }

@@ -51,11 +51,12 @@ void PreparaMesa() {
     const int flags = pluma::Desde | pluma::ConColor;
     Pic_Imagen.Line(flags, x, -1, x, y, Gbl.ColorContraste);
     Pic_Imagen.Line(flags, -1, y, x, y, Gbl.ColorContraste);
-    Pic_Imagen.PonPicture(Pic_Imagen.Image());
+    Pic_Imagen.PonPicture(Pic_Imagen.ImageJusta());
 
     Pic_Trabajo.Tamano(ancho, alto);
     Pic_Trabajo_Paint();
     Pic_Fondo.Tamano(ancho, alto);
+    Pic_Fondo.PonBackColor(Gbl.ColorFondo);
     Pic_Fondo.PonPicture(Pic_Imagen.Picture());
 }
 

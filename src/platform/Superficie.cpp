@@ -1,44 +1,41 @@
 #include "platform/Superficie.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessario {
 
-namespace {
-
-// Columns [x0, x1) of one row of the ground: the picture where it reaches, else the colour.
-void PintaSuelo(Mapa& dibujo, i32 y, i32 x0, i32 x1, const Mapa* picture, Pixel fondo) {
-    Pixel* fila = dibujo.Fila(y);
+void Superficie::CopiaSuelo(i32 y, i32 x0, i32 x1, Pixel* destino) const {
     i32 x = x0;
-    if (picture && y < picture->Alto && x < picture->Ancho) {
-        const Pixel* origen = picture->Fila(y);
-        x = std::min(x1, picture->Ancho);
-        std::copy(origen + x0, origen + x, fila + x0);
+    if (picture_ && y < picture_->Alto && x < picture_->Ancho) {
+        const Pixel* const origen = picture_->Fila(y);
+        x = std::min(x1, picture_->Ancho);
+        std::copy(origen + x0, origen + x, destino);
     }
-    std::fill(fila + x, fila + x1, fondo);
+    std::fill(destino + (x - x0), destino + (x1 - x0), PixelDe(fondo_));
 }
-
-}  // namespace
 
 void Superficie::Tamano(i32 ancho, i32 alto) {
     ancho = std::max(ancho, 0);
     alto = std::max(alto, 0);
     if (ancho == ancho_ && alto == alto_) return;
 
-    Mapa nuevo(ancho, alto);
-    const i32 anchoComun = std::min(ancho, ancho_);
-    const i32 altoComun = std::min(alto, alto_);
-    for (i32 y = 0; y < alto; ++y) {
-        i32 x = 0;
-        if (y < altoComun) {
-            x = anchoComun;
-            std::copy_n(dibujo_.Fila(y), x, nuevo.Fila(y));
-        }
-        PintaSuelo(nuevo, y, x, ancho, picture_.get(), PixelDe(fondo_));
-    }
-    dibujo_ = std::move(nuevo);
+    // Nothing has been drawn: the ground is laid anew, or left for later.
+    const bool vacia = aDemanda_ || dibujo_.Pixeles.empty();
+    const i32 anchoComun = std::min(ancho, ancho_), altoComun = std::min(alto, alto_);
     ancho_ = ancho;
     alto_ = alto;
+    if (vacia) {
+        BorraDibujo();
+    } else {
+        Mapa nuevo(ancho, alto);
+        for (i32 y = 0; y < alto; ++y) {
+            const i32 x = y < altoComun ? anchoComun : 0;
+            std::copy_n(dibujo_.Fila(y), x, nuevo.Fila(y));
+            CopiaSuelo(y, x, ancho, nuevo.Fila(y) + x);
+        }
+        dibujo_ = std::move(nuevo);
+    }
     // Whatever was noted for the old size is part of the whole.
     sucio_ = tocado_ = Limites();
 }
@@ -54,7 +51,26 @@ void Superficie::PonPicture(Imagen p) {
 }
 
 Imagen Superficie::Image() const {
-    return std::make_shared<const Mapa>(dibujo_);
+    return std::make_shared<const Mapa>(Dibujo());
+}
+
+Imagen Superficie::ImageJusta() const {
+    if (aDemanda_) return picture_;
+    const Pixel suelo = PixelDe(fondo_);
+    const auto esSuelo = [suelo](Pixel p) { return p == suelo; };
+    i32 ancho = 0, alto = 0;
+    for (i32 y = 0; y < alto_; ++y) {
+        const Pixel* const fila = dibujo_.Fila(y);
+        // Only what lies beyond the columns found so far can add to them.
+        i32 x = ancho_;
+        while (x > ancho && esSuelo(fila[x - 1])) --x;
+        ancho = x;
+        if (x > 0 && !std::all_of(fila, fila + x, esSuelo)) alto = y + 1;
+    }
+    if (ancho == 0 || alto == 0) return nullptr;
+    auto justa = std::make_shared<Mapa>(ancho, alto);
+    for (i32 y = 0; y < alto; ++y) std::copy_n(dibujo_.Fila(y), ancho, justa->Fila(y));
+    return justa;
 }
 
 void Superficie::Cls() {
@@ -63,9 +79,18 @@ void Superficie::Cls() {
 }
 
 void Superficie::BorraDibujo() {
-    for (i32 y = 0; y < alto_; ++y)
-        PintaSuelo(dibujo_, y, 0, ancho_, picture_.get(), PixelDe(fondo_));
+    aDemanda_ = EsGrande();
+    if (aDemanda_)
+        dibujo_ = Mapa();
+    else
+        HazDibujo();
     Marca(Limites());
+}
+
+void Superficie::HazDibujo() const {
+    if (dibujo_.Ancho != ancho_ || dibujo_.Alto != alto_) dibujo_ = Mapa(ancho_, alto_);
+    for (i32 y = 0; y < alto_; ++y) CopiaSuelo(y, 0, ancho_, dibujo_.Fila(y));
+    aDemanda_ = false;
 }
 
 void Superficie::PonRecorte(const Region* r) {

@@ -70,6 +70,11 @@ inline constexpr u32 SRCINVERT = 0x660046;   // destination xor source
 inline constexpr u32 NOTSRCCOPY = 0x330008;  // not source
 inline constexpr u32 DSNA = 0x220B24;        // destination and not source
 
+// A surface of so many pixels and more keeps none of its own while it shows nothing but its ground:
+// they are made when somebody draws on them or asks for them. A table on a large screen has two
+// such surfaces that are never drawn on.
+inline constexpr std::size_t PIXELES_A_DEMANDA = std::size_t{1} << 20;
+
 class Superficie {
 public:
     Superficie() = default;
@@ -96,7 +101,10 @@ public:
     const Imagen& Picture() const { return picture_; }
     void PonPicture(Imagen p);  // null empties it
     Imagen Image() const;       // a copy of what the surface shows now
-    void Cls();                 // clears the drawing down to Picture; the pen goes to (0, 0)
+    // The least picture that shows the same over the same ground: without the rows below and the
+    // columns at the right that are all ground. Null when everything is.
+    Imagen ImageJusta() const;
+    void Cls();  // clears the drawing down to Picture; the pen goes to (0, 0)
 
     // --- Pen state, free to set at any time.
     Color ForeColor = 0;
@@ -140,9 +148,22 @@ public:
     void PonRecorte(const Region* r);
 
     // --- Pixels. A row is contiguous. Whoever writes through Fila tells Marca what changed.
-    Pixel* Fila(i32 y) { return dibujo_.Fila(y); }
-    const Pixel* Fila(i32 y) const { return dibujo_.Fila(y); }
-    const Mapa& Dibujo() const { return dibujo_; }
+    Pixel* Fila(i32 y) {
+        if (aDemanda_) HazDibujo();
+        return dibujo_.Fila(y);
+    }
+    const Pixel* Fila(i32 y) const {
+        if (aDemanda_) HazDibujo();
+        return dibujo_.Fila(y);
+    }
+    const Mapa& Dibujo() const {
+        if (aDemanda_) HazDibujo();
+        return dibujo_;
+    }
+    // Does it show its ground alone, with no pixels made? Reading a row would make them.
+    bool SoloSuelo() const { return aDemanda_; }
+    // Columns [x0, x1) of one row of the ground: Picture where it reaches, else BackColor.
+    void CopiaSuelo(i32 y, i32 x0, i32 x1, Pixel* destino) const;
 
     // --- What changed. Every drawing operation reports the rectangle that it may have touched:
     // one union is kept for the screen, one for the routine that repaints the table.
@@ -153,8 +174,15 @@ public:
 
 private:
     void BorraDibujo();
+    void HazDibujo() const;
+    // Has it so many pixels that they are made on demand?
+    bool EsGrande() const {
+        return static_cast<std::size_t>(ancho_) * static_cast<std::size_t>(alto_) >=
+               PIXELES_A_DEMANDA;
+    }
 
-    Mapa dibujo_;
+    mutable Mapa dibujo_;
+    mutable bool aDemanda_ = false;
     Imagen picture_;
     i32 ancho_ = 0, alto_ = 0;
     Color fondo_ = 0xFFFFFF;

@@ -127,7 +127,10 @@ void Superficie::PSet(double x, double y, Color color) {
 
 Color Superficie::Point(i32 x, i32 y) const {
     if (!Limites().Contiene(x, y)) return 0xFFFFFFFFU;
-    return ColorDe(Fila(y)[x]);
+    if (!aDemanda_) return ColorDe(dibujo_.Fila(y)[x]);
+    Pixel suelo = 0;
+    CopiaSuelo(y, x, x + 1, &suelo);
+    return ColorDe(suelo);
 }
 
 void Superficie::Print(std::string_view texto) {

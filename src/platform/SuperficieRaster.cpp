@@ -147,9 +147,15 @@ void BitBlt(Superficie& destino, i32 xd, i32 yd, i32 ancho, i32 alto, const Supe
         });
         return;
     }
+    // A source without pixels gives its ground row by row, and still has none afterwards.
+    const bool suelo = &destino != &origen && origen.SoloSuelo();
+    std::vector<Pixel> fila(suelo ? static_cast<std::size_t>(caja.Ancho()) : 0);
     PorElRecorte(destino, caja, [&](const Rect& r) {
-        for (i32 y = r.Arr; y < r.Aba; ++y)
-            mezcla(destino.Fila(y) + r.Izq, origen.Fila(y + sy) + r.Izq + sx, r.Ancho());
+        for (i32 y = r.Arr; y < r.Aba; ++y) {
+            if (suelo) origen.CopiaSuelo(y + sy, r.Izq + sx, r.Der + sx, fila.data());
+            const Pixel* const s = suelo ? fila.data() : origen.Fila(y + sy) + r.Izq + sx;
+            mezcla(destino.Fila(y) + r.Izq, s, r.Ancho());
+        }
     });
 }
 

@@ -8,6 +8,7 @@
 namespace tessario {
 
 void Superficie::TamanoLibre(i32 ancho, i32 alto) {
+    aDemanda_ = false;
     ancho_ = dibujo_.Ancho = std::max(ancho, 0);
     alto_ = dibujo_.Alto = std::max(alto, 0);
     dibujo_.Pixeles.resize(static_cast<std::size_t>(ancho_) * static_cast<std::size_t>(alto_));
@@ -22,6 +23,8 @@ void Superficie::TamanoLimpio(i32 ancho, i32 alto) {
 }
 
 void Superficie::CambiaDibujo(Superficie& otra) {
+    for (const Superficie* s : {this, &otra})
+        if (s->aDemanda_) s->HazDibujo();
     std::swap(dibujo_, otra.dibujo_);
     for (Superficie* s : {this, &otra}) {
         s->ancho_ = s->dibujo_.Ancho;

@@ -1,6 +1,7 @@
 #include "qt/VistasPintadas.h"
 
 #include <QEnterEvent>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
@@ -25,9 +26,9 @@ QColor Fondo(const Superficie& s) {
     return QColor::fromRgb(PixelDe(s.BackColor()));
 }
 
-QImage Lienzo(const Superficie& s) {
-    return {reinterpret_cast<const uchar*>(s.Fila(0)), s.Width(), s.Height(),
-            static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32};
+QImage Lienzo(const Mapa& m) {
+    return {reinterpret_cast<const uchar*>(m.Pixeles.data()), m.Ancho, m.Alto,
+            static_cast<qsizetype>(m.Ancho) * 4, QImage::Format_RGB32};
 }
 
 // A bright frame within a dark line: seen on any ground, and without its colour.
@@ -39,6 +40,23 @@ void PintaMarco(QPainter& p, const QRect& r) {
     }
 }
 
+// Paints what a bitmap has of a region, and tells which part that was.
+QRegion PintaMapa(QPainter& p, const Mapa& m, const QRegion& region) {
+    const QRegion suya = region & QRect(0, 0, m.Ancho, m.Alto);
+    const QImage lienzo = Lienzo(m);
+    for (const QRect& r : suya) p.drawImage(r.topLeft(), lienzo, r);
+    return suya;
+}
+
+// The upper byte of our pixels is 0. The window system takes no notice, but a compositor hands it
+// on with its pictures of the screen, where it says how opaque a pixel is.
+void HazOpaca(QPainter& p, const QRegion& region) {
+    static const bool hay = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    if (!hay) return;
+    p.setCompositionMode(QPainter::RasterOp_SourceOrDestination);
+    for (const QRect& r : region) p.fillRect(r, Qt::black);
+}
+
 }  // namespace
 
 void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
@@ -48,13 +66,14 @@ void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
         p.fillRect(e.rect(), Fondo(s));
         return;
     }
-    const QImage lienzo = Lienzo(s);
-    for (const QRect& r : e.region()) {
-        const QRect dentro = r & limites;
-        if (!dentro.isEmpty()) p.drawImage(dentro.topLeft(), lienzo, dentro);
-    }
-    const QRegion fuera = e.region() - limites;
+    // A surface that is all ground has no pixels, and is given none to be shown.
+    QRegion fuera = e.region();
+    if (!s.SoloSuelo())
+        fuera -= PintaMapa(p, s.Dibujo(), fuera & limites);
+    else if (s.Picture())
+        fuera -= PintaMapa(p, *s.Picture(), fuera & limites);
     for (const QRect& r : fuera) p.fillRect(r, Fondo(s));
+    HazOpaca(p, e.region());
 }
 
 VistaCuadro::VistaCuadro(Cuadro& c, MarcoDeVistas& v, QWidget* padre)
@@ -161,7 +180,7 @@ void VistaCuadro::PintaCara(QPainter& p, int cara) const {
         if (cuadro_.Caras && r == rect()) {
             const QPoint paso = hundida ? QPoint(1, 1) : QPoint(-1, -1);
             p.fillRect(r, Fondo(cuadro_));
-            p.drawImage(paso, Lienzo(cuadro_));
+            p.drawImage(paso, Lienzo(cuadro_.Dibujo()));
             tecla = r.adjusted(1, 1, -2, -2).translated(paso);
         }
         p.fillRect(tecla, hundida ? SOMBRA : LUZ);

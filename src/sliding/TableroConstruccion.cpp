@@ -78,11 +78,12 @@ void PreparaMesaVacia() {
     Pic_Imagen.PonBackColor(Gbl.ColorFondo);
     Pic_Imagen.PonPicture(nullptr);
     PintaMarcoHundido(Pic_Imagen);
-    Pic_Imagen.PonPicture(Pic_Imagen.Image());
+    Pic_Imagen.PonPicture(Pic_Imagen.ImageJusta());
     Pic_Trabajo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
     Pic_Trabajo_Paint();
     Pic_Fondo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Fondo.PonPicture(Pic_Imagen.Image());
+    Pic_Fondo.PonBackColor(Gbl.ColorFondo);
+    Pic_Fondo.PonPicture(Pic_Imagen.Picture());
 }
 
 std::string Rotulo(i32 piece) {

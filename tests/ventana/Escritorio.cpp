@@ -195,10 +195,10 @@ Escritorio::~Escritorio() {
     Termina(servidor_);
 }
 
-void Escritorio::Mueve(int x, int y) {
+void Escritorio::Mueve(int x, int y, int reposo) {
     XTestFakeMotionEvent(d_, -1, x, y, 0);
     XSync(d_, False);
-    Duerme(12);
+    if (reposo > 0) Duerme(reposo);
 }
 
 void Escritorio::Aprieta(int boton) {

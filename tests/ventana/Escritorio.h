@@ -40,8 +40,8 @@ public:
     Escritorio(const Escritorio&) = delete;
     Escritorio& operator=(const Escritorio&) = delete;
 
-    void Mueve(int x, int y);
-    void Aprieta(int boton = 1);  // 1 left, 3 right
+    void Mueve(int x, int y, int reposo = 12);  // ms to stay there
+    void Aprieta(int boton = 1);                // 1 left, 3 right
     void Suelta(int boton = 1);
     void Pulsa(int x, int y, int boton = 1);
     // Press, several moves on the way, release.

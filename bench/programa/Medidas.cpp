@@ -1,0 +1,61 @@
+#include "Medidas.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace tessario::ventana {
+
+double Procesador(pid_t pid) {
+    std::ifstream f("/proc/" + std::to_string(pid) + "/stat");
+    std::string todo((std::istreambuf_iterator<char>(f)), {});
+    std::istringstream resto(todo.substr(todo.rfind(')') + 2));
+    std::string campo;
+    for (int i = 0; i < 11; ++i) resto >> campo;  // up to the field before utime
+    long usuario = 0, sistema = 0;
+    resto >> usuario >> sistema;
+    return static_cast<double>(usuario + sistema) / static_cast<double>(sysconf(_SC_CLK_TCK));
+}
+
+double Memoria(pid_t pid) {
+    std::ifstream f("/proc/" + std::to_string(pid) + "/status");
+    for (std::string linea; std::getline(f, linea);)
+        if (linea.rfind("VmRSS:", 0) == 0) return std::stod(linea.substr(6)) / 1024;
+    return 0;
+}
+
+double Copia(double bytes) {
+    constexpr int VECES = 9;
+    const auto n = static_cast<std::size_t>(bytes);
+    const std::vector<char> origen(n, 1);
+    std::vector<char> destino(n, 2);
+    std::vector<double> tiempos;
+    for (int i = 0; i < VECES; ++i) {
+        const auto antes = std::chrono::steady_clock::now();
+        std::memcpy(destino.data(), origen.data(), n);
+        asm volatile("" : : "r"(destino.data()) : "memory");
+        tiempos.push_back(
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count());
+    }
+    std::nth_element(tiempos.begin(), tiempos.begin() + VECES / 2, tiempos.end());
+    return tiempos[VECES / 2];
+}
+
+bool Linea(const char* nombre, const char* unidad, double valor, double limite, double copias) {
+    const bool bien = valor <= limite;
+    const std::string razon =
+        copias > 0 ? "= " + std::to_string(static_cast<long>(copias + 0.5)) + " copies" : "";
+    std::printf("%-44s %11.2f %s %20s %11.2f  %s\n", nombre, valor, unidad, razon.c_str(), limite,
+                bien ? "ok" : "TOO MUCH");
+    return bien;
+}
+
+}  // namespace tessario::ventana
