@@ -55,6 +55,7 @@ bool Linea(const char* nombre, const char* unidad, double valor, double limite, 
         copias > 0 ? "= " + std::to_string(static_cast<long>(copias + 0.5)) + " copies" : "";
     std::printf("%-44s %11.2f %s %20s %11.2f  %s\n", nombre, valor, unidad, razon.c_str(), limite,
                 bien ? "ok" : "TOO MUCH");
+    std::fflush(stdout);  // the programs that are started next inherit what is not out yet
     return bien;
 }
 

@@ -88,9 +88,13 @@ void Superficie::BorraDibujo() {
 }
 
 void Superficie::HazDibujo() const {
-    if (dibujo_.Ancho != ancho_ || dibujo_.Alto != alto_) dibujo_ = Mapa(ancho_, alto_);
-    for (i32 y = 0; y < alto_; ++y) CopiaSuelo(y, 0, ancho_, dibujo_.Fila(y));
     aDemanda_ = false;
+    const bool nuevo = dibujo_.Ancho != ancho_ || dibujo_.Alto != alto_;
+    // A new bitmap comes filled: only the picture is missing.
+    if (nuevo) dibujo_ = Mapa(ancho_, alto_, PixelDe(fondo_));
+    const i32 filas = nuevo ? std::min(alto_, picture_ ? picture_->Alto : 0) : alto_;
+    const i32 columnas = nuevo ? std::min(ancho_, picture_ ? picture_->Ancho : 0) : ancho_;
+    for (i32 y = 0; y < filas; ++y) CopiaSuelo(y, 0, columnas, dibujo_.Fila(y));
 }
 
 void Superficie::PonRecorte(const Region* r) {
