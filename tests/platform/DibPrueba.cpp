@@ -140,6 +140,40 @@ TEST_F(Bmp, BitFieldsOfAnyWidth) {
     EXPECT_FALSE(Lee(f)) << "a field with a hole";
 }
 
+TEST_F(Bmp, PixelsOf32BitsWithoutFieldsAreBlueGreenRed) {
+    Fichero f;
+    f.alto = 1;
+    f.bits = 32;
+    f.datos = Escritor().D(0xFF123456).D(0x00654321).bytes;
+    ASSERT_TRUE(Lee(f));
+    EXPECT_EQ(Fila(0), (Pixeles{0x123456, 0x654321}));
+}
+
+TEST_F(Bmp, AFileThatEndsWithinItsMasksIsRefused) {
+    Fichero f;
+    f.bits = 32;
+    f.compresion = 3;
+    f.filas = 14;
+    f.tabla = Escritor().D(0xFF0000).D(0xFF00).bytes;
+    EXPECT_FALSE(Lee(f));
+}
+
+TEST_F(Bmp, RunsOf24BitsOfTheOtherSystem) {
+    Fichero f;
+    f.ancho = 4;
+    f.alto = 1;
+    f.compresion = 4;
+    f.cabecera = 64;
+    f.datos = {2, 1, 2, 3, 0, 2, 9, 9};  // two of a colour, a jump that goes beyond
+    ASSERT_TRUE(Lee(f));
+    EXPECT_EQ(Fila(0), (Pixeles{0x030201, 0x030201, 0, 0}));
+    f.datos = {1, 1, 2, 3, 0, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 0};
+    ASSERT_TRUE(Lee(f));
+    EXPECT_EQ(Fila(0), (Pixeles{0x030201, 0x060504, 0x090807, 0x0C0B0A}));
+    f.cabecera = 40;
+    EXPECT_FALSE(Lee(f)) << "the number means something else there";
+}
+
 TEST_F(Bmp, MasksStandInsideTheNewerHeaders) {
     for (const long cabecera : {52L, 56L, 108L, 124L}) {
         Fichero f;

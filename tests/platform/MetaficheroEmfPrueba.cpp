@@ -242,6 +242,9 @@ TEST_F(RegistrosEmf, OriginsAndScalesOfWindowAndViewport) {
     Emf d;  // both ways alike: the smaller scale, from the upper left corner
     d.R(17, {7}).R(9, {10, 10}).R(11, {30, 20});
     EXPECT_EQ(donde(d), (PuntoD{20, 40}));
+    Emf y;  // a device whose pixels are twice as high as broad
+    Pon(y.Bytes(), 76, 480, 4);
+    EXPECT_EQ(Unica(y.R(17, {2}).R(15, {100, -100, 0}).Fin()).puntos.at(0), (PuntoD{38, 38}));
     Emf z;  // until extents are set a unit is a tenth of a millimetre, upwards
     EXPECT_EQ(Unica(z.R(17, {7}).R(15, {100, -100, 0}).Fin()).puntos.at(0), (PuntoD{38, 38}));
     // The header told of 960 pixels on 254 millimetres.
@@ -636,6 +639,8 @@ TEST_F(RegistrosEmf, LettersFollowTheScaleAndTurnWithTheWorld) {
     EXPECT_EQ(t.Avances, (Puntos{{14, 0}}));
     EXPECT_EQ((PuntoD{t.Forma.a, t.Forma.b}), (PuntoD{0, 1}));
     EXPECT_EQ((PuntoD{t.Forma.c, t.Forma.d}), (PuntoD{-1, 0}));
+    EXPECT_EQ(texto({F(-1), 0, 0, F(1), 0, 0}).Forma.a, -1) << "mirrored";
+    EXPECT_EQ(texto({F(1), 0, 0, F(-1), 0, 0}).Forma.d, -1);
 }
 
 TEST_F(RegistrosEmf, TextWithBoxAndAdvances) {

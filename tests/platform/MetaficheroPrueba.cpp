@@ -1,5 +1,8 @@
 // The walk over metafiles made here by hand, sound and damaged, without a display: what reaches the
 // painter, and what is refused.
+#include <algorithm>
+#include <cmath>
+
 #include "apoyo/Metaficheros.h"
 
 namespace tessario {
@@ -286,6 +289,41 @@ TEST_F(Paseo, MapModesScalesAndWorldsLeadToPixels) {
     Emf f;
     f.R(35, {0x7FC00000, 0, 0, 0x7F800000, 0, 0});
     EXPECT_EQ(donde(f), (PuntoD{10, 20})) << "nor numbers that are none";
+}
+
+TEST_F(Paseo, CurvesPassWhereTheyShould) {
+    // Two of them: the first through 0, 0 with its points at 8, 16 and 24, 40, to 32, 0.
+    Emf e;
+    e.R(2, {0, 0, 0, 0, 7, 0, 0, 8, 16, 24, 40, 32, 0, 40, 0, 50, 9, 60, 8});
+    ASSERT_TRUE(Bien(e.Fin()));
+    const Puntos& q = p.notas.at(0).puntos;
+    EXPECT_EQ(q.back(), (PuntoD{60, 8}));
+    for (const PuntoD& v : q) {
+        if (v.x > 32) continue;
+        double cerca = 99;
+        for (int k = 0; k <= 1000; ++k) {
+            const double t = k / 1000.0, u = 1 - t;
+            const double x = 24 * u * u * t + 72 * u * t * t + 32 * t * t * t;
+            const double y = 48 * u * u * t + 120 * u * t * t;
+            cerca = std::min(cerca, std::hypot(x - v.x, y - v.y));
+        }
+        EXPECT_LT(cerca, 0.1) << v.x << ", " << v.y;
+    }
+}
+
+TEST_F(Paseo, BoxesTurnWithTheWorld) {
+    constexpr long long UNO = 0x3F800000, MENOS_UNO = 0xBF800000, CINCUENTA = 0x42480000;
+    Emf e;
+    e.R(35, {0, UNO, MENOS_UNO, 0, CINCUENTA, 0}).R(43, {10, 5, 30, 15});
+    ASSERT_TRUE(Bien(e.Fin()));
+    const Puntos& q = p.notas.at(0).puntos;
+    ASSERT_EQ(q.size(), 4U);
+    for (const PuntoD& esquina : Puntos{{45, 10}, {45, 30}, {35, 30}, {35, 10}})
+        EXPECT_EQ(std::count(q.begin(), q.end(), esquina), 1) << esquina.x << ", " << esquina.y;
+    Emf plano;
+    plano.R(35, {0, UNO, MENOS_UNO, 0, CINCUENTA, 0}).R(43, {10, 5, 10, 15}).R(43, {10, 5, 30, 5});
+    ASSERT_TRUE(Bien(plano.Fin()));
+    EXPECT_TRUE(p.notas.empty());
 }
 
 TEST_F(Paseo, HugeCoordinatesStayNumbers) {

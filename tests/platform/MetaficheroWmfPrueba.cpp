@@ -245,6 +245,15 @@ TEST_F(RegistrosWmf, RoundFigures) {
                             [&](PuntoD q) { return cerca(q, 10, 12); }));
 }
 
+TEST_F(RegistrosWmf, APenMayStayInsideItsBox) {
+    Wmf w;
+    w.R(0x02FA, {6, 4, 0, ROJO, 0}).R(0x012D, {0}).R(0x041B, {31, 41, 10, 10});
+    ASSERT_TRUE(Bien(w.Fin()));
+    // Half the pen's width further in, with the half pixel by which a box's edge is a line.
+    EXPECT_EQ(p.notas.back().figura.at(0).Puntos,
+              (Puntos{{38.5, 11.5}, {11.5, 11.5}, {11.5, 28.5}, {38.5, 28.5}}));
+}
+
 // --- Clip and regions.
 
 TEST_F(RegistrosWmf, Clips) {

@@ -269,6 +269,41 @@ TEST_F(Pixeles, CornersOfWideLines) {
     }
 }
 
+TEST_F(Pixeles, DashesOfWideLinesGoOnAroundCorners) {
+    PlumaMeta p = Gorda(ROJO, 2, Extremo::Plano, Junta::Bisel);
+    p.Trazos = {4, 3};
+    r.Traza({{{{5, 10}, {20, 10}, {20, 20}}, false}}, p, modos);
+    // From 5 to 9 and 12 to 16; the third one, from 19 on, goes on downwards to row 13.
+    auto trazos = Caja(5, 9, 9, 11);
+    trazos.merge(Caja(12, 9, 16, 11));
+    for (const auto& s : trazos) EXPECT_EQ(En(s.first, s.second), ROJO) << s.first;
+    EXPECT_EQ(En(9, 10), BLANCO);
+    EXPECT_EQ(En(16, 10), BLANCO);
+    EXPECT_EQ(En(19, 10), ROJO);
+    EXPECT_EQ(En(19, 12), ROJO);
+    EXPECT_EQ(En(19, 13), BLANCO);
+    EXPECT_EQ(En(19, 16), ROJO);
+}
+
+TEST_F(Pixeles, WhatHasNoLengthIsAPoint) {
+    r.Traza({{{{10, 10}}, false}}, Gorda(ROJO, 8, Extremo::Redondo, Junta::Redonda), modos);
+    EXPECT_EQ(En(7, 10), ROJO);
+    EXPECT_EQ(En(12, 12), ROJO);
+    EXPECT_EQ(En(13, 13), BLANCO);
+    r.Abre(ANCHO, ALTO, esfuerzo);
+    r.Traza({{{{10, 10}}, false}}, Gorda(ROJO, 8, Extremo::Plano, Junta::Redonda), modos);
+    EXPECT_TRUE(Sitios(ROJO).empty());
+    r.Traza({{{{4, 6}, {4, 6}, {4, 6}}, true}}, Fina(ROJO), modos);
+    EXPECT_EQ(Sitios(ROJO), Caja(4, 6, 5, 7));
+}
+
+TEST_F(Pixeles, AFigureIsFilledAndDrawnAround) {
+    r.Figura(Rectangulo(5, 5, 15, 12), true, Lisa(AZUL), Fina(ROJO), modos);
+    EXPECT_EQ(Sitios(AZUL), Caja(6, 6, 15, 12));
+    EXPECT_EQ(En(15, 12), ROJO);
+    EXPECT_EQ(En(5, 8), ROJO);
+}
+
 TEST_F(Pixeles, CopiesAreStretchedMirroredAndCut) {
     const Mapa m = De(2, {ROJO, AZUL, VERDE, 0});
     r.Copia(Copia(m, 4, 4, 4, 2), {}, modos);
