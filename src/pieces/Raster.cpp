@@ -1,6 +1,7 @@
 #include "pieces/Raster.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"
@@ -24,7 +25,7 @@ void Escribe(Pixel* p, Cuatro v) {
 }
 
 // Eight pixels, for processors that have registers for them.
-using Ocho = Pixel __attribute__((vector_size(32), aligned(4)));
+using Ocho = Pixel __attribute__((vector_size(32)));
 
 // A row of a piece's two surfaces: the mask as it stands in its mould, the image from the source
 // where the mask is black, 0 where it is white. The last pixels may be done twice.
@@ -34,9 +35,12 @@ inline __attribute__((always_inline)) void EstampaFila(Pixel* mascara, Pixel* im
                                                        i32 n) {
     constexpr i32 a_la_vez = sizeof(Grupo) / sizeof(Pixel);
     const auto estampa = [=](i32 x) __attribute__((always_inline)) {
-        const Grupo m = *reinterpret_cast<const Grupo*>(molde + x);
-        *reinterpret_cast<Grupo*>(mascara + x) = m;
-        *reinterpret_cast<Grupo*>(imagen + x) = *reinterpret_cast<const Grupo*>(origen + x) & ~m;
+        Grupo m, o;
+        std::memcpy(&m, molde + x, sizeof m);
+        std::memcpy(&o, origen + x, sizeof o);
+        o &= ~m;
+        std::memcpy(mascara + x, &m, sizeof m);
+        std::memcpy(imagen + x, &o, sizeof o);
     };
     if (n < a_la_vez) {
         for (i32 x = 0; x < n; ++x) {

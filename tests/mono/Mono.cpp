@@ -23,6 +23,7 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
+#include "mono/Visita.h"
 #include "panel/Colocadas.h"
 #include "pieces/Composicion.h"
 #include "pieces/Formas.h"
@@ -62,17 +63,13 @@ enum Excepcion : unsigned {
 
 // What was under way when an event came in from inside; counted to see that the mix reaches it.
 enum Tarea : std::size_t { Baraja, Resuelve, Ordena, Reproduce, Gira, Tareas };
+constexpr const char* VENTANAS[] = {"Personal", "Cargua", "Historic", "Estadis"};
 constexpr const char* NOMBRES_TAREA[Tareas] = {"shuffle", "solver", "arrangement", "replay",
                                                "turn"};
 
 class Mono {
 public:
-    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla) {
-        personal_.Nombre = "Personal";
-    }
-    ~Mono() {
-        if (VentanasOrdenes.Personal == &personal_) VentanasOrdenes.Personal = nullptr;
-    }
+    Mono(i16 juego, unsigned semilla) : juego_(juego), azar_(semilla) {}
     Mono(const Mono&) = delete;
     Mono& operator=(const Mono&) = delete;
 
@@ -90,6 +87,7 @@ public:
     }
     long Numero() const { return numero_; }
     const std::string& Ultimo() const { return ultimo_; }
+    long Visitas() const { return visitas_; }
     long Pulsos() const { return pulsos_; }
     long Fotos() const { return fotos_; }
     long Jugadas() const { return jugadas_; }
@@ -125,8 +123,8 @@ private:
         Exige(Main(), "the start was refused");
         Gbl.VentanaInformacion = Una(2);
         p_->ventanas["Mensajes"] = [this](Ventana&) { Contesta(); };
-        p_->ventanas["Personal"] = [this](Ventana&) { Personaliza(); };
-        VentanasOrdenes.Personal = &personal_;
+        for (const char* ventana : VENTANAS)
+            p_->ventanas[ventana] = [this](Ventana& v) { Visita(v); };
         p_->alDejarPasar = [this] { EventoDentro(); };
         Varia();
     }
@@ -192,18 +190,11 @@ private:
         }
     }
 
-    // What the player does in the settings window.
-    void Personaliza() {
-        while (Una(3)) Tic();
-        if (Una(3)) {
-            Elige();
-            Gbl.ParametrosCambiados = true;
-        } else if (Una(2)) {
-            Gbl.ColorFondo = Hasta(0x1000000);
-            Gbl.ColorPiezas = Hasta(0x1000000);
-            CalculaColores();
-            Gbl.ColoresCambiados = true;
-        }
+    // A window of the program; the game may be another one afterwards.
+    void Visita(Ventana& v) {
+        ++visitas_;
+        ultimo_ = "in " + v.Nombre;
+        VisitaVentana(v, [this](i32 n) { return Hasta(n); });
     }
 
     // A point: mostly near a piece, sometimes on the strip, sometimes anywhere.
@@ -423,7 +414,6 @@ private:
         if (!Gbl.ArrastrandoPieza) Cumple(InvariantesEnReposo());
         CompruebaMano();
         if (numero_ % 16 == 0 && !Gbl.ArrastrandoPieza) CompruebaCadena();
-        Exige(Gbl.JuegoActual == juego_, "the game is the one that was started");
         // The picture is looked at when something was drawn on it.
         const Rect imagen = Pic_Imagen.TomaSucio(), vista = Pic_Trabajo.TomaSucio();
         dibujado_ = dibujado_ || !imagen.Vacio() || !vista.Vacio();
@@ -478,7 +468,6 @@ private:
     }
 
     i16 juego_;
-    Ventana personal_;
     std::mt19937 azar_;
     std::unique_ptr<PlataformaPrueba> p_;
     std::unique_ptr<PunteroPrueba> puntero_;
@@ -490,7 +479,7 @@ private:
     int anidado_ = 0;
     unsigned excepciones_ = 0;
     long numero_ = 0;
-    long pulsos_ = 0, fotos_ = 0, jugadas_ = 0, acabados_ = 0;
+    long visitas_ = 0, pulsos_ = 0, fotos_ = 0, jugadas_ = 0, acabados_ = 0;
     long anidados_[Tareas] = {};
     std::string ultimo_;
 };
@@ -507,9 +496,10 @@ bool Suelta(i16 juego, long eventos, unsigned semilla) {
     }
     PonSistema(nullptr);
     std::printf(
-        "game %d: %ld events, %ld presses, %ld pictures compared, %ld moves logged, %ld puzzles "
-        "finished; events inside",
-        juego, eventos, mono.Pulsos(), mono.Fotos(), mono.Jugadas(), mono.Acabados());
+        "game %d: %ld events, %ld presses, %ld windows visited, %ld pictures compared, %ld moves "
+        "logged, %ld puzzles finished; events inside",
+        juego, eventos, mono.Pulsos(), mono.Visitas(), mono.Fotos(), mono.Jugadas(),
+        mono.Acabados());
     for (std::size_t t = 0; t < Tareas; ++t)
         std::printf("%s %s %ld", t == 0 ? "" : ",", NOMBRES_TAREA[t], mono.Anidados(t));
     std::printf(": nothing to complain of\n");
