@@ -38,6 +38,20 @@ TEST_F(Paseo, ADescriptionIsNoMeasureOfTheDevice) {
     EXPECT_EQ(p.notas[0].puntos, (Puntos{{7, 9}}));
 }
 
+TEST_F(Paseo, TheDevicesMeasureInThousandthsOfAMillimetreIsTheFinerOne) {
+    Emf e;
+    Pon(e.Bytes(), 100, 254'000, 4);
+    Pon(e.Bytes(), 104, 127'000, 4);  // half as high as the older field tells
+    ASSERT_TRUE(Bien(e.R(15, {10, 20, 0}).Fin()));
+    EXPECT_EQ(p.notas[0].puntos, (Puntos{{10, 10}}));
+    for (const std::size_t campo : {100U, 104U}) {  // without both they say nothing
+        Emf f;
+        Pon(f.Bytes(), campo, 127'000, 4);
+        ASSERT_TRUE(Bien(f.R(15, {10, 20, 0}).Fin()));
+        EXPECT_EQ(p.notas[0].puntos, (Puntos{{10, 20}})) << campo;
+    }
+}
+
 TEST_F(Paseo, HeadersThatCannotBeAreRefused) {
     const auto mal = [&](std::size_t i, long long v, std::size_t n = 4) {
         Emf e;

@@ -97,6 +97,10 @@ TEST_F(RegistrosWmf, Modes) {
     EXPECT_FALSE(n.alterno);
     EXPECT_EQ(n.modos.Fondo, 0x00FF00U);
     EXPECT_EQ(n.modos.Texto, TINTA_ROJA);
+    for (const auto& [modo, queda] : {std::pair{1LL, 1}, {16LL, 16}, {0LL, 13}, {17LL, 13}}) {
+        Wmf u;
+        EXPECT_EQ(Unica(u.R(0x0104, {modo}).R(0x0213, {9, 9}).Fin()).modos.Rop2, queda);
+    }
     // Saved and brought back.
     Wmf v;
     v.R(0x001E, {}).R(0x0104, {7}).R(0x0127, {-1}).R(0x0213, {9, 9});
@@ -418,6 +422,7 @@ TEST_F(RegistrosWmf, RowsAndStretchedBitmaps) {
     n = con(0x0D33, {0, 2, 1, 0, 0, 3, 1, 6, 5});
     EXPECT_EQ(n.origen.Alto, 2);
     EXPECT_EQ(n.copia.Arr, 0);
+    EXPECT_EQ(con(0x0D33, {0, 1, 2, 0, 0, 3, 1, 6, 5}).origen.Alto, 1);
     n = con(0x0D33, {0, 3, 0, 1, 0, 2, 1, 6, 5}, -3);
     EXPECT_EQ(n.copia.Arr, 1);
     Wmf nada;
