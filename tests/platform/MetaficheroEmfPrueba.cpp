@@ -330,6 +330,7 @@ TEST_F(RegistrosEmf, FiguresWithShortPointsAreTheSameFigures) {
         const Campos partes{0, 0, 0, 0, 2, 4, 2, 2};
         const auto a = notas(largo, Une(partes, largos));
         EXPECT_EQ(a, notas(corto, Une(partes, cortos))) << largo;
+        EXPECT_EQ(a.at(0), q) << largo;
     }
     // Line, then the beginning of another figure and a line that closes it.
     const Campos tipos{0x03020602};
