@@ -213,6 +213,9 @@ TEST_F(ImagenVentana, HalvesOfThePercentageGoToTheEvenNumber) {
     EXPECT_EQ(ZoomPara(1280, 1024), 70);
     // 32000 / 64 + 1 = 501, 24000 / 75 + 1 = 321.
     EXPECT_EQ(ZoomPara(64, 75), 505);
+    // 203.53 and 204.39, which come to 204: one more would be 210.
+    EXPECT_EQ(ZoomPara(158, 300), 205);
+    EXPECT_EQ(ZoomPara(400, 118), 205);
     // 32000 / 320.0 is not asked for; 24000 / 96 + 1 = 251; of 250.5 the even 250 would be taken.
     EXPECT_EQ(ZoomPara(400, 96), 255);
 }
