@@ -158,8 +158,7 @@ void Flecha(i16 KeyCode, i16 Shift) {
 
 void VuelveElRaton() {
     SueltaCruz();
-    CruzMesa.Visible = false;
-    CruzMesa.Sobre = nullptr;
+    EscondeCruz();
 }
 
 }  // namespace
@@ -179,6 +178,11 @@ void AnotaPuntero(float X, float Y) {
 void SueltaCruz() {
     if (!Gbl.CruzSujeta) return;
     if (const Control* const c = CruzMesa.Sobre) Suelta(*c);
+}
+
+void EscondeCruz() {
+    CruzMesa.Visible = false;
+    CruzMesa.Sobre = nullptr;
 }
 
 bool TeclaDeCruz(i16 KeyCode, i16 Shift) {

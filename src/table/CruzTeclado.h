@@ -16,5 +16,7 @@ bool TeclaDeCruz(i16 KeyCode, i16 Shift);
 void AnotaPuntero(float X, float Y);
 // Lets go of what the cross holds, where it is.
 void SueltaCruz();
+// Takes the cross off the window until a key brings it back; what it holds stays in hand.
+void EscondeCruz();
 
 }  // namespace tessario

@@ -9,6 +9,7 @@
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "records/Historial.h"
+#include "table/CruzTeclado.h"
 
 namespace tessario {
 
@@ -40,6 +41,7 @@ void OfreceAlHistorico() {
 
 void FinDeJuego() {
     CambiaCrono(CRONO_PARO);
+    EscondeCruz();  // nothing lies over the finished picture
     Pausa(PAUSA_PIEZA);
     Sigue([] { EntraEnCompleto(); });
     Pausa(PAUSA_ENTERO);

@@ -300,7 +300,12 @@ TEST_F(CruzDelTeclado, LastPieceEndsTheGame) {
     EXPECT_TRUE(Gbl.PuzzleTerminado);
     ASSERT_FALSE(P().avisos.empty());
     EXPECT_EQ(P().avisos[0].texto, "Ha conseguido resolver el puzzle");
+    EXPECT_FALSE(CruzMesa.Visible) << "nothing lies over the finished picture";
+    EXPECT_EQ(CruzMesa.Sobre, nullptr);
     P().avisos.clear();
+    Tecla(ESPACIO);
+    EXPECT_TRUE(CruzMesa.Visible) << "a key brings it back";
+    EXPECT_TRUE(P().avisos.empty());
     Tecla(ESPACIO);
     ASSERT_EQ(P().avisos.size(), 1U) << "on a solved piece, as a press would";
     EXPECT_EQ(P().avisos[0].titulo, "Puzzle resuelto");
@@ -590,11 +595,14 @@ TEST_F(CruzDelTeclado, LastSlideEndsTheGame) {
     Deslizantes(3);
     TableroResuelto();
     Gbl.PuzzleTerminado = false;
+    Tecla(INICIO);
     Tecla(DERECHA);
     ASSERT_EQ(Gbl.NumMovimientos, 1);
     EXPECT_FALSE(Gbl.PuzzleTerminado);
+    EXPECT_TRUE(CruzMesa.Visible);
     Tecla(IZQUIERDA);
     EXPECT_TRUE(Gbl.PuzzleTerminado);
+    EXPECT_FALSE(CruzMesa.Visible);
     EXPECT_EQ(P().avisos.at(0).texto, "Ha conseguido resolver el puzzle");
 }
 

@@ -1,5 +1,5 @@
-// Takes the pictures of README.md: lays a game in progress of each kind before the real program,
-// starts it on a private screen and keeps what it shows.
+// Takes the pictures of README.md and of the help: the first table of a new player and games in
+// progress of each kind, laid before the real program on a private screen; keeps what it shows.
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -15,6 +15,7 @@ struct Pantalla {
     int ancho, alto;
 };
 constexpr Pantalla GRANDE{1024, 768}, CHICA{800, 600};
+constexpr int COLOCADAS = 10;  // the command of the two colours
 
 // A place for a piece that is not placed yet.
 struct Sitio {
@@ -151,10 +152,26 @@ bool TomaAjustes(const char* nombre, int juego,
     return true;
 }
 
+// What a new player finds: the game that comes with the program, as it was dealt.
+bool TomaEstreno(const char* nombre) {
+    Escritorio e(CHICA.ancho, CHICA.alto);
+    Programa programa(e);
+    if (!programa.Arranca()) return false;
+    e.Mueve(CHICA.ancho - 5, CHICA.alto - 5);
+    e.EsperaQuieto();
+    e.Mira().Guarda(nombre);
+    return true;
+}
+
+// Where the mouse is when the picture is taken. One that moves would send the keyboard's cross
+// away.
+enum class Raton { Aparte, Quieto };
+
 // `luego` opens what the picture is to show on top of the table.
 bool Toma(const char* nombre, Pantalla pantalla, int juego,
           const std::function<PartidaGuardada(Programa&)>& partida,
-          const std::function<void(Escritorio&, Programa&)>& luego = nullptr) {
+          const std::function<void(Escritorio&, Programa&)>& luego = nullptr,
+          Raton raton = Raton::Aparte) {
     Escritorio e(pantalla.ancho, pantalla.alto);
     Programa programa(e);
     programa.EscribeGlobal(juego, 100);
@@ -166,10 +183,40 @@ bool Toma(const char* nombre, Pantalla pantalla, int juego,
         return false;
     }
     if (luego) luego(e, programa);
-    e.Mueve(pantalla.ancho - 5, pantalla.alto - 5);
+    if (raton == Raton::Aparte) e.Mueve(pantalla.ancho - 5, pantalla.alto - 5);
     e.EsperaQuieto();
     e.Mira().Guarda(nombre);
     return true;
+}
+
+PartidaGuardada Globos(const std::vector<int>& fuera) {
+    PartidaGuardada p = Rompecabezas("Globos.jpg", 640, 480, 5, 1, fuera,
+                                     {{715, 40, 0},
+                                      {730, 190, 1},
+                                      {700, 370, 0},
+                                      {40, 540, 2},
+                                      {220, 560, 0},
+                                      {390, 540, 3},
+                                      {540, 620, 0},
+                                      {60, 650, 0}});
+    p.colorFondo = 0x385838;
+    return p;
+}
+
+// A board of numbers, so that its labels are seen.
+PartidaGuardada Numeros() {
+    PartidaGuardada p = Deslizantes("");
+    p.tipoFondo = 2;
+    p.colorFondo = 0x663300;
+    p.colorPiezas = 0x996633;
+    return p;
+}
+
+// The last piece is brought home; the congratulation stands beside the picture.
+void Termina(Escritorio& e, Programa&) {
+    constexpr int TOMADO_X = 790, TOMADO_Y = 90, CELDA_X = 3 * 127, CELDA_Y = 2 * 95;
+    e.Arrastra(TOMADO_X, TOMADO_Y, TOMADO_X - 715 + CELDA_X, TOMADO_Y - 40 + CELDA_Y);
+    e.Espera([&] { return e.HayVentana("TESSARIO"); });
 }
 
 // A year of solved puzzles, most of them of the jigsaw.
@@ -209,6 +256,7 @@ PartidaGuardada AMedias(Programa& programa) {
 
 int main() {
     const bool bien =
+        TomaEstreno("estreno") &&
         Toma("mesa", GRANDE, 21,
              [](Programa&) {
                  return Rompecabezas("Puerto.jpg", 640, 480, 6, 2,
@@ -229,20 +277,32 @@ int main() {
              }) &&
         Toma("moviles", GRANDE, 21,
              [](Programa&) {
-                 PartidaGuardada p =
-                     Rompecabezas("Globos.jpg", 640, 480, 5, 1, {2, 6, 9, 12, 14, 18, 20, 23},
-                                  {{715, 40, 0},
-                                   {730, 190, 1},
-                                   {700, 370, 0},
-                                   {40, 540, 2},
-                                   {220, 560, 0},
-                                   {390, 540, 3},
-                                   {540, 620, 0},
-                                   {60, 650, 0}});
+                 PartidaGuardada p = Globos({2, 6, 9, 12, 14, 18, 20, 23});
                  p.muestra = true;
-                 p.colorFondo = 0x385838;
                  return p;
              }) &&
+        Toma(
+            "colores", GRANDE, 21,
+            [](Programa&) {
+                return Globos({2, 6, 9, 12, 14, 18, 20, 23});
+            },
+            [](Escritorio&, Programa& programa) { programa.PulsaBoton(COLOCADAS); }) &&
+        Toma(
+            "final", GRANDE, 21, [](Programa&) { return Globos({13}); }, Termina) &&
+        Toma(
+            "teclado", GRANDE, 21,
+            [](Programa&) {
+                return Globos({2, 6, 9, 12, 14, 18, 20, 23});
+            },
+            [](Escritorio& e, Programa&) {
+                e.Tecla("Home");
+                e.Teclas("Right", 56);
+                e.Teclas("Up", 17);
+                e.Tecla("space");
+                e.Teclas("Left", 16);
+            },
+            Raton::Quieto) &&
+        Toma("numeros", GRANDE, 22, [](Programa&) { return Numeros(); }) &&
         Toma("deslizantes", GRANDE, 22,
              [](Programa&) {
                  PartidaGuardada p = Deslizantes("Jardin.jpg");

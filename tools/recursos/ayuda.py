@@ -59,7 +59,8 @@ def Dibuja():
         imagen = Pantalla(captura)
         Guarda(imagen.resize((440, 330), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre + "_grande")
         Guarda(imagen.resize((144, 108), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre)
-    Guarda(Pantalla("mesa").resize((440, 330), Image.LANCZOS).quantize(128, dither=Image.NONE), "mesa")
+    for nombre, captura in (("mesa", "estreno"), ("colores", "colores"), ("teclado", "teclado")):
+        Guarda(Pantalla(captura).resize((440, 330), Image.LANCZOS).quantize(128, dither=Image.NONE), nombre)
     for nombre in [o[0] for o in ORDENES] + ["cargar", "guardar", "borrar"]:
         Guarda(botones.Baldosa(nombre).resize((24, 24), Image.LANCZOS).convert("RGB"), "boton_" + nombre)
     for nombre, _, _ in ORDENES:
