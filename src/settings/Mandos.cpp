@@ -220,7 +220,7 @@ void NuevoColor(Cuadro& panel, CampoColor& campo, const char* nombre, const char
 void NuevoFactor() {
     NuevoPanel(Pic_FactorPegado, "Pic_FactorPegado", PANEL_FACTOR);
     Potenciometro& p =
-        Nuevo(Pot(POT_FACTOR), "Potenciometro(2)", &Pic_FactorPegado, {8, 16, 115, 16});
+        Nuevo(Pot(POT_FACTOR), "Potenciometro(2)", &Pic_FactorPegado, {8, 28, 115, 20});
     p.Caption = "Porcentaje";
     p.NombreAccesible = "Factor de atracción, porcentaje";
     p.TabStop = true;

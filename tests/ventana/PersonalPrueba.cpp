@@ -23,7 +23,7 @@ struct Lugar {
 };
 constexpr Lugar FICHEROS{155, 104}, FORMA_4{320, 161}, FONDO_ROJO{319, 508};
 constexpr Lugar DESLIZANTES{260, 44}, MOVILES{60, 44};
-constexpr Lugar FACTOR_0{506, 100}, FACTOR_100{586, 100}, FACTOR_50{545, 100}, PRUEBA{566, 235};
+constexpr Lugar FACTOR_0{506, 114}, FACTOR_100{586, 114}, FACTOR_50{545, 114}, PRUEBA{566, 235};
 constexpr Lugar DEL_PORTAPAPELES{141, 237};  // the button that takes its picture
 constexpr const char* PEGADA = "tsportap.bmp";
 constexpr int FILA_FICHERO = 15;  // height of a row of the list

@@ -15,7 +15,8 @@ struct Pantalla {
     int ancho, alto;
 };
 constexpr Pantalla GRANDE{1024, 768}, CHICA{800, 600};
-constexpr int COLOCADAS = 10;  // the command of the two colours
+constexpr int COLOCADAS = 10;             // the command of the two colours
+constexpr const char* CASA = "Tessario";  // its folder, as windows show it
 
 // A place for a piece that is not placed yet.
 struct Sitio {
@@ -139,7 +140,7 @@ bool TomaAjustes(const char* nombre, int juego,
                  const std::function<PartidaGuardada(Programa&)>& partida) {
     constexpr int PERSONALIZAR = 2;
     Escritorio e(GRANDE.ancho, GRANDE.alto);
-    Programa programa(e, "Tessario");  // the window shows where it lies
+    Programa programa(e, CASA);
     programa.EscribeGlobal(juego, 60, true, true);
     programa.EscribePartida(partida(programa));
     Escritorio::Marco marco;
@@ -155,7 +156,7 @@ bool TomaAjustes(const char* nombre, int juego,
 // What a new player finds: the game that comes with the program, as it was dealt.
 bool TomaEstreno(const char* nombre) {
     Escritorio e(CHICA.ancho, CHICA.alto);
-    Programa programa(e);
+    Programa programa(e, CASA);
     if (!programa.Arranca()) return false;
     e.Mueve(CHICA.ancho - 5, CHICA.alto - 5);
     e.EsperaQuieto();
@@ -173,7 +174,7 @@ bool Toma(const char* nombre, Pantalla pantalla, int juego,
           const std::function<void(Escritorio&, Programa&)>& luego = nullptr,
           Raton raton = Raton::Aparte) {
     Escritorio e(pantalla.ancho, pantalla.alto);
-    Programa programa(e);
+    Programa programa(e, CASA);
     programa.EscribeGlobal(juego, 100);
     PartidaGuardada p = partida(programa);
     p.segundos = 754;
@@ -207,8 +208,8 @@ PartidaGuardada Globos(const std::vector<int>& fuera) {
 PartidaGuardada Numeros() {
     PartidaGuardada p = Deslizantes("");
     p.tipoFondo = 2;
-    p.colorFondo = 0x663300;
-    p.colorPiezas = 0x996633;
+    p.colorFondo = 0x283848;
+    p.colorPiezas = 0x4880C0;
     return p;
 }
 
@@ -259,21 +260,24 @@ int main() {
         TomaEstreno("estreno") &&
         Toma("mesa", GRANDE, 21,
              [](Programa&) {
-                 return Rompecabezas("Puerto.jpg", 640, 480, 6, 2,
-                                     {3, 8, 10, 13, 16, 17, 21, 23, 26, 28, 32, 33, 35},
-                                     {{720, 30, 0},
-                                      {740, 150, 1},
-                                      {705, 290, 2},
-                                      {30, 540, 0},
-                                      {190, 560, 3},
-                                      {320, 530, 0},
-                                      {480, 545, 1},
-                                      {600, 570, 0},
-                                      {770, 520, 2},
-                                      {900, 560, 0},
-                                      {90, 660, 0},
-                                      {350, 655, 2},
-                                      {690, 665, 0}});
+                 PartidaGuardada p =
+                     Rompecabezas("Puerto.jpg", 640, 480, 6, 2,
+                                  {3, 8, 10, 13, 16, 17, 21, 23, 26, 28, 32, 33, 35},
+                                  {{720, 30, 0},
+                                   {740, 150, 1},
+                                   {705, 290, 2},
+                                   {30, 540, 0},
+                                   {190, 560, 3},
+                                   {320, 530, 0},
+                                   {480, 545, 1},
+                                   {600, 570, 0},
+                                   {770, 520, 2},
+                                   {900, 560, 0},
+                                   {90, 660, 0},
+                                   {350, 655, 2},
+                                   {690, 665, 0}});
+                 p.colorFondo = 0x333300;
+                 return p;
              }) &&
         Toma("moviles", GRANDE, 21,
              [](Programa&) {
