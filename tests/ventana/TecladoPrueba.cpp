@@ -36,8 +36,9 @@ public:
         Ve(hasta);
         e_.Tecla("space");
     }
-    // Through the exit command, answering yes.
+    // Through the exit command, answering yes. The cross has gone with the end of the game.
     bool Sale() {
+        AlPuzzle();
         const auto b = p_.Boton(7);
         Ve({b.x, b.y});
         e_.Tecla("space");
