@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs everything that is registered and prints one table. The exit status is 1 when a bound is
 // exceeded.
 #include <cstdio>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Ratios between two callables, measured in one run, side by side, and reported in one table with
 // the bound that they must keep.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sliding solver: whole boards searched to the end, against the same rules read literally at 5
 // to 7 a side, and alone at 8 and 9. Only the searching counts, not the playing of the moves.
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of Tangram models: that of the settings, with the marks of the solved ones, of the
 // supplied models and 2,000 of a player's own as a part of the time of one frame (60 a second), and
 // a file of 10,000 as a part of the tenth of a second that a window may take to open.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pieces: preparing one of every kind against copies of its box, a drag step with few pieces on the
 // table against one with many, and the cut and the laying of the largest picture.
 #include <array>

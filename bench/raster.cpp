@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Raster operations against memcpy of as many bytes.
 #include <cstring>
 #include <memory>

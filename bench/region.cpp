@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Region operations against pixman's on the same rectangles.
 #include "platform/Region.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Tangram at a drop: the pushes off other pieces and the search for the nearest one, in the
 // worst of many random drops, as a part of the time of one frame (60 a second). The pushes include
 // erasing the piece and drawing it anew.

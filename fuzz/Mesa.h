@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the targets share that need a table: the program on the test platform, started anew for each
 // input, with one picture that its records may name. After whatever was read, what always holds of
 // the state block must hold.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the two targets for metafiles share: a file is read whole and painted by our own painter,
 // with boxes for letters, and no more effort than keeps a run short.
 #pragma once

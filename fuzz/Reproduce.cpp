@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a target on the files of the folders given, in the order of their names, without a fuzzer:
 // what was once found stays mended.
 #include <algorithm>

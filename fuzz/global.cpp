@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: the global settings, read by a start of the program.
 #include "Mesa.h"
 

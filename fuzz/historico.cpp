@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: the history: its records for each game, and the models that it holds as solved.
 #include "Mesa.h"
 #include "core/PuzzGbl.h"

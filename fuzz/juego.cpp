@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: the file of a game, read by a start of the program; the first byte chooses the game.
 // The same file is then read by the exit's and the next start's road.
 #include "Mesa.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: the file of models: listed, each of the first ones laid to be solved, one saved and
 // one deleted, and brought together with a supply.
 #include "records/Modelos.h"

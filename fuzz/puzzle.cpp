@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fuzz target: a saved puzzle that the player loads over a game in play; the first byte chooses
 // which game that is.
 #include "Mesa.h"

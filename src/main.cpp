@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program: makes the platform on the real window system and hands over to the game.
 #include <QApplication>
 #include <QMessageBox>

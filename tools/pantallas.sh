@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Starts a built game on screens that no test has, and keeps pictures of them in build/pantallas:
 #
 #     tools/pantallas.sh [folder of the program, build/release/bin by default]

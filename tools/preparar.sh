@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Shared by play and check, which read it in: what the machine must have, by Debian package names.
 # instala_paquetes GROUP... installs what is missing of the groups juego (to build and play),
 # pruebas (to test), fuzz (to fuzz), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.

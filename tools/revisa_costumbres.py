@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Runs clang-tidy over every C++ source of the tree and prints what it has to say.
 
     revisa_costumbres.py COMPILE_COMMANDS [CLANG_TIDY]

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Reads the includes of src/ and reports arrows that the lay-out of the code does not have.
 
 A file may include files of its own folder and of folders on lower levels, never of another folder

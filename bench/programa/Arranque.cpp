@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the real program costs to start: its own work, and what it then keeps in memory, with a
 // 1024 x 768 picture in 400 pieces on a 1280 x 1024 screen. Prints its lines in the table's format.
 //

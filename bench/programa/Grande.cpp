@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A table of 3840 x 2160: what it keeps in memory, its start, a drag, a shuffle. And what a table
 // costs on which nothing happens.
 #include <chrono>

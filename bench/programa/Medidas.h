@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the measurements of the real program share: what the system knows of a process, and a line
 // of the table.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fixed messages of the game, with the room that each was given, in one table:
 // what the player reads is found here, and the tests of the window measure every text against its
 // number of lines.

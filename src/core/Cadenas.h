@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text helpers that count characters, not bytes (text in memory is UTF-8), and numbers in text, the
 // same in every locale.
 #pragma once

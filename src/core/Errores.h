@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pending error, and the written-out form of "errors suppressed statement by statement".
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Run-time errors: their numbers, and what is thrown when one happens.
 #pragma once
 

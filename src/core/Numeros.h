@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rounding and narrowing by the game's rules, and the checked array addressed from its lower bound.
 #pragma once
 

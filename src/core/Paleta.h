@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The palette: the colours of the program's own drawing. What the player chooses stands in Gbl.
 #pragma once
 

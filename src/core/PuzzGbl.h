@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PuzzGbl: the one block of game state, and the dictionary of the game's words. Everything that a
 // game in progress is, stands here; windows and routines read and write it directly, as Gbl.Name.
 // `Gbl = Bloque{}` is a program that has just been started.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The services that every room of the game calls: sound, pacing delay, cursor, help, and the
 // points at which pending events may run.
 #pragma once

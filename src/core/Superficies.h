@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's picture surfaces and controls, by their own names. Those that the player sees
 // are picture boxes; the rest are bitmaps that are only drawn on. table/Mesa.cpp puts the visible
 // ones into the window and connects their events.

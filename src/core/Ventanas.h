@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two small windows of the core: the modal message and the splash.
 #pragma once
 

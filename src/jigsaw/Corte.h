@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The cut of the jigsaw: the table's surfaces, the templates of the interlocking shapes, the cut
 // lines on the picture.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TrazaCortes: the cut lines of the eight shapes on the picture, and the parameters from which
 // PreparaPieza makes the masks of the inner figures.
 #include <algorithm>

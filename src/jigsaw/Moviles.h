@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The jigsaw of movable pieces: the record of game 21, its sizes, and what is its own in the
 // routines that all games share.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two cutting templates of the interlocking shapes, side by side on Pic_Temporal: A for cells
 // of even row + column, B for the odd ones. PreparaPieza copies a piece's mask from them.
 #pragma once

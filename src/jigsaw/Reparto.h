@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The jigsaw's deal, and the lining up of its loose pieces along the sides.
 #pragma once
 

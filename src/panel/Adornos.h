@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chrome that the windows share: frame of a window, framed group with its title, text with a
 // shadow, long button.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a loose piece can be taken: its centre in the view, and clear of the strip and the hints.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The frame around dealing the pieces and around lining the loose ones up along the sides; what
 // lies in between is each game's own.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The strip at the right: lay-out and painting.
 #pragma once
 

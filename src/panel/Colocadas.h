@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Laying the pieces on the table and counting those that stand in their place.
 #pragma once
 

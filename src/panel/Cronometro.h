@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chronometer, the bevelled display that it shares with the counter of placed pieces, and the
 // once-a-second tick that also chooses the hints.
 #pragma once

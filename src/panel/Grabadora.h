@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The move recorder: the log of every move, its panel, and the walk back and forth.
 #pragma once
 

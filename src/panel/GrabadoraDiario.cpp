@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The part of the recorder that every game writes to, panel or no panel: the log itself and the
 // finished look. Declared in Grabadora.h.
 #include "core/PuzzGbl.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keeps the table's picture right while one piece moves, repainting only what changed.
 #pragma once
 

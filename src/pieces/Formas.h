@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a piece is geometrically: boxes, corners and seed points. Integer arithmetic on the state
 // block; no drawing.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Moulds: the masks that a cut needs, each drawn once and then copied for every piece of its kind.
 #pragma once
 

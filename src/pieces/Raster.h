@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A piece's pixels, rebuilt on demand: PreparaPieza makes Pic_PiezaMascara and Pic_PiezaImagen,
 // which hold one piece at a time. Whoever prepared a piece and then called anything that prepares
 // another must prepare its own again.

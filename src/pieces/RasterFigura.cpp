@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The silhouette of a Tangram model: the seven places that the pieces must cover.
 #include "core/PuzzGbl.h"
 #include "core/Superficies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the masks are drawn, and the outline that the Tangram's painters share. A surface that takes
 // a mask comes sized to the piece's unturned box and white, with pen and fill black.
 #pragma once

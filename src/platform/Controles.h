@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls as plain records: geometry, visibility, pointer, tooltip, and their events as
 // functions that the game sets. A window is a list of controls. The shell makes one view for each
 // record, keeps it in step with the record's fields, and turns window-system events into calls of

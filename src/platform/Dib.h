@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Device-independent bitmaps, as they stand in BMP files and inside metafiles: the header, the
 // colour table and the rows, read with bounds from bytes that may say anything.
 #pragma once

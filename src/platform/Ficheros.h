@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the lists through which a file is chosen have as rows: drives, folders, files. The same for
 // the shell and for a test. Nothing here fails: what cannot be read has no rows.
 #pragma once

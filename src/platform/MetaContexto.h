@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The state that a metafile's records change and draw with: coordinates, objects, clip, path, and
 // the figures in logical coordinates, turned into what a painter takes. No record is read here.
 #pragma once

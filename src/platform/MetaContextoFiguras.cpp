@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines, figures, arcs and paths: from logical coordinates to outlines in pixels.
 #include <algorithm>
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // EMF: the walk over its records. Numbers of records and offsets are those of the public format.
 #include "platform/MetaEmf.h"
 

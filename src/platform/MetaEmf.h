@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // EMF: its walk, and the reader of its records one at a time. Only for Metafichero.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // EMF: the records of pictures and text.
 #include "platform/MetaEmf.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the two kinds of metafiles share in reading: one record with its bounds, bitmaps within it,
 // letters by the character sets of old. Only for the walks.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // WMF: the walk over its records. Parameters stand in them in the reverse order of the calls.
 #include "platform/MetaWmf.h"
 

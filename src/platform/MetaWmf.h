@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // WMF: its walk. Only for Metafichero.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Metafiles: pictures kept as a list of drawing orders, WMF and EMF. The walk over the records
 // reads bytes that may say anything and calls a painter; it needs no display and opens no file,
 // whatever a record names. Everything is bounded: records, points, pixels, objects, memory.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order of texts in a list, the same in every locale: case is ignored, an accent counts only
 // between texts that are otherwise equal, and Ñ is a letter of its own after N.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a metafile is painted by: its geometry, what it draws with, and the painter that takes it.
 // The walks over the records know no more of pixels than this.
 #pragma once

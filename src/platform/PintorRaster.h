@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The painter of metafiles on plain pixels: no smoothing, lines and edges fall on whole pixels. Of
 // letters it only asks for their outlines.
 #pragma once

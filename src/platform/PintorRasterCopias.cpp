@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures within a metafile: copied, stretched, turned, mixed with what is there.
 #include <algorithm>
 #include <cmath>

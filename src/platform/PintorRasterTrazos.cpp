@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines: of one pixel, dashed, and wide ones as figures to be filled.
 #include <algorithm>
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Plataforma: what the game asks of the machine that cannot be a record: screen, clock, events,
 // windows, text, pictures, sound, clipboard, help, folders. The shell has one implementation, the
 // tests another with a virtual clock. File numbers of errors are those of core/Errores.h; 0 is

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Regions: sets of lattice points kept as rectangles, built from boxes and polygons and combined.
 // Used for clipping and for the exact overlap test of pieces.
 #pragma once

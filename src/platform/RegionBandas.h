@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The writer of a region's list: takes bands from the top down and their spans from left to right,
 // and keeps the invariants. Only for the routines that make regions.
 #pragma once

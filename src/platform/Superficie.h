@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Superficie: a bitmap with a persistent layer (Picture) under a drawing layer, the pen operations
 // that draw on it, and the raster operations between surfaces. All drawing is clipped to the
 // surface and to its clip region; drawing outside is never an error.

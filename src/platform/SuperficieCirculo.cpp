@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Circles, ellipses and arcs. Pixel (x, y) stands for the lattice point (x, y); where the curve
 // crosses a row or a column of the lattice, the nearer of the two lattice points beside the
 // crossing is painted. Neighbouring crossings lie on one lattice cell and so give points of that

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines, boxes, single pixels and text.
 #include <cmath>
 #include <cstdint>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sizing for surfaces that are drawn anew each time, as a piece's are: nothing of the old drawing
 // is kept, and the buffer is used again.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a pen's pixels reach a surface: clipped to it and to its clip region, in the drawing mode,
 // with the touched rectangle reported once at the end. Only for the drawing routines of the
 // surface.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tipografia: what a surface asks to print and to measure text. The platform is one; a surface
 // knows no more of it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exact-width integers, the 16-bit Boolean and the plain geometry that every layer shares.
 // Nothing here knows of puzzles or of a window system.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a view asks of the shell that hosts it: the boundary through which events reach the game,
 // the buttons that are held, and the shared text and cursor caches.
 #pragma once

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Puts the sample pictures, the models and the first games beside the program: ORIGEN is the
 # resources' folder, DESTINO the program's. A picture that is there and newer is the player's own and
 # is left alone. The models come as a supply of their own, which the program brings into the player's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Mouse pointers: the standard ones by number, the program's own by name from its resources.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Window-system input in the game's codes: button and shift masks, key codes, characters; and what
 // comes from other programs, dropped or copied there.
 #pragma once

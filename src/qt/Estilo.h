@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look of what the window system draws: glazed tiles, cobalt on white, set in warm terracotta
 // and cream. Colours, the application's style and fonts, and the few shapes that views share.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures from files, from the program's resources and from other programs, as plain bitmaps.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Outlines of letters for the painter of metafiles, from the fonts that are installed.
 #pragma once
 

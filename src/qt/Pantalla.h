@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is to be known and settled about the display before the window library is started.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform on the real window system. It shows any window record through views made from its
 // controls, and answers the game's requests for time, text, pictures, sound, clipboard and help.
 #pragma once

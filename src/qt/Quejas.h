@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window library has to complain of is no business of the player's terminal: a runtime
 // folder that is not set, a clipboard that has gone, a damaged picture. The game tells what matters
 // in its own words.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end asked for by the system (SIGTERM, SIGINT, SIGHUP), brought into the event loop.
 #pragma once
 

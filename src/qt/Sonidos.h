@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sounds: WAVE files of the program's resources, played one at a time, a new one cutting the one
 // before. The device is opened at the first sound and given back after a few seconds of silence: an
 // open one wakes the processor all the time. It is opened and closed on threads of their own, so

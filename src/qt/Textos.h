@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fonts and text: one QFont for each Fuente, widths kept, painting onto surfaces, wrapping.
 // Sizes are pixels and hinting is full, so that the same pixels come out on every screen.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One program for each player and folder of games: two that write the same files would lose each
 // other's work. The first start holds a name of the system's own (an abstract local socket, which
 // ends with its process, so a crash leaves nothing in the way); a later one calls it, and the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The help: pages by topic from the program's resources, with index, search and a way back.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The view of one control record: a widget that shows the record and turns what the window system
 // reports into the record's events. Each kind derives from this and adds its looks.
 #pragma once

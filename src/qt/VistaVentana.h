@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The view of one window record: the widget, the views of its controls in their order, its timers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Views made of a standard widget: scroll bar, text box, lists, and the three lists through which
 // a file is chosen.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Views of the four controls of the settings: switch, selector, knob, spinner.
 #pragma once
 

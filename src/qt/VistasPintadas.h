@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Views that show what the game painted or wrote: picture box and label.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole files: read with a bound, replaced whole or not at all, lengthened by a line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes a file whole or not at all without keeping the player waiting: the disk is waited for in a
 // thread of its own. It only ever sees the bytes that it was given.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The history of solved puzzles: one line of 23 comma-separated items for each, texts in double
 // quotes, numbers plain. Texts are in Windows-1252, except the picture's file and folder, which
 // are the file system's own bytes. Writer and reader; the window is windows/Historic.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of a record: its fixed columns written and read. Bytes are Windows-1252; columns count
 // from 1. Reading touches the state block only; session/Montaje rebuilds the table from it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The models that come with the program, brought into the player's own file after an upgrade. What
 // the player has made, changed or deleted stays as it is.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the lines of the text files are made of: encoding, quoting, fixed columns both ways, and
 // names without regard to case. In memory text is UTF-8; on disk one byte is one character,
 // Windows-1252. Whole files are read and written by records/Archivo.

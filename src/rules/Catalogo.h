@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogues: the shapes of the jigsaw's pieces, the pieces of the Tangram, the commands of the
 // strip, the options of the table's panel, the eight directions. What is said of one of them stands
 // in its row here; a further one is a further row.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours that follow from those that the player has chosen.
 #pragma once
 

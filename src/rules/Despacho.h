@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From settings to a table: sends a new or restored puzzle to the game that builds it.
 #pragma once
 

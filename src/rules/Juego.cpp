@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "rules/Juego.h"
 
 #include "core/PuzzGbl.h"

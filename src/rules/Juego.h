@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Juego: what a game is, as one record of facts and routines. Each game's folder fills one, and
 // start/Juegos puts them into one table. What is common to the games asks the record of the game
 // in play and never which game that is: a further game is a further record.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // All sizes of the puzzle on the table, derived from the settings.
 #pragma once
 

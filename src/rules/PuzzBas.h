@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PuzzBas: rules common to the games: when a piece is where it belongs, how many are, the two modes
 // of play, and the random numbers.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The picture of the puzzle at its zoomed size, and the limits of that size.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window as the records need it: a puzzle that wants a picture asks the player for
 // one.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The safety copy: an ordinary saved puzzle of its own name in the player's archive. It is written
 // beside everything else and is loaded and deleted by the player like any other; nothing in the
 // program reads it. Writing takes the time of putting the record together; the disk is waited for

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The saved puzzle: seven lines that hold a whole game in progress.
 #pragma once
 

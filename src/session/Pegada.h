@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The clipboard's picture has one file, which each paste overwrites. While the player may still go
 // back to the puzzle in play, that puzzle's own picture lies beside it under another name; whatever
 // ends the program in between, the next load of the puzzle finds it there.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a record that contradicts itself is mended to before a table is built on it: it is laid all
 // the same and does no harm. The player is told of none of this; only a board that cannot be
 // solved, which session/Montaje deals anew, has a message. docs/repairs.md lists every repair.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a run that was cut short, by a power failure or a kill, left in the game's folders.
 #pragma once
 

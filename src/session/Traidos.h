@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures that the player brings from other programs: dropped on a window, or pasted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What each control of the settings window changes while the window is open: options, mode, ground,
 // models, shapes, colours; and the keys of the window.
 #pragma once

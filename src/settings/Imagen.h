@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The picture of the puzzle in the settings window: the lists that it is chosen from, its preview,
 // the zoom that brings it within the limits, the pieces that it can be cut into, the clipboard, and
 // pictures brought from elsewhere.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures that come from the clipboard or are dropped on a window: part of settings/Imagen.
 #include <algorithm>
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of the settings window as records, and where each stands in each game. Of the four
 // closed controls the window needs no more than this: switch, selector, knob and spinner have a
 // caption, a value and a Change event, and sound their own click when the player uses them.

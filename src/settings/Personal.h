@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window: everything about the game in play, changed directly in the state. Leaving it
 // does as much as was changed: nothing, a redraw, or, after a question, a new puzzle; command 2
 // carries that out. What a cancelled change goes back to is kept from the opening.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The attraction test: a small piece that is pushed towards its hole and, from the distance that
 // the chosen factor allows, flies into it.
 #pragma once

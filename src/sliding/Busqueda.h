@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One stage of the sliding solver as a search over compact boards: cells in bytes, a hash table of
 // states, a queue by cost. It knows nothing of the table on the screen.
 #pragma once

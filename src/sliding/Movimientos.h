@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a piece of the sliding game moves: by the player's press, by the animated shuffle, and by
 // hand in the manual ordering.
 #pragma once

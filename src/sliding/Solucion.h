@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The automatic solver of the sliding board: staged best-first search. The order in which states
 // are expanded is laid down to the last tie, so the board alone determines the moves.
 #pragma once

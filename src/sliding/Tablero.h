@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sliding board: cells, neighbours of the hole, solvability, instant shuffle and the table.
 // There is no board array: the pieces' X and Y and the hole are the board, and cells are computed
 // when a rule asks for them. Cells count from 1, row by row; piece i belongs in cell i.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table of the sliding game: the solved board on Pic_Bitmap, the frame, the sample view.
 #include <algorithm>
 #include <string>

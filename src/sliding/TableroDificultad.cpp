@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // DificultadDeslizantes: how far the board is from being solved, and how hard that makes the
 // puzzle.
 #include "core/Errores.h"

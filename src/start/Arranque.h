@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From process start to a table ready for play, and the orderly end.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What pulls a dropped piece to its place.
 #pragma once
 

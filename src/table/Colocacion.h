@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Right and wrong pieces in two colours, and the automatic placing.
 #pragma once
 

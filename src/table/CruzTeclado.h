@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The keyboard's pointer on the main window: a cross that the arrows move. It presses and moves by
 // the same events of the same records as the mouse, so that all that follows is one road. Where
 // pieces move by themselves an arrow presses the piece that goes that way.

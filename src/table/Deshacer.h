@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Undo: the last move is taken back as the recorder does it, without the recorder's own pauses.
 #pragma once
 

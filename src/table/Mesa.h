@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Mesa, the main window: the one place where its controls' events are connected.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The twelve commands of the strip: when each is allowed and what it does.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mouse machine of Pic_Trabajo: hover, pick-up, drag, drop, rotation, the end of a game. The
 // state is a set of flags tested in fixed orders.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The screen has another size than before: the table is laid anew on it.
 #pragma once
 

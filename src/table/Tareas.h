@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the player does while a handler of the table is still at work. Solver, shuffle, side
 // arrangement, replay and turning piece let events through between their steps; an event that
 // comes in there finds the table in the middle of that work, and starts nothing of its own.

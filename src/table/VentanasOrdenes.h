@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the table's commands lead: windows of other rooms, and the end of the program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Twin pieces may take each other's place.
 #pragma once
 

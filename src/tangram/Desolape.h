@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Tangram pieces never lie on each other: a piece that overlaps others is pushed off them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of saved puzzles: load, save and delete one, or save the Tangram's design as a model,
 // by Gbl.ModoCargua. Saved puzzles are the ".puz" files of CarpetaArchivo.
 #pragma once

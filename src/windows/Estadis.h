@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The statistics of the puzzle on the table; the player's name is written here.
 #pragma once
 

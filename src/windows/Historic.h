@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The history of solved puzzles: the current game's records one at a time, in one of four orders,
 // with a small drawing of them all.
 #pragma once

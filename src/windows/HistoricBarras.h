@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two drawings of the history window: one bar for each listed record, and the travel buttons.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lines that the history and the statistics share: one table of labels and values with the
 // condition of each line beside it, printed by one routine.
 #pragma once

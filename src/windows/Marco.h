@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the three windows of the records have alike: their place on the screen, their title, and
 // the square buttons along their lower edge.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of surfaces and regions share: repeatable random cases, and a drawing compared
 // with a slow picture of what it should be.
 #pragma once

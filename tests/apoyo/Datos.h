@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the tests' data and the supplied models lie. One source knows the path, so that the others
 // build to the same bytes wherever the tree stands.
 #pragma once

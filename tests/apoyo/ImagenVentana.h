@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window over a jigsaw of the picture "a.bmp" of 640 x 480.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "apoyo/Invariantes.h"
 
 #include <vector>
@@ -61,8 +62,7 @@ bool RegistroNombraPiezas() {
 
 bool AjustesEnRango() {
     return Entre(Gbl.FactorAtraccion, 0, 100) && Entre(Gbl.ModoJuego, MODO_CREAR, MODO_RESOLVER) &&
-           Entre(Gbl.FormaPiezas, 0, FORMAS_DE_PIEZA - 1) && Entre(Gbl.TipoFondo, 1, 3) &&
-           Entre(Gbl.VelocidadJuego, 0, 100);
+           Entre(Gbl.FormaPiezas, 0, FORMAS_DE_PIEZA - 1) && Entre(Gbl.TipoFondo, 1, 3);
 }
 
 bool OrientacionesEnRango() {
@@ -89,7 +89,8 @@ constexpr Invariante SIEMPRE[] = {
     {"the log's index is in range", "the next move is written behind it", RegistroEnRango},
     {"the recorder's end is in range", "the replay runs up to it", GrabadoraEnRango},
     {"the log names pieces", "a replay moves the piece by its number", RegistroNombraPiezas},
-    {"the settings are in range", "knobs, tables of shapes and pauses are read by them",
+    {"the settings are in range",
+     "knobs and tables of shapes are read by them; the speed alone may be outside, as read",
      AjustesEnRango},
     {"turns and faces are in range", "they choose a piece's mould", OrientacionesEnRango},
     {"the time is not negative", "the display and the history have no sign", TiempoNoNegativo},

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What always holds of the state block: one table for the monkey, the fuzzers and the tests. Each
 // rule has a name, which a failure prints, and the reason why the program leans on it.
 #pragma once

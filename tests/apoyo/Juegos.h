@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings of each game as a test wants them, in one place. Nothing is measured, dealt or
 // painted by these.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A table ready for play on the test platform: 800 x 600, sounds on and logged, no delays, the
 // window connected. Each routine below puts one game on it.
 #pragma once

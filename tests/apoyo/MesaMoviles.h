@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A jigsaw on the table for tests: a picture whose pixel (x, y) tells its own place, all pieces at
 // home in number order.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A Tangram table for tests: pieces laid where the test wants them, the overlap test, and the
 // folder of the supplied models.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Metafiles made by hand, record by record, and a painter that notes what it is asked for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window over a table ready for play: the player's visit is a routine that the test
 // gives, which runs while the window is open.
 #pragma once

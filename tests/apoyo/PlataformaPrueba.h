@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform of the tests: a virtual clock, scripted answers to windows, logs of sounds and
 // help, pictures kept in memory, a block font. No test sleeps and none needs a display.
 #pragma once

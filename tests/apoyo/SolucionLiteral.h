@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sliding solver as its rules read, word for word: whole boards in every node, keys as text,
 // linear scans. Slow on purpose: it is what the real one is held against, in tests and benchmarks.
 #pragma once

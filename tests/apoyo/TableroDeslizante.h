@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sliding boards for tests and benchmarks, written as lists: what stands in each cell, row by row
 // from the top left, 0 for the hole.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows of the records on the test platform: what they print, and pressing their controls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every text that the program paints can be read: the shipped colours, measured.
 #include "apoyo/MesaMontada.h"
 #include "core/Paleta.h"

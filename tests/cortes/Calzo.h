@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A wedge between the program and the system: the calls that open or change files are counted, and
 // one of them can be the last thing that the process does, or can fail.
 #pragma once

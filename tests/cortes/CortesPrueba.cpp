@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever is saved is saved whole or not at all: each kind of save is cut short at every call that
 // opens or changes a file, and has every such call fail once. After the next start each file is
 // what it was before or what it is after, and nothing else lies there.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The quality of the cut: every grid that the settings window can offer, for each shape and for
 // seven picture sizes. With all the pieces at home the masks must cover the picture, no fill may
 // run out of its outline, and the two pieces of a double cell must complete each other.

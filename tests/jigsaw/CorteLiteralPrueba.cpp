@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The cut of the eight shapes: lines and templates drawn here a second time, figure by figure from
 // their tables, and compared pixel for pixel on many grids.
 #include <set>

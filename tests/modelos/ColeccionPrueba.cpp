@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tool that makes the supplied Tangram models refuses, and what it just lets pass.
 #include <algorithm>
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The monkey: throws random presses, moves, releases, keys and timer ticks at the whole table, on
 // the test platform with its virtual clock, and after each event checks what must always hold.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The monkey in a window of the program: it presses, types, chooses in lists and turns knobs as
 // chance has it, for a while, and leaves in one of the ways that there are.
 #pragma once

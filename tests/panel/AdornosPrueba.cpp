@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chrome that the windows share.
 #include <gtest/gtest.h>
 

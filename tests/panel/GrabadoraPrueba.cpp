@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recorder: its keys, the walk back and forth, and what each way of leaving it keeps.
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"

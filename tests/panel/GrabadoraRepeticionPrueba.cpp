@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The recorder on a table whose stack is not in order: what a replay raises, sounds, waits for
 // and counts, key by key.
 #include "apoyo/MesaMontada.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sample view: its rubber box, its limits, and where it comes to rest.
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hint panel: the table of hints, its painting, and the two presses that close it.
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Cadenas.h"

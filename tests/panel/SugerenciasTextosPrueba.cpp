@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the hint panel says: every text and help context, and where its letters stand.
 #include <fstream>
 #include <set>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two displays of the strip as the player reads them, and the tick with its choice of hints.
 #include <cmath>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "apoyo/MesaMoviles.h"
 #include "core/Fallos.h"
 #include "pieces/Composicion.h"

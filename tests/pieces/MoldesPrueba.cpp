@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A mask must be the same whether its mould is new, used before or left by another cut: cuts and
 // games follow one another at random, and every mask is compared with one drawn here, directly.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The seed point of every Tangram piece in every orientation, and the silhouette of one piece.
 #include <cmath>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bitmaps from bytes that are written here by hand, whole and damaged.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the heaviest records are counted for. The work that is counted bounds the time that a file
 // can take: a record that costs more time than it is charged would let a file go on without end.
 #include <bit>

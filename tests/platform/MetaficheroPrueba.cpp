@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The walk over metafiles made here by hand, sound and damaged, without a display: what reaches the
 // painter, and what is refused.
 #include <algorithm>

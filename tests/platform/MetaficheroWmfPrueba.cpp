@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fields of WMF records, each record made by hand: what of it reaches the painter.
 #include <algorithm>
 #include <cmath>

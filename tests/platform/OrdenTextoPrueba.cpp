@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order of texts in lists.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pixels of metafiles: hatches, modes, lines, copies, each by numbers worked out by hand.
 #include <algorithm>
 #include <set>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Large surfaces, whose pixels are made on demand: what they show is what any other shows.
 #include <gtest/gtest.h>
 

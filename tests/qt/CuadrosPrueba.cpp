@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Picture boxes and labels: what they show and what the pointer and the keys do to them.
 #include <QAccessible>
 #include <QFile>

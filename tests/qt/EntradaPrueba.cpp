@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the shell makes of keys, wheel, held buttons and the pointer before the game sees it.
 #include <QScrollBar>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures from files: their size, reduced for a preview, of foreign kinds.
 #include <QBuffer>
 #include <QElapsedTimer>

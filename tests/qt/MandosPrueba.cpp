@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scroll bar, lists, text box, switch, selector, knob, spinner, file lists, timer: each shows its
 // record and takes the player's hand.
 #include <QComboBox>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every metafile of tests/datos/metaficheros against its picture, by a measure that forgives what
 // lies one pixel aside; damaged ones cost little and crash nothing.
 #include <sys/resource.h>

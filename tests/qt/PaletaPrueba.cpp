@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every text that the shell paints can be read: the palette of the application, the colours of the
 // views that paint their own, and the captions on pictures.
 #include "PruebaQt.h"

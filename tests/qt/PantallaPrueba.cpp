@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is settled about the display before the window library is started.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A test of the shell: a fresh platform on the offscreen screen (800x800), and a hand that moves
 // the pointer and presses keys through the window system, as a player does.
 #pragma once

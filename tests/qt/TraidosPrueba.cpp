@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the player drags from another program and drops on a window, or copies there.
 #include <QClipboard>
 #include <QDropEvent>

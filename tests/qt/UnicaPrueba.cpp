@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One program for each player and folder of games.
 #include <atomic>
 #include <thread>

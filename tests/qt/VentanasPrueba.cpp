@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows: modal ones, closing from outside, events nested in handlers, releases that get lost,
 // errors, sleeping, the end of the program, the help beside a message.
 #include <QDir>

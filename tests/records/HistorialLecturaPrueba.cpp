@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The reader of the history file, and appending to it from two programs at once.
 #include <sys/resource.h>
 #include <sys/wait.h>

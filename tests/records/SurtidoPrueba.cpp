@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Supplied models in the player's file after an upgrade.
 #include <filesystem>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogues agree with themselves and with the limits that pictures and pieces are held to.
 #include <gtest/gtest.h>
 

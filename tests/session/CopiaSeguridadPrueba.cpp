@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The safety copy: when it is written, what it holds, and what it leaves alone.
 #include <filesystem>
 

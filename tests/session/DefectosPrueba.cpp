@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The defaults of a game without a file come over whatever another game has left in the block;
 // and what a loaded record brings with it.
 #include "apoyo/Invariantes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Records that contradict themselves: what becomes of them on the table.
 #include <filesystem>
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The choice of the picture in the settings window: lists, limits, zoom, grids.
 #include <filesystem>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures that come into the settings window from elsewhere: the clipboard's, dropped ones.
 #include <filesystem>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening and leaving the settings window, in the three games.
 #include <filesystem>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The attraction test of the settings window.
 #include "settings/Prueba.h"
 

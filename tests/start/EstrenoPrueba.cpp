@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The first games that come with the program, started by a new player.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Playing from the keyboard: where the cross goes, that it does what the mouse does, and when the
 // mouse is back.
 #include "apoyo/MesaMontada.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Ctrl+Z on the real table.
 #include "apoyo/MesaMontada.h"
 #include "panel/Colocadas.h"

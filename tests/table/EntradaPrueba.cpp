@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Input that comes in while a piece is turned or held: what is kept, in which order it is handled,
 // and the piece that turns in the player's hand.
 #include "apoyo/MesaMontada.h"

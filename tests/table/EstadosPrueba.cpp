@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the strip shows of its commands: what is forbidden and what is going on, from the moment
 // that it is so, whether the pointer moves or not.
 #include "apoyo/MesaMontada.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a press, a turn, a key and a drop leave on the table, in the counter and in the log.
 
 #include "apoyo/Azar.h"

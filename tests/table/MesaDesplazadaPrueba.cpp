@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What happens on a table that is scrolled: the deal, the arrangement at the sides, keeping a
 // dropped piece in view and the scrolling at the edges, each held against its rule read word for
 // word, on many tables.

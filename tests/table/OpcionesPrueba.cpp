@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options panel: its rows, its place, the light that follows the pointer, and what a choice
 // does.
 #include "apoyo/PlataformaPrueba.h"

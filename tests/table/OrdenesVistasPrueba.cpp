@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the player sees while a command works: the hourglass, pieces laid one by one or all at
 // once, the table brought up to date before a question's work.
 #include "apoyo/MesaMontada.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole games, played with the pointer from the deal to the last message.
 #include <algorithm>
 

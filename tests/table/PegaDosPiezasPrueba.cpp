@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The attraction between Tangram pieces, held against its rule read word for word on many tables.
 #include <array>
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The screen changes its size while a game is in play.
 #include <gtest/gtest.h>
 

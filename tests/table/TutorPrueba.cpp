@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tutor: three flashes of the place where a piece belongs, and what they leave unchanged.
 #include "apoyo/MesaMontada.h"
 #include "core/Superficies.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The real program started where things are missing or damaged: it tells, goes on, and leaves in
 // order.
 #include <filesystem>

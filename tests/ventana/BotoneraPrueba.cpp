@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The twelve buttons of the strip in the real program, in each game, where they are allowed and
 // where they are not.
 #include "ventana/Escritorio.h"

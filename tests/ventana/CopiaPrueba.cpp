@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Undo and the safety copy in the real program: real keys, and a real signal that ends the session.
 #include <signal.h>
 

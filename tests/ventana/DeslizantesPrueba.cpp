@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sliding puzzle in the real program: solved by real clicks, a refused click, and the solver
 // run to the end.
 #include "ventana/Escritorio.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A private X server with a small window manager, a real pointer and keyboard, and the real
 // program in a program folder of its own. The tests look at the screen's pixels and at the files
 // that the program leaves.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The installed program: its folder cannot be written, its player is an ordinary user, and all that
 // it leaves lies in that user's data folder.
 #include <sys/stat.h>

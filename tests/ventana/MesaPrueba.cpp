@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Around the table in the real program: arranging, solving and taking back a jigsaw, the recorder
 // step by step, edge scrolling, the options panel, the sample view, the keyboard.
 #include "ventana/Escritorio.h"

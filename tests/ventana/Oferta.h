@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Another program with something to give: it owns a selection of the private X server and hands out
 // one kind of data over a connection of its own, on the clipboard or dragged onto a window.
 #pragma once

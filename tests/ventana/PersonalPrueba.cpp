@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window of the real program, by mouse and keyboard.
 #include <cstdlib>
 #include <filesystem>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saved puzzles, statistics, history and models in the real program.
 #include <algorithm>
 #include <filesystem>

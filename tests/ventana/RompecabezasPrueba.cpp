@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The jigsaw in the real program: played to the end with a real pointer, a drag seen on the screen,
 // a click made during a pause, a press through a transparent corner.
 #include "ventana/Escritorio.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Tangram in the real program: a figure solved with drags, turns and the flip; a drop that is
 // pushed off; a design laid and read back through the model file.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each game in the real program from the first piece to the last, and out of the program, with keys
 // alone; and the mouse that comes back.
 #include <cstdlib>

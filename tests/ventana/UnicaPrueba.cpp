@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Two starts of the real program by one player.
 #include <signal.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What moves over the table, on the screen: the strip stays, whatever view is moved beside it or
 // under it; keys and second clicks behind a turning piece; the piece that turns in the hand.
 #include "ventana/Escritorio.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The statistics window: its lines in the three games, the name, the bar of the share solved.
 #include "apoyo/VentanaMontada.h"
 #include "windows/Estadis.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The history window: orders, travel, lines, drawing.
 #include <chrono>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Takes the pictures of README.md and of the help: the first table of a new player and games in
 // progress of each kind, laid before the real program on a private screen; keeps what it shows.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The games that a new player finds laid: one for each of the three, dealt by the game's own
 // routines on the smallest screen, and the global settings that go with them.
 #pragma once

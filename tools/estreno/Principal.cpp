@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the files of the first games: tessario_estreno <file of models> <folder>.
 #include <cstdio>
 #include <cstdlib>

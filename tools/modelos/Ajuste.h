@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // From a lattice to pixels: pieces are nudged so that they touch, leave no seam and do not overlap.
 #pragma once
 

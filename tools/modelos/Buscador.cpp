@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Looks for figures after sketches:
 //
 //     tessario_busca <file of sketches> <folder for the results> [attempts] [results of each]

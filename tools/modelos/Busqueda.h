@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finds arrangements of the seven pieces, joined edge to edge, that come near to a sketch.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The collection that is delivered: every description built, checked and compared with the others.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A sketch of a figure, for the search. A file of sketches holds
 //
 //     = Name of the sketch

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What can be said of a figure in exact geometry: whether its pieces join well, how hard it is, and
 // whether two figures are the same.
 #pragma once

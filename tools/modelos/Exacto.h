@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The seven pieces in exact geometry: which sides two of them share, how far they stand apart.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Makes the file of supplied Tangram models from the descriptions of the figures:
 //
 //     tessario_modelos <folder of descriptions> <model file> [folder for pictures]

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finds which of the seven pieces lies where in a figure's silhouettes.
 #pragma once
 

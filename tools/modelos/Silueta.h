@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A figure as it is described: one or more silhouettes drawn in cells. A description file holds
 //
 //     = Name of the figure

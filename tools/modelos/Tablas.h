@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the programs of this folder share: the game's tables set for the smallest table, and a
 // picture of a figure.
 #pragma once

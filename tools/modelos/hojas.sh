@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Contact sheets of the supplied Tangram models:
 #
 #     tessario_modelos resources/modelos <model file> <folder of pictures>

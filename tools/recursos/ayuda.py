@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Builds the help: resources/ayuda/*.html and their pictures, from resources/fuentes/ayuda/*.txt.
 
 A source file is a chapter: "# Chapter", then pages "=== topic | title | related topics" followed by

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Makes BmpBoton.png, BmpVario.png, Careta.png and the icon from their SVG sources.
 
 Each command is a tile: the blank tile baldosa.svg with the sign of the command over it.

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Makes the twelve pointers, 32x32 with alpha, and puntos.txt, their hot spots.
 
 The hands are skeletons of thick round strokes: drawn once wide in the outline colour and once

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sample pictures: tiles, still life, stars, garden, fish, carpet, stained glass."""
 import math
 

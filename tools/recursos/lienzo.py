@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """What the sample pictures are drawn with: SVG shapes by program, noise, and three finishes.
 
 A picture is drawn as an SVG by a seeded generator, rendered, and then finished as a glaze (soft

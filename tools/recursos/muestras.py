@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Draws the sample pictures of resources/muestras and measures that they are good to solve.
 
 With a picture cut ten by ten, no piece may be nearly flat and no two pieces may look alike. For each

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Sample pictures: mosaic city, kites, balloons, old map, mountains, harbour."""
 import math
 

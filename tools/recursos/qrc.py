@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Writes resources/tessario.qrc: everything that is compiled into the program, in name order."""
 import pathlib
 

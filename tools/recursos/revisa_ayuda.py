@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Checks the help: every topic that the program opens has a page, every link and picture is there,
 every page has a title and is listed in the start page, and everything is in tessario.qrc.
 

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Makes the ten sounds of the game in resources/sonidos (44.1 kHz, 16 bit, mono).
 
 Everything is synthesised: struck ceramic and wood (a few damped partials), a swish of filtered

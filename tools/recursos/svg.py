@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Renders SVG sources to pictures: rsvg-convert at eight times the size, then averaged down."""
 import io
 import pathlib

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Makes every generated resource anew and checks it. Needs python3-pil, python3-numpy, librsvg2-bin.
 set -e
 cd "$(dirname "$0")"
