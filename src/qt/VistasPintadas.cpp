@@ -43,7 +43,7 @@ void PintaMarco(QPainter& p, const QRect& r) {
 
 // Paints what a bitmap has of a region, and tells which part that was.
 QRegion PintaMapa(QPainter& p, const Mapa& m, const QRegion& region) {
-    const QRegion suya = region & QRect(0, 0, m.Ancho, m.Alto);
+    QRegion suya = region & QRect(0, 0, m.Ancho, m.Alto);
     const QImage lienzo = Lienzo(m);
     for (const QRect& r : suya) p.drawImage(r.topLeft(), lienzo, r);
     return suya;

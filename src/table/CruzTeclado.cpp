@@ -128,8 +128,8 @@ constexpr struct {
 // A whole press in the middle of a piece. Afterwards the pointer finds again what it stands on.
 void PulsaPiezaEntera(i16 piece) {
     const Rect caja = CajaDePieza(piece);
-    const auto x = static_cast<float>(caja.Izq + caja.Ancho() / 2);
-    const auto y = static_cast<float>(caja.Arr + caja.Alto() / 2);
+    const Punto centro{caja.Izq + caja.Ancho() / 2, caja.Arr + caja.Alto() / 2};
+    const auto x = static_cast<float>(centro.x), y = static_cast<float>(centro.y);
     const Punto puntero{Gbl.CruzX, Gbl.CruzY};
     Pic_Trabajo.MouseMove(0, 0, x, y);
     Pic_Trabajo.MouseDown(BOTON_IZQUIERDO, 0, x, y);
