@@ -100,7 +100,7 @@ TEST_F(CosteMetaficheros, CurvesOfOneFigureDoNotBecomeTooManyPoints) {
 }
 
 TEST_F(CosteMetaficheros, WhatIsPaintedCountsByItsPixels) {
-    constexpr long long TODO = ANCHO * ALTO, VECES = 100;
+    constexpr long long LIENZO = ANCHO * ALTO, VECES = 100;
     const Campos caja{0, 0, ANCHO + 1, ALTO + 1};
     const auto repite = [&](Emf& e, u32 tipo, const Campos& c) {
         for (int i = 0; i < VECES; ++i) e.R(tipo, c);
@@ -108,17 +108,17 @@ TEST_F(CosteMetaficheros, WhatIsPaintedCountsByItsPixels) {
     {
         Emf lisa;
         repite(lisa.R(37, {NULA}), 43, caja);
-        Cuesta(VECES * TODO, lisa);
+        Cuesta(VECES * LIENZO, lisa);
     }
     {
         Emf trama;
         repite(trama.R(39, {1, 2, 0, 5}).R(37, {1}).R(37, {NULA}), 43, caja);
-        Cuesta(VECES * TODO * 8, trama);
+        Cuesta(VECES * LIENZO * 8, trama);
     }
     {
         Emf modo;
         repite(modo.R(20, {7}).R(37, {NULA}), 43, caja);
-        Cuesta(VECES * TODO * 8, modo);
+        Cuesta(VECES * LIENZO * 8, modo);
     }
     constexpr long long UNO = 0x3F800000;
     const Campos sitio{0, 0, 0, 0, 0, 0, ANCHO, ALTO};
@@ -128,24 +128,24 @@ TEST_F(CosteMetaficheros, WhatIsPaintedCountsByItsPixels) {
         Emf copia;
         const long long codigo = tipo == 77 ? 0xB8074A : 0x1800000;
         repite(copia, tipo, Une(Une(Une(sitio, {codigo}), lejos), dib));
-        Cuesta(VECES * TODO * 11, copia);
+        Cuesta(VECES * LIENZO * 11, copia);
     }
     {
         Emf color;
         repite(color, 118,
                {0, 0, 0, 0, 3, 1, 2, 0, 0, 0, 0, 2 * ANCHO, 0, 0, 0, 0, 2 * ALTO, 0, 0, 0, 1, 2});
-        Cuesta(VECES * TODO * 10, color);
+        Cuesta(VECES * LIENZO * 10, color);
     }
     {
         Emf region;
         repite(region.R(39, {1, 2, 0, 5}).R(37, {1}), 74,
                {0, 0, 0, 0, 48, 32, 1, 1, 16, 0, 0, 0, 0, 0, 0, ANCHO, ALTO});
-        Cuesta(VECES * TODO * 8, region);
+        Cuesta(VECES * LIENZO * 8, region);
     }
     {
         Emf inunda;
         repite(inunda, 53, {5, 5, 0x777777, 0});
-        Cuesta(VECES * TODO * 21, inunda);
+        Cuesta(VECES * LIENZO * 21, inunda);
     }
 }
 
