@@ -247,6 +247,7 @@ private:
     void Evento() {
         // Also for the press that plays the rest and then switches the recorder off.
         if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
+        if (Gbl.TutorEsperando) excepciones_ |= PiezaDelTutor;
         switch (Hasta(12)) {
             case 0:
             case 1:
@@ -306,8 +307,6 @@ private:
 
     void AnotaExcepciones() {
         if (Gbl.GrabadoraEncendida) excepciones_ |= GiroReproducido;
-        for (const auto& s : p_->sonidos)
-            if (s.first == 55) excepciones_ |= PiezaDelTutor;
         vistos_ = std::min(vistos_, Gbl.NumMovimientos);
         while (vistos_ < Gbl.NumMovimientos) {
             const Movimiento& m = Gbl.Movimientos[++vistos_];
