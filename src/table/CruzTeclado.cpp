@@ -157,6 +157,12 @@ void Flecha(i16 KeyCode, i16 Shift) {
     Ve({p.x + f.dx * paso, p.y + f.dy * paso});
 }
 
+// Is it a key that points or presses?
+bool Apunta(i16 KeyCode) {
+    constexpr i16 TECLAS[] = {IZQUIERDA, ARRIBA, DERECHA, ABAJO, RE_PAG, AV_PAG, INICIO, ESPACIO};
+    return std::find(std::begin(TECLAS), std::end(TECLAS), KeyCode) != std::end(TECLAS);
+}
+
 void VuelveElRaton() {
     SueltaCruz();
     EscondeCruz();
@@ -188,6 +194,8 @@ void EscondeCruz() {
 
 bool TeclaDeCruz(i16 KeyCode, i16 Shift) {
     if (Shift & CON_ALT) return false;
+    // While the mouse holds something the cross stays away; a piece in its hand can be turned.
+    if (!Gbl.CruzSujeta && Sistema().BotonesApretados() != 0 && Apunta(KeyCode)) return true;
     const bool nueva = !(Shift & TECLA_REPETIDA);
     switch (KeyCode) {
         case IZQUIERDA:

@@ -443,6 +443,28 @@ TEST_F(CruzDelTeclado, SampleIsCarriedWithIt) {
     EXPECT_FALSE(Gbl.CruzSujeta);
 }
 
+TEST_F(CruzDelTeclado, StaysAwayWhileTheMouseHoldsTheSample) {
+    Casi({});
+    Pic_Muestra.Tamano(100, 80);
+    Pic_Muestra.Mueve(400, 400);
+    Pic_Muestra.Visible = true;
+    const Punto o = OrigenDe(Pic_Muestra);
+    const auto antes = Pic_Trabajo.Dibujo().Pixeles;
+    P().botones = BOTON_IZQUIERDO;
+    Puntero.Mueve(o.x + 50, o.y + 40);
+    Puntero.Aprieta();
+    Puntero.Mueve(o.x - 100, o.y - 60);
+    ASSERT_EQ(Pic_Trabajo.DrawMode, MODO_INVIERTE);
+    for (const i16 tecla : {INICIO, ESPACIO, ESPACIO, ARRIBA, AV_PAG, ESPACIO}) Tecla(tecla);
+    EXPECT_EQ(Pic_Trabajo.DrawMode, MODO_INVIERTE);
+    EXPECT_FALSE(Gbl.CruzSujeta);
+    P().botones = 0;
+    Puntero.Suelta();
+    EXPECT_EQ(Pic_Trabajo.DrawMode, MODO_COPIA);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, antes) << "no outline is left behind";
+    EXPECT_EQ(Pic_Muestra.Left, 250);
+}
+
 TEST_F(CruzDelTeclado, CommandsOfTheStripAreReachedAndPressedOnce) {
     Casi({});
     Ventana ajustes;
@@ -536,15 +558,15 @@ TEST_F(CruzDelTeclado, TableIsDeafToItWhileTheMouseTurnsAPiece) {
     P().botones = BOTON_DERECHO;
     P().alDejarPasar = [&] {
         P().alDejarPasar = nullptr;
-        VeA(9);
-        Tecla(ESPACIO);
+        for (const i16 tecla : {INICIO, ESPACIO, ESPACIO}) Tecla(tecla);
+        EXPECT_FALSE(Gbl.CruzSujeta);
         P().botones = 0;
     };
     Puntero.Mueve(p.x, p.y);
     Puntero.Aprieta(BOTON_DERECHO);
     EXPECT_EQ(Gbl.Piezas[5].Giro, 1);
     EXPECT_EQ(Gbl.NumMovimientos, 1);
-    EXPECT_EQ(Gbl.OrdenPiezas[1], 5) << "piece 9 was not lifted";
+    EXPECT_EQ(Gbl.OrdenPiezas[1], 5) << "no other piece was lifted";
 }
 
 TEST_F(CruzDelTeclado, CrossEndsTheSolverByItsButton) {
