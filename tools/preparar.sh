@@ -13,7 +13,8 @@ PAQUETES_pantalla="xvfb openbox imagemagick"
 # The packages among the arguments that are not installed; one question for all.
 paquetes_ausentes() {
   local puestos p
-  puestos=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null)
+  # It fails when one of them is unknown, which must not end a caller that stops at failures.
+  puestos=$(dpkg-query -W -f='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null) || true
   for p in "$@"; do
     case $'\n'"$puestos"$'\n' in
       *$'\n'"$p installed"$'\n'*) ;;
