@@ -37,6 +37,7 @@ struct Escena {
     i32 Paso = 0;
 
     Escena() {
+        Mesa.Circle(0, ANCHO / 2.0, ALTO / 2.0, PIEZA);  // a table in play has been drawn on
         Mascara.FillSolido = true;
         Mascara.Circle(0, PIEZA / 2.0, PIEZA / 2.0, PIEZA / 2.0 - 4);
         Imagen.PonBackColor(0x40A0F0);

@@ -123,9 +123,8 @@ Cuadrado Traspone(Cuatro a, Cuatro b, Cuatro c, Cuatro d) {
 }
 
 void MediaVuelta(const Superficie& s, Superficie& destino) {
-    const i32 w = s.Width(), h = s.Height();
-    for (i32 y = 0; y < h; ++y)
-        std::reverse_copy(s.Fila(y), s.Fila(y) + w, destino.Fila(h - 1 - y));
+    const Pixel* const origen = s.Fila(0);
+    std::reverse_copy(origen, origen + s.Width() * s.Height(), destino.Fila(0));
 }
 
 // A quarter turn clockwise brings the column x to the row x, its rows from the last to the first;
@@ -134,11 +133,14 @@ void MediaVuelta(const Superficie& s, Superficie& destino) {
 template <bool horario>
 void CuartoDeVuelta(const Superficie& s, Superficie& destino) {
     const i32 w = s.Width(), h = s.Height(), w4 = w - w % LADO, h4 = h - h % LADO;
-    const auto fila = [&](i32 x) { return destino.Fila(horario ? x : w - 1 - x); };
-    const auto suelto = [&](i32 x, i32 y) { fila(x)[horario ? h - 1 - y : y] = s.Fila(y)[x]; };
+    // Rows lie one behind the other: asking a surface for each would cost more than the turn.
+    const Pixel* const origen = s.Fila(0);
+    Pixel* const girado = destino.Fila(0);
+    const auto fila = [=](i32 x) { return girado + (horario ? x : w - 1 - x) * h; };
+    const auto suelto = [=](i32 x, i32 y) { fila(x)[horario ? h - 1 - y : y] = origen[y * w + x]; };
     for (i32 y = 0; y < h4; y += LADO) {
         const Pixel* f[LADO];
-        for (i32 i = 0; i < LADO; ++i) f[i] = s.Fila(horario ? y + LADO - 1 - i : y + i);
+        for (i32 i = 0; i < LADO; ++i) f[i] = origen + (horario ? y + LADO - 1 - i : y + i) * w;
         const i32 columna = horario ? h - LADO - y : y;
         for (i32 x = 0; x < w4; x += LADO) {
             const auto t = Traspone(Lee(f[0] + x), Lee(f[1] + x), Lee(f[2] + x), Lee(f[3] + x));
@@ -166,7 +168,7 @@ void PreparaPieza(i16 piece) {
 }
 
 void GiraSuperficie(Superficie& surface, i16 giro) {
-    if (giro < 1 || giro > 3) return;
+    if (giro < 1 || giro > 3 || surface.Width() == 0 || surface.Height() == 0) return;
     // Pic_PiezaFinal is free between two paintings: it takes the turned pixels, then the two
     // surfaces exchange their drawings.
     if (giro == 2) {

@@ -152,10 +152,12 @@ void BitBlt(Superficie& destino, i32 xd, i32 yd, i32 ancho, i32 alto, const Supe
     const bool suelo = &destino != &origen && origen.SoloSuelo();
     std::vector<Pixel> fila(suelo ? static_cast<std::size_t>(caja.Ancho()) : 0);
     PorElRecorte(destino, caja, [&](const Rect& r) {
-        for (i32 y = r.Arr; y < r.Aba; ++y) {
+        const i32 pasoD = destino.Width(), pasoO = suelo ? 0 : origen.Width();
+        Pixel* d = destino.Fila(r.Arr) + r.Izq;
+        const Pixel* o = suelo ? fila.data() : origen.Fila(r.Arr + sy) + r.Izq + sx;
+        for (i32 y = r.Arr; y < r.Aba; ++y, d += pasoD, o += pasoO) {
             if (suelo) origen.CopiaSuelo(y + sy, r.Izq + sx, r.Der + sx, fila.data());
-            const Pixel* const s = suelo ? fila.data() : origen.Fila(y + sy) + r.Izq + sx;
-            mezcla(destino.Fila(y) + r.Izq, s, r.Ancho());
+            mezcla(d, o, r.Ancho());
         }
     });
 }
