@@ -317,6 +317,30 @@ TEST_F(ImagenVentana, AFileThatCannotBeReadLeavesThePictureInUse) {
     EXPECT_TRUE(P().avisos.empty());
 }
 
+TEST_F(ImagenVentana, ALargePictureIsShownEarlyAndGoesAgainWhenTheWholeCannotBeRead) {
+    MovilesDe("a.bmp", 640, 480);
+    const std::string grande = PonImagen("b.bmp", 900, 600, 0x30C060);
+    Crea("Imagenes/b.bmp", std::string(600 * 1024, 'x'));
+    Visita([&] {
+        const auto antes = Pic_MostrarImagen.Dibujo().Pixeles;
+        int adelantos = 0;
+        P().alPresentar = [&] {
+            const Superficie& vista = Pic_MostrarImagen;
+            if (vista.Fila(vista.Height() / 2)[vista.Width() / 2] != 0x30C060U) return;
+            ++adelantos;
+            EXPECT_TRUE(P().cargadas.empty() || P().cargadas.back() != grande)
+                << "read whole later";
+            P().erroresImagen[grande] = 481;  // its end turns out to be damaged
+        };
+        EligeFichero("b.bmp");
+        P().alPresentar = nullptr;
+        EXPECT_EQ(adelantos, 1);
+        EXPECT_EQ(Pic_MostrarImagen.Dibujo().Pixeles, antes) << "the picture in use is on show";
+        Sal();
+    });
+    EXPECT_EQ(Gbl.FicheroImagen, "a.bmp");
+}
+
 TEST_F(ImagenVentana, AFolderWithoutPermissionIsEmptyAndHarmless) {
     fs::create_directories(P().carpeta + "Cerrada");
     fs::permissions(P().carpeta + "Cerrada", fs::perms::none);
