@@ -30,6 +30,8 @@ public:
     // The player asks to close a window from outside.
     virtual void PideCerrar(VistaVentana& v) = 0;
     virtual bool EstaCerrando() const = 0;
+    // The window on the screen that has to be answered first; null: none.
+    virtual const VistaVentana* Modal() const = 0;
 
     Textos& textos() { return textos_; }
     Cursores& cursores() { return cursores_; }

@@ -36,7 +36,8 @@ struct FinDelPrograma {};
 
 }  // namespace
 
-PlataformaQt::PlataformaQt() {
+PlataformaQt::PlataformaQt()
+    : VentanasDentro(QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
     reloj_.start();
     espera_.setSingleShot(true);
     espera_.setInterval(0);
@@ -66,6 +67,7 @@ PlataformaQt::PlataformaQt() {
 }
 
 PlataformaQt::~PlataformaQt() {
+    ayuda_.reset();  // it may lie within the windows that go now
     for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); ++i) {
         (*i)->Termina();
         delete *i;
@@ -159,8 +161,22 @@ VistaVentana* PlataformaQt::Cima() const {
     return abiertas_.empty() ? nullptr : abiertas_.back();
 }
 
+const VistaVentana* PlataformaQt::Modal() const {
+    const auto i = std::find_if(abiertas_.rbegin(), abiertas_.rend(),
+                                [](const VistaVentana* v) { return v->Modal() && v->Ensenada(); });
+    return i == abiertas_.rend() ? nullptr : *i;
+}
+
+// The window within which one above `duena` is drawn; null: it is a window of its own.
+QWidget* PlataformaQt::LienzoSobre(const VistaVentana* duena) const {
+    if (!VentanasDentro || !duena) return nullptr;
+    auto* const fondo = dynamic_cast<VistaVentana*>(duena->window());
+    return fondo && fondo->ventana().PantallaCompleta && fondo->Ensenada() ? fondo : nullptr;
+}
+
 VistaVentana& PlataformaQt::Abre(Ventana& v, bool modal) {
-    auto* const vista = new VistaVentana(v, *this, Cima(), modal);
+    auto* const vista =
+        new VistaVentana(v, *this, Cima(), modal, modal ? LienzoSobre(Cima()) : nullptr);
     abiertas_.push_back(vista);
     v.Abierta = true;
     return *vista;
@@ -234,8 +250,8 @@ void PlataformaQt::Mira() {
     QWidget* w = QApplication::widgetAt(p);
     while (w && !dynamic_cast<Vista*>(w)) w = w->parentWidget();
     auto* const vista = dynamic_cast<Vista*>(w);
-    const QWidget* const modal = QApplication::activeModalWidget();
-    if (vista && (!modal || modal == vista->window()))
+    const VistaVentana* const modal = Modal();
+    if (vista && (!modal || modal->isAncestorOf(vista)))
         vista->Mira(vista->mapFromGlobal(QPointF(p)));
 }
 
@@ -243,6 +259,7 @@ void PlataformaQt::Mira() {
 void PlataformaQt::CambiaPantalla() {
     if (terminando_) return;
     Sincroniza(true);
+    AnclaAyuda();
     const std::vector<VistaVentana*> ahora = abiertas_;
     for (VistaVentana* const v : ahora) {
         const bool abierta = std::find(abiertas_.begin(), abiertas_.end(), v) != abiertas_.end();
@@ -264,12 +281,12 @@ void PlataformaQt::TraeAlFrente() {
 }
 
 void PlataformaQt::PonFoco(Control& c) {
-    for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); ++i) {
+    const VistaVentana* encima = nullptr;
+    for (auto i = abiertas_.rbegin(); i != abiertas_.rend(); encima = *i++) {
         (*i)->Sincroniza();
         if (Vista* const vista = (*i)->VistaDe(c)) {
             (*i)->ventana().Foco = (*i)->Ensenada() ? (*i)->ventana().Foco : &c;
-            // The keyboard is led to one part of a picture: it shows which.
-            vista->setFocus(vista->TieneZonas() ? Qt::TabFocusReason : Qt::OtherFocusReason);
+            (*i)->DejaFocoEn(vista, encima);
             return;
         }
     }
@@ -377,7 +394,7 @@ void PlataformaQt::Ayuda(i32 tema) {
 }
 
 void PlataformaQt::AnclaAyuda() {
-    if (ayuda_) ayuda_->Ancla(Cima());
+    if (ayuda_) ayuda_->Ancla(Cima(), LienzoSobre(Cima()));
 }
 
 std::string PlataformaQt::CarpetaDelPrograma() {

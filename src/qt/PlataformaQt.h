@@ -28,6 +28,9 @@ public:
     std::function<void()> AlApremiar;
     // Some program has put something else on the clipboard.
     std::function<void()> AlCopiar;
+    // Windows above the one that fills the screen are drawn within it. So on a window system that
+    // does not let a program say where its windows stand, nor what lies above what.
+    bool VentanasDentro;
     // The event loop, until Termina. Returns the exit status.
     int Ejecuta();
     // A later start has called: the windows come up, put away or not, the one on top last.
@@ -42,6 +45,7 @@ public:
     void PideCerrar(VistaVentana& v) override;
     void MiraBajoElPuntero(bool forzada) override;
     bool EstaCerrando() const override { return terminando_; }
+    const VistaVentana* Modal() const override;
 
     // --- Plataforma.
     i32 AnchoPantalla() override;
@@ -86,6 +90,7 @@ private:
     VistaVentana& Abre(Ventana& v, bool modal);
     VistaVentana* Cima() const;  // the window that is on top
     void Sincroniza(bool ya);
+    QWidget* LienzoSobre(const VistaVentana* duena) const;
     void AnclaAyuda();
     void Mira();
     void CambiaPantalla();

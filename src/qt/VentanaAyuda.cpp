@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/VentanaAyuda.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTextBrowser>
@@ -20,6 +22,7 @@
 #include <algorithm>
 
 #include "qt/Estilo.h"
+#include "qt/Lienzo.h"
 #include "qt/Textos.h"
 
 namespace tessario {
@@ -263,16 +266,32 @@ void VentanaAyuda::Muestra(i32 tema) {
     if (!QFile::exists(CARPETA + nombre + QStringLiteral(".html"))) nombre = INICIO;
     hojas_->setSource(QUrl(QStringLiteral("qrc") + CARPETA + nombre + QStringLiteral(".html")));
     if (!isVisible()) {
-        const QRect pantalla = QGuiApplication::primaryScreen()->availableGeometry();
+        const QRect pantalla = Dentro() ? parentWidget()->rect()
+                                        : QGuiApplication::primaryScreen()->availableGeometry();
         move(pantalla.center() - rect().center());
     }
     show();
     raise();
     activateWindow();
-    hojas_->setFocus();
+    TomaFoco();
 }
 
-void VentanaAyuda::Ancla(QWidget* duena) {
+void VentanaAyuda::Ancla(QWidget* duena, QWidget* lienzo) {
+    duena_ = duena;
+    if (parentWidget() != lienzo) {
+        setParent(lienzo, lienzo ? Qt::SubWindow : Qt::Window);
+        setAutoFillBackground(Dentro());
+        setAttribute(Qt::WA_NoMousePropagation, Dentro());
+        if (Dentro())
+            qApp->installEventFilter(this);
+        else
+            qApp->removeEventFilter(this);
+    }
+    if (Dentro()) {
+        Encaja(pos());
+        raise();
+        return;
+    }
     winId();
     if (duena) duena->winId();
     QWindow* const nueva = duena ? duena->windowHandle() : nullptr;
@@ -283,8 +302,66 @@ void VentanaAyuda::Ancla(QWidget* duena) {
 void VentanaAyuda::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape)
         close();
-    else
+    else if (!Dentro())  // what lies below within the same window gets no key of the help
         QWidget::keyPressEvent(e);
+}
+
+// --- Within another window: what the window system does for a window of its own.
+
+// In view, by its upper left corner at least.
+void VentanaAyuda::Encaja(QPoint esquina) {
+    const QSize libre = (parentWidget()->size() - size()).expandedTo({0, 0});
+    move(std::clamp(esquina.x(), 0, libre.width()), std::clamp(esquina.y(), 0, libre.height()));
+}
+
+// The keyboard comes and goes as it does between windows, with no word to the game's controls.
+void VentanaAyuda::TomaFoco() {
+    QWidget* const ahora = window()->focusWidget();
+    if (Dentro() && ahora && !isAncestorOf(ahora)) antes_ = ahora;
+    hojas_->setFocus(Dentro() ? Qt::ActiveWindowFocusReason : Qt::OtherFocusReason);
+}
+
+void VentanaAyuda::DevuelveFoco() {
+    if (!Dentro() || !duena_ || !isAncestorOf(window()->focusWidget())) return;
+    QWidget* const suyo = duena_->isWindow() ? antes_.data() : duena_->focusWidget();
+    (suyo ? suyo : duena_.data())->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+// A press on the help gives it the keyboard; one beside it, to what lies there. Seen as it reaches
+// the window, before the widget under it takes the keyboard by itself.
+bool VentanaAyuda::eventFilter(QObject* o, QEvent* e) {
+    if (e->type() == QEvent::MouseButtonPress && Dentro() && o == window()->windowHandle() &&
+        isVisible()) {
+        const QPointF punto = static_cast<QMouseEvent*>(e)->position();
+        const bool suya = geometry().contains(punto.toPoint());
+        if (suya && !isAncestorOf(window()->focusWidget())) TomaFoco();
+        if (!suya) DevuelveFoco();
+    }
+    return QWidget::eventFilter(o, e);
+}
+
+bool VentanaAyuda::focusNextPrevChild(bool siguiente) {
+    return Dentro() ? PasaElFoco(*this, siguiente) : QWidget::focusNextPrevChild(siguiente);
+}
+
+void VentanaAyuda::mousePressEvent(QMouseEvent* e) {
+    agarre_ = e->position().toPoint();
+}
+
+void VentanaAyuda::mouseMoveEvent(QMouseEvent* e) {
+    if (Dentro() && (e->buttons() & Qt::LeftButton))
+        Encaja(mapToParent(e->position().toPoint()) - agarre_);
+}
+
+void VentanaAyuda::paintEvent(QPaintEvent*) {
+    if (!Dentro()) return;
+    QPainter p(this);
+    p.setPen(estilo::TERRACOTA_OSCURA);
+    p.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void VentanaAyuda::hideEvent(QHideEvent*) {
+    DevuelveFoco();
 }
 
 }  // namespace tessario

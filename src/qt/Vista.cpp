@@ -69,7 +69,7 @@ i32 Vista::Sincroniza() {
     if (visto_.Visible != visible) {
         visto_.Visible = visible;
         // The keyboard goes back to the window, not on to the next stop.
-        if (!visible && hasFocus()) window()->setFocus(Qt::OtherFocusReason);
+        if (!visible && hasFocus()) Marco().setFocus(Qt::OtherFocusReason);
         setVisible(visible);
         area += sitio.width() * sitio.height();
         anfitrion().MiraBajoElPuntero(false);

@@ -20,6 +20,7 @@ class MarcoDeVistas {
 public:
     virtual ~MarcoDeVistas() = default;
     virtual const Ventana& ventana() const = 0;
+    virtual QWidget& Marco() = 0;  // the widget of the whole window
     virtual Anfitrion& anfitrion() const = 0;
     virtual bool Viva() const = 0;
     virtual bool EsMia(const Vista* v) const = 0;
@@ -67,6 +68,7 @@ protected:
     void PintaAnillo(QPainter& p, QRect r) const;
     Anfitrion& anfitrion() const;
     const Ventana& ventana() const;
+    QWidget& Marco() const { return ventana_.Marco(); }
     bool Viva() const;  // the window is still open
 
     bool event(QEvent* e) override;

@@ -12,6 +12,7 @@
 
 #include "qt/CreaVista.h"
 #include "qt/Entrada.h"
+#include "qt/Lienzo.h"
 #include "qt/VistasPintadas.h"
 
 namespace tessario {
@@ -34,12 +35,18 @@ Qt::WindowFlags Marcas(const Ventana& v, bool modal) {
 
 }  // namespace
 
-VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal)
-    : QWidget(nullptr, Marcas(v, modal)), ventana_(v), anfitrion_(a), modal_(modal) {
+VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal,
+                           QWidget* lienzo)
+    : QWidget(lienzo ? new Velo(*lienzo) : nullptr, lienzo ? Qt::WindowFlags() : Marcas(v, modal)),
+      ventana_(v),
+      anfitrion_(a),
+      velo_(lienzo ? static_cast<Velo*>(parentWidget()) : nullptr),
+      modal_(modal) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setObjectName(QString::fromStdString(v.Nombre));
-    if (!modal) return;
+    if (velo_) setAttribute(Qt::WA_NoMousePropagation);
+    if (!modal || velo_) return;
     setWindowModality(Qt::ApplicationModal);
     // Tied by the window system alone: no widget owns another window's widget.
     winId();
@@ -57,7 +64,7 @@ bool VistaVentana::EsMia(const Vista* v) const {
 }
 
 QRect VistaVentana::Sitio() const {
-    const QRect pantalla = QGuiApplication::primaryScreen()->geometry();
+    const QRect pantalla = velo_ ? velo_->rect() : QGuiApplication::primaryScreen()->geometry();
     if (ventana_.PantallaCompleta) return pantalla;
     // The record counts from the corner of the screen that the table fills; a screen that has
     // become smaller still has the whole window, or its upper left corner.
@@ -71,6 +78,7 @@ QRect VistaVentana::Sitio() const {
 
 void VistaVentana::Sincroniza() {
     if (!viva_) return;
+    if (velo_) velo_->Ajusta();
     const QRect sitio = Sitio();
     if (sitio_ != sitio) {
         sitio_ = sitio;
@@ -197,7 +205,7 @@ void VistaVentana::Presenta(bool ya) {
     areaPendiente_ = 0;
     // Everything that update() has marked in this window is painted and shown in one go.
     QEvent pinta(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(this, &pinta);
+    QCoreApplication::sendEvent(window(), &pinta);
 }
 
 void VistaVentana::Ensena() {
@@ -233,9 +241,25 @@ void VistaVentana::Termina() {
     viva_ = false;
     anfitrion_.OlvidaPulsadas(this);
     for (const auto& r : relojes_) r->timer->stop();
-    hide();
     if (bucle_) bucle_->quit();
+    if (velo_) {
+        velo_->Retira();
+        return;
+    }
+    hide();
     deleteLater();
+}
+
+void VistaVentana::DejaFocoEn(Vista* v, const VistaVentana* encima) {
+    if (encima && encima->velo_)
+        encima->velo_->DejaFocoEn(v);
+    else
+        // The keyboard is led to one part of a picture: it shows which.
+        v->setFocus(v->TieneZonas() ? Qt::TabFocusReason : Qt::OtherFocusReason);
+}
+
+bool VistaVentana::focusNextPrevChild(bool siguiente) {
+    return velo_ ? PasaElFoco(*this, siguiente) : QWidget::focusNextPrevChild(siguiente);
 }
 
 // --- Events.
@@ -332,7 +356,8 @@ void VistaVentana::paintEvent(QPaintEvent* e) {
 
 void VistaVentana::closeEvent(QCloseEvent* e) {
     e->ignore();
-    if (viva_) anfitrion_.PideCerrar(*this);
+    const VistaVentana* const modal = anfitrion_.Modal();
+    if (viva_ && (!modal || modal == this)) anfitrion_.PideCerrar(*this);
 }
 
 // The wheel moves the vertical bar that is in view, three short steps for each notch.
@@ -357,7 +382,7 @@ void VistaVentana::wheelEvent(QWheelEvent* e) {
 // --- What is dropped.
 
 bool VistaVentana::AdmiteTraidos() const {
-    const QWidget* const modal = QApplication::activeModalWidget();
+    const VistaVentana* const modal = anfitrion_.Modal();
     return viva_ && ventana_.DragDrop && (!modal || modal == this);
 }
 

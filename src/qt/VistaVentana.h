@@ -15,16 +15,21 @@
 
 namespace tessario {
 
+class Velo;
+
 class VistaVentana : public QWidget, public RecibeSuelta, public MarcoDeVistas {
 public:
-    // A modal one stands above `duena`, the window that is on top so far, or above nothing.
-    VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal);
+    // A modal one stands above `duena`, the window that is on top so far, or above nothing. With
+    // `lienzo`, the window that fills the screen, it is drawn there and has none of its own.
+    VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal,
+                 QWidget* lienzo = nullptr);
 
     Ventana& ventana() { return ventana_; }
     const Ventana& ventana() const override { return ventana_; }
     Anfitrion& anfitrion() const override { return anfitrion_; }
     Vista* VistaDe(const Control& c) const;
     bool EsMia(const Vista* v) const override;
+    QWidget& Marco() override { return *this; }
     bool Viva() const override { return viva_; }
     bool Modal() const { return modal_; }
 
@@ -36,6 +41,8 @@ public:
     // On the screen, exposed, with the focus where the record wants it.
     void Ensena();
     bool Ensenada() const { return ensenada_; }
+    // The control that has the keyboard once nothing is before this window any more.
+    void DejaFocoEn(Vista* v, const VistaVentana* encima);
     // The loop that waits for the window, ended when it closes.
     void PonBucle(QEventLoop* bucle) { bucle_ = bucle; }
     // The window is closed: no more events; the widget goes away by itself.
@@ -47,6 +54,7 @@ public:
 
 protected:
     bool event(QEvent* e) override;
+    bool focusNextPrevChild(bool siguiente) override;
     void paintEvent(QPaintEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
@@ -71,6 +79,7 @@ private:
 
     Ventana& ventana_;
     Anfitrion& anfitrion_;
+    Velo* const velo_;  // that it lies on, within the window that fills the screen; else null
     bool modal_ = false, viva_ = true, ensenada_ = false;
     QEventLoop* bucle_ = nullptr;
     std::vector<Control*> orden_;

@@ -129,7 +129,7 @@ void VistaCuadro::MiraCruz() {
     conCruz_ = cruz != nullptr;
     const bool mia = cruz && cruz->Sobre == &cuadro_;
     const QPoint punto = mia ? QPoint(cruz->Left + Cruz::RADIO, cruz->Top + Cruz::RADIO) : QPoint();
-    Pon(bajo_, mia ? CaraEn(mapFrom(window(), punto)) : NINGUNA);
+    Pon(bajo_, mia ? CaraEn(mapFrom(&Marco(), punto)) : NINGUNA);
 }
 
 int VistaCuadro::CaraEn(QPointF p) const {
