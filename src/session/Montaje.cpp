@@ -60,11 +60,23 @@ std::string RutaDeImagen() {
     return !nombre.empty() && Existe(hallada) ? hallada : ruta;
 }
 
+// A record that names no folder, as those that come with the program, gets the one in which its
+// picture was found: there is no other to which that could come back.
+void TomaCarpeta(const std::string& hallada) {
+    const bool sinCarpeta =
+        Gbl.CarpetaImagen.empty() && Gbl.RutaImagen.find('/') == std::string::npos;
+    if (!sinCarpeta || hallada != BuscaRuta(Gbl.CarpetaImagenes + Gbl.RutaImagen)) return;
+    Gbl.CarpetaImagen = Gbl.CarpetaImagenes;
+    Gbl.RutaImagen = hallada;
+}
+
 void CargaImagenReal() {
     DevuelvePegada(Gbl.RutaImagen);
     auto mapa = std::make_shared<Mapa>();
-    const i32 error = Sistema().CargaImagen(RutaDeImagen(), *mapa);
+    const std::string ruta = RutaDeImagen();
+    const i32 error = Sistema().CargaImagen(ruta, *mapa);
     if (error != 0) throw ErrorEjecucion(Corto(error));
+    TomaCarpeta(ruta);
     Pic_FonTamReal.Tamano(mapa->Ancho, mapa->Alto);
     Pic_FonTamReal.PonPicture(mapa);
 }

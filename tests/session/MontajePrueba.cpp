@@ -314,6 +314,32 @@ TEST_F(Registros, ImageOfAnotherSystemIsFoundByItsName) {
     EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(5, 5)), 0x0000FFU);
 }
 
+TEST_F(Registros, RecordWithoutAFolderGetsTheOneInWhichItsImageWasFound) {
+    PonImagen("Lago.bmp", 320, 240);
+    Jigsaw();
+    Gbl.CarpetaImagen.clear();
+    Gbl.RutaImagen = Gbl.FicheroImagen = "lago.bmp";
+    Relee();
+    EXPECT_EQ(ErrorPendiente(), 0);
+    EXPECT_EQ(Gbl.CarpetaImagen, Gbl.CarpetaImagenes);
+    EXPECT_EQ(Gbl.RutaImagen, Gbl.CarpetaImagenes + "Lago.bmp");
+}
+
+TEST_F(Registros, RecordWithAFolderOfItsOwnKeepsItThoughItsImageIsFoundElsewhere) {
+    PonImagen("Lago.bmp", 320, 240);
+    Jigsaw();
+    Gbl.FicheroImagen = "Lago.bmp";
+    for (const bool deCarpeta : {true, false}) {
+        Gbl.CarpetaImagen = deCarpeta ? "/fotos/" : "";
+        Gbl.RutaImagen = deCarpeta ? "Lago.bmp" : "/fotos/Lago.bmp";
+        const std::string carpeta = Gbl.CarpetaImagen, ruta = Gbl.RutaImagen;
+        Relee();
+        EXPECT_EQ(ErrorPendiente(), 0);
+        EXPECT_EQ(Gbl.CarpetaImagen, carpeta);
+        EXPECT_EQ(Gbl.RutaImagen, ruta);
+    }
+}
+
 TEST_F(Registros, MissingImageLeavesItsErrorAndBuildsNothing) {
     Jigsaw();
     Gbl.RutaImagen = "/no/hay.bmp";

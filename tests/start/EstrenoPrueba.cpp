@@ -157,6 +157,7 @@ TEST_F(Estreno, ThePictureIsFoundWhereverTheProgramLies) {
     Empieza(21);
     SoloLaBienvenida();
     EXPECT_EQ(P().cargadas.back(), otra + "Imagenes/Puerto.jpg");
+    EXPECT_EQ(Gbl.CarpetaImagen, otra + "Imagenes/") << "as the statistics tell";
     ASSERT_TRUE(Gbl.ImagenValida);
 }
 
