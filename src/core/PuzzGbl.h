@@ -325,6 +325,7 @@ struct DatosCargua {
 struct FotoPartida : DatosJuego, DatosAjustes, DatosColores, DatosTamanos, DatosPiezas, DatosRutas {
     std::string NombrePuzzle;
     Booleano MostrarMuestra, ImagenValida;
+    Booleano EnDisco;  // the scratch copy was written when the window opened
 };
 
 // A picture that the player brought from elsewhere and that is to become the puzzle's.

@@ -5,9 +5,10 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <sstream>
 #include <string_view>
 
 #include "platform/Controles.h"
@@ -18,9 +19,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::uintmax_t LISTA_MAXIMA = 65536;  // bytes of the desktop's list of folders
+
+// The letters of ASCII alone: what is small to the player's language is none of a file's name.
 std::string SinCaja(std::string_view t) {
     std::string s(t);
-    for (char& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char& c : s)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
     return s;
 }
 
@@ -101,12 +106,20 @@ std::string CarpetaPersonal() {
     return yo && yo->pw_dir && yo->pw_dir[0] == '/' ? ConBarra(yo->pw_dir) : std::string();
 }
 
+// A small file's content; nothing of what is no file, so that nothing is waited for.
+std::string Texto(const std::string& ruta) {
+    std::error_code e;
+    if (!fs::is_regular_file(ruta, e) || fs::file_size(ruta, e) > LISTA_MAXIMA || e) return {};
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
 // Where the desktop keeps the player's pictures: what its own list of folders says, else one of the
 // usual names. Empty when there is none.
 std::string CarpetaDeFotos(const std::string& casa) {
     constexpr std::string_view clave = "XDG_PICTURES_DIR=\"", hogar = "$HOME/";
     std::vector<std::string> candidatas;
-    std::ifstream lista(casa + ".config/user-dirs.dirs");
+    std::istringstream lista(Texto(casa + ".config/user-dirs.dirs"));
     for (std::string linea; std::getline(lista, linea);) {
         if (!linea.starts_with(clave)) continue;
         std::string ruta = linea.substr(clave.size(), linea.rfind('"') - clave.size());

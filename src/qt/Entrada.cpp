@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/Entrada.h"
 
-#include <QFile>
 #include <QImage>
 #include <QMimeData>
 #include <QUrl>
@@ -109,7 +108,10 @@ std::vector<std::string> FicherosDe(const QMimeData& datos) {
     std::vector<std::string> rutas;
     const QList<QUrl> urls = datos.urls();
     for (const QUrl& url : urls)
-        if (url.isLocalFile()) rutas.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+        // The very bytes: a name need be no text.
+        if (url.isLocalFile())
+            rutas.push_back(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1())
+                                .toStdString());
     return rutas;
 }
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/Imagenes.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <algorithm>
@@ -28,8 +31,8 @@ constexpr long long PIXELES_MAXIMOS = 128LL * 1024 * 1024;
 constexpr int MEMORIA_MAXIMA_MB = 520;
 
 constexpr std::array<const char*, 4> FORMATOS{"jpeg", "jpg", "png", "gif"};
-// The largest BMP file, in bytes: what the largest picture takes at four bytes for each pixel.
-constexpr qint64 BMP_MAXIMO = 4 * PIXELES_MAXIMOS + 65536;
+// The largest file, in bytes: what the largest picture takes at four bytes for each pixel.
+constexpr qint64 FICHERO_MAXIMO = 4 * PIXELES_MAXIMOS + 65536;
 
 bool Conocido(const QByteArray& formato) {
     return std::any_of(FORMATOS.begin(), FORMATOS.end(),
@@ -52,9 +55,9 @@ i32 ErrorDe(Lectura l) {
 }
 
 i32 LeePropia(QIODevice& origen, Propia clase, Mapa& destino) {
-    const auto maximo = clase == Propia::Bmp ? BMP_MAXIMO : qint64{METAFICHERO_BYTES};
+    const auto maximo = clase == Propia::Bmp ? FICHERO_MAXIMO : qint64{METAFICHERO_BYTES};
     if (origen.size() > maximo) return ERROR_MEMORIA;
-    const QByteArray c = origen.readAll();
+    const QByteArray c = origen.read(maximo);  // however much it grows meanwhile
     const Bytes b(reinterpret_cast<const u8*>(c.constData()), static_cast<std::size_t>(c.size()));
     if (clase == Propia::Bmp) return ErrorDe(LeeBmp(b, destino));
     Letras letras;
@@ -174,13 +177,25 @@ i32 LeeReducida(QIODevice& origen, i32 ancho, i32 alto, Mapa& destino) {
     return 0;
 }
 
+// A file is told from a pipe or a device once it is open, without waiting for either; by its own
+// bytes, for its name need be no text.
+i32 Abre(const std::string& ruta, QFile& f) {
+    const int fd = open(ruta.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (fd < 0) return errno == EACCES ? ERROR_ACCESO : ERROR_FICHERO;
+    struct stat datos {};
+    const bool esFichero = fstat(fd, &datos) == 0 && S_ISREG(datos.st_mode);
+    if (!esFichero || !f.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        close(fd);
+        return ERROR_FICHERO;
+    }
+    return f.size() > FICHERO_MAXIMO ? ERROR_MEMORIA : 0;
+}
+
 // Opens the file and hands it to a reader.
 template <class F>
 i32 ConFichero(const std::string& ruta, F&& lee) {
-    const QString nombre = QFile::decodeName(ruta.c_str());
-    if (!QFileInfo(nombre).isFile()) return ERROR_FICHERO;
-    QFile f(nombre);
-    if (!f.open(QIODevice::ReadOnly)) return ERROR_ACCESO;
+    QFile f;
+    if (const i32 error = Abre(ruta, f)) return error;
     try {
         return lee(f);
     } catch (const std::bad_alloc&) {

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
+#include <filesystem>
 #include <new>
 #include <utility>
 
@@ -398,6 +399,10 @@ void PlataformaQt::AnclaAyuda() {
 }
 
 std::string PlataformaQt::CarpetaDelPrograma() {
+    // The very bytes, which the library has only as far as they are text.
+    std::error_code e;
+    const std::string ejecutable = std::filesystem::read_symlink("/proc/self/exe", e).string();
+    if (!e) return ejecutable.substr(0, ejecutable.rfind('/') + 1);
     return QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString() + "/";
 }
 

@@ -8,8 +8,11 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <future>
 #include <mutex>
+#include <system_error>
 #include <thread>
+#include <utility>
 
 #include "qt/Senales.h"
 
@@ -22,9 +25,10 @@ constexpr int CANALES = 2;
 constexpr int BYTES_SEGUNDO = FRECUENCIA * CANALES * 2;
 constexpr Uint16 TROZO = 1024;  // frames that the device takes at a time
 constexpr i32 TROZO_MS = TROZO * 1000 / FRECUENCIA + 1;
-constexpr i32 DEMORA_MAXIMA_MS = 300;  // a device this late is taken for dead
-constexpr i32 SILENCIO_MS = 4000;      // of silence before the device is given back
-constexpr i32 REINTENTO_MS = 30000;    // before a device that could not be opened is tried again
+constexpr i32 DEMORA_MAXIMA_MS = 300;   // a device this late is taken for dead
+constexpr i32 CIERRE_MAXIMO_MS = 1500;  // at the end of the program
+constexpr i32 SILENCIO_MS = 4000;       // of silence before the device is given back
+constexpr i32 REINTENTO_MS = 30000;     // before a device that could not be opened is tried again
 
 }  // namespace
 
@@ -33,9 +37,10 @@ struct Sonidos::Estado {
     std::mutex cerrojo;  // guards all fields; `fase` may be read without it
     std::atomic<Fase> fase{Cerrado};
     SDL_AudioDeviceID aparato = 0;
-    bool terminado = false;                            // the owner is gone
-    std::vector<u8> pendiente;                         // to be played when the device is open
-    std::chrono::steady_clock::time_point desde = {};  // of `pendiente`, or of the failure
+    bool terminado = false;                               // the owner is gone
+    std::vector<u8> pendiente;                            // to be played when the device is open
+    std::chrono::steady_clock::time_point desde = {};     // of `pendiente`, or of the failure
+    std::chrono::steady_clock::time_point abriendo = {};  // when its opening was begun
 };
 
 namespace {
@@ -75,6 +80,28 @@ void CierraAparato(SDL_AudioDeviceID a) {
     SDL_AudioQuit();
 }
 
+// Does it beside everything else. False: the system gives no thread for it.
+template <class F>
+bool Aparte(F hace) {
+    try {
+        std::thread(std::move(hace)).detach();
+        return true;
+    } catch (const std::system_error&) {
+        return false;
+    }
+}
+
+// A device that has stopped taking sound may never let itself be closed: it is left behind.
+void CierraAparte(SDL_AudioDeviceID a, i32 milisegundos) {
+    const auto hecho = std::make_shared<std::promise<void>>();
+    const bool va = Aparte([a, hecho] {
+        const std::lock_guard turno(Turno());
+        CierraAparato(a);
+        hecho->set_value();
+    });
+    if (va) hecho->get_future().wait_for(std::chrono::milliseconds(milisegundos));
+}
+
 }  // namespace
 
 Sonidos::Sonidos() : estado_(std::make_shared<Estado>()) {
@@ -92,8 +119,7 @@ Sonidos::~Sonidos() {
         if (estado_->fase != Estado::Abierto) return;
         a = estado_->aparato;
     }
-    const std::lock_guard turno(Turno());
-    CierraAparato(a);
+    CierraAparte(a, CIERRE_MAXIMO_MS);
 }
 
 void Sonidos::Despierta() {
@@ -104,8 +130,9 @@ void Sonidos::Despierta() {
                              steady_clock::now() - estado_->desde > milliseconds(REINTENTO_MS);
         if (estado_->fase != Estado::Cerrado && !otraVez) return;
         estado_->fase = Estado::Abriendo;
+        estado_->abriendo = steady_clock::now();
     }
-    std::thread([e = estado_] {
+    const bool va = Aparte([e = estado_] {
         const std::lock_guard turno(Turno());
         const SDL_AudioDeviceID a = AbreAparato();
         const std::lock_guard paso(e->cerrojo);
@@ -120,7 +147,11 @@ void Sonidos::Despierta() {
         e->pendiente.clear();
         e->aparato = a;
         e->fase = Estado::Abierto;
-    }).detach();
+    });
+    if (va) return;
+    const std::lock_guard paso(estado_->cerrojo);
+    estado_->desde = steady_clock::now();
+    estado_->fase = Estado::SinAparato;
 }
 
 void Sonidos::Descansa() {
@@ -131,10 +162,7 @@ void Sonidos::Descansa() {
         std::swap(a, estado_->aparato);
         estado_->fase = Estado::Cerrado;
     }
-    std::thread([a] {
-        const std::lock_guard turno(Turno());
-        CierraAparato(a);
-    }).detach();
+    CierraAparte(a, 0);
 }
 
 bool Sonidos::Dispuesto(i32 milisegundos) const {
@@ -183,8 +211,10 @@ void Sonidos::Suena(i16 id, bool asincrono) {
     silencio_.start(SILENCIO_MS + Duracion(id));
     Despierta();
     SDL_AudioDeviceID a = 0;
+    steady_clock::time_point abriendo;
     {
         const std::lock_guard paso(estado_->cerrojo);
+        abriendo = estado_->abriendo;
         if (estado_->fase == Estado::Abriendo) {
             estado_->pendiente = m;
             estado_->desde = steady_clock::now();
@@ -198,7 +228,10 @@ void Sonidos::Suena(i16 id, bool asincrono) {
     const auto tope = steady_clock::now() + milliseconds(Duracion(id) + DEMORA_MAXIMA_MS);
     // One that waits for the device is waited for with it, but no longer than a device may take.
     if (a == 0) {
-        if (!Dispuesto(DEMORA_MAXIMA_MS) || !HayAparato()) return;
+        const auto falta = milliseconds(DEMORA_MAXIMA_MS) -
+                           duration_cast<milliseconds>(steady_clock::now() - abriendo);
+        const auto queda = static_cast<i32>(std::max<long long>(0, falta.count()));
+        if (!Dispuesto(queda) || !HayAparato()) return;
         a = estado_->aparato;
     }
     const auto sigue = [&] { return steady_clock::now() < tope && !Senales::Pendiente(); };

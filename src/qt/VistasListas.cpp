@@ -10,13 +10,15 @@
 
 #include "platform/Ficheros.h"
 #include "qt/Estilo.h"
+#include "records/Texto.h"
 
 namespace tessario {
 
 namespace {
 
+// A row may be the name of a file, which need be no UTF-8.
 QString Qs(const std::string& t) {
-    return QString::fromStdString(t);
+    return QString::fromStdString(TextoDeRuta(t));
 }
 
 constexpr int LADO_MARCA = 13;
@@ -278,7 +280,7 @@ VistaUnidades::VistaUnidades(ListaUnidades& c, MarcoDeVistas& v, QWidget* padre)
     connect(caja_, &QComboBox::activated, this, [this](int fila) {
         QTimer::singleShot(0, this, [this, fila] {
             if (!Viva() || fila >= caja_->count()) return;
-            c_.Drive = caja_->itemData(fila).toString().toStdString();
+            c_.Drive = caja_->itemData(fila).toByteArray().toStdString();
             if (c_.Change) anfitrion().Entrega(c_.Change);
         });
     });
@@ -288,14 +290,15 @@ void VistaUnidades::Llena() {
     const QSignalBlocker sin(caja_);
     caja_->clear();
     const auto pon = [this](const std::string& nombre, const std::string& ruta) {
-        if (caja_->findData(Qs(ruta)) >= 0) return;
-        caja_->addItem(Qs(nombre), Qs(ruta));
+        const QByteArray bytes = QByteArray::fromStdString(ruta);
+        if (caja_->findData(bytes) >= 0) return;
+        caja_->addItem(Qs(nombre), bytes);
         caja_->setItemData(caja_->count() - 1, Qs(ruta), Qt::ToolTipRole);
     };
     for (const auto& [nombre, ruta] : c_.Propias) pon(nombre, ruta);
     for (const Unidad& u : Unidades()) pon(u.Nombre, u.Ruta);
     if (!c_.Drive.empty()) pon(c_.Drive, c_.Drive);
-    caja_->setCurrentIndex(caja_->findData(Qs(c_.Drive)));
+    caja_->setCurrentIndex(caja_->findData(QByteArray::fromStdString(c_.Drive)));
 }
 
 i32 VistaUnidades::SincronizaPropio() {

@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -21,6 +20,11 @@ namespace tessario {
 namespace {
 
 constexpr mode_t PERMISOS_NUEVO = 0666;  // before the process's mask
+
+constexpr int ENLACES_MAXIMOS = 40;  // one after the other, as the system has it
+// Waiting for another program's line: two seconds.
+constexpr int INTENTOS_RESERVA = 200;
+constexpr useconds_t DESCANSO_RESERVA_US = 10'000;
 
 // A file under way to another's place: this and six letters or digits of the system's choice.
 constexpr std::string_view TEMPORAL = ".tsr", AL_AZAR = "XXXXXX";
@@ -169,13 +173,27 @@ std::string LineaEntera(int fd, off_t largo, std::string_view linea) {
     return bytes.append(linea).append("\r\n");
 }
 
-// Where a symbolic link leads, so that the link stays and its file is replaced.
-std::string SinEnlaces(const std::string& ruta) {
-    char* real = realpath(ruta.c_str(), nullptr);
-    if (!real) return ruta;
-    std::string s(real);
-    std::free(real);
-    return s;
+// Where a symbolic link leads, so that the link stays and its file is replaced, or made anew. A
+// link that leads in a circle is left to whoever opens it.
+std::string SinEnlaces(std::string ruta) {
+    std::error_code e;
+    for (int i = 0; i < ENLACES_MAXIMOS; ++i) {
+        const std::filesystem::path destino = std::filesystem::read_symlink(ruta, e);
+        if (e) return ruta;
+        ruta = (std::filesystem::path(CarpetaDe(ruta)) / destino).string();
+    }
+    return ruta;
+}
+
+// The file for ourselves alone, until it is closed. Whoever holds it for long hangs, or its file
+// system does: one line more does no harm then, for it is written at once.
+bool Reserva(int fd) {
+    for (int i = 0; i < INTENTOS_RESERVA; ++i) {
+        if (flock(fd, LOCK_EX | LOCK_NB) == 0) return true;
+        if (errno != EWOULDBLOCK && errno != EINTR) return false;
+        usleep(DESCANSO_RESERVA_US);
+    }
+    return false;
 }
 
 }  // namespace
@@ -189,6 +207,7 @@ i16 LeeFichero(const std::string& ruta, std::string& bytes, std::size_t maximo) 
     struct stat datos {};
     if (fstat(d.Numero(), &datos) != 0) return NumeroDe(errno);
     if (!S_ISREG(datos.st_mode)) return ERROR_ACCESO;
+    if (datos.st_size > 0 && static_cast<std::size_t>(datos.st_size) > maximo) return ERROR_MEMORIA;
     if (const i16 error = LeeTodo(d.Numero(), bytes, maximo)) {
         bytes.clear();
         return error;
@@ -217,16 +236,21 @@ i16 AnadeLinea(const std::string& ruta, std::string_view linea) {
                       O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY,
                       PERMISOS_NUEVO));
     if (!d.Vale()) return NumeroDe(errno);
-    while (flock(d.Numero(), LOCK_EX) != 0 && errno == EINTR) {
-    }
     struct stat datos {};
     if (fstat(d.Numero(), &datos) != 0) return NumeroDe(errno);
-    if (!S_ISREG(datos.st_mode)) return EscribeTodo(d.Numero(), linea);
+    if (!S_ISREG(datos.st_mode)) return ERROR_ACCESO;
+    const bool nuestro = Reserva(d.Numero());
+    if (fstat(d.Numero(), &datos) != 0) return NumeroDe(errno);
     i16 error = EscribeTodo(d.Numero(), LineaEntera(d.Numero(), datos.st_size, linea));
     if (error == 0 && fsync(d.Numero()) != 0) error = NumeroDe(errno);
     // Half a line must not stay.
-    if (error != 0 && ftruncate(d.Numero(), datos.st_size) != 0) return NumeroDe(errno);
+    if (error != 0 && nuestro && ftruncate(d.Numero(), datos.st_size) != 0) return NumeroDe(errno);
     return error;
+}
+
+void AseguraCarpetaDe(const std::string& ruta) {
+    std::error_code e;
+    std::filesystem::create_directories(CarpetaDe(ruta), e);
 }
 
 bool SeAbre(const std::string& ruta) {

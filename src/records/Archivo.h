@@ -15,9 +15,11 @@ i16 LeeFichero(const std::string& ruta, std::string& bytes, std::size_t maximo =
 // Replaces the file whole or leaves it as it was. 0, or the error number.
 i16 EscribeFichero(const std::string& ruta, std::string_view bytes);
 // Appends one line, CR LF at its end, whole or not at all; makes the file if it is missing, and
-// ends a last line that had no end. Programs that append at once wait for each other. 0, or the
-// error number.
+// ends a last line that had no end. Programs that append at once wait for each other, but not for
+// one that hangs. What is no file is not written to. 0, or the error number.
 i16 AnadeLinea(const std::string& ruta, std::string_view linea);
+// Makes the folder of a file, and those above it, where they are gone.
+void AseguraCarpetaDe(const std::string& ruta);
 // Is there a file that can be opened for reading?
 bool SeAbre(const std::string& ruta);
 // 0, or the error number.

@@ -41,7 +41,7 @@ std::string FicheroGlobal() {
 void AvisaApertura(i16 numero, const Aviso& ausente, const Aviso& otro, std::string_view fichero) {
     Gbl.ErrorApertura = numero;
     if (numero == ERROR_FICHERO)
-        Avisa(ausente, {fichero});
+        Avisa(ausente, {TextoDeRuta(fichero)});
     else if (numero != ERROR_DESBORDE)
         Avisa(otro, {std::to_string(numero)});
 }
@@ -64,7 +64,8 @@ void LeeLineaGlobal(const std::string& bytes) {
 // gives these numbers.
 void AvisaImagenPerdida(i16 numero) {
     for (const i16 deImagen : {ERROR_FICHERO, ERROR_ACCESO, ERROR_IMAGEN})
-        if (numero == deImagen) Avisa(aviso::IMAGEN_PERDIDA, {NombreDeRuta(Gbl.RutaImagen)});
+        if (numero == deImagen)
+            Avisa(aviso::IMAGEN_PERDIDA, {TextoDeRuta(NombreDeRuta(Gbl.RutaImagen))});
 }
 
 void AjustesPorDefecto() {
@@ -137,6 +138,7 @@ void EscribeConfiguracion() {
     PonColumnas(linea, COL_SONIDO, TextoLogico(Gbl.Sonido));
     PonColumnas(linea, COL_VELOCIDAD, Gbl.VelocidadJuego);
     PonColumnas(linea, COL_VENTANA, TextoLogico(Gbl.VentanaInformacion));
+    AseguraCarpetaDe(FicheroGlobal());
     EscribeFichero(FicheroGlobal(), Entrecomilla(linea) + "\r\n");
 }
 
@@ -173,7 +175,9 @@ void LeeAjustesJuego(const std::string& Fichero) {
 }
 
 void GuardaAjustesJuego() {
-    GuardaPuzzle(FicheroDelJuego());
+    AseguraCarpetaDe(FicheroDelJuego());
+    // A game that its own file does not take is not lost.
+    if (GuardaPuzzle(FicheroDelJuego()) != 0) GuardaCopia(RecordParaCopia());
 }
 
 }  // namespace tessario

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/CopiaSeguridad.h"
 
-#include <filesystem>
 #include <utility>
 
 #include "core/Errores.h"
 #include "core/PuzzGbl.h"
+#include "records/Archivo.h"
 #include "records/EscrituraAparte.h"
 #include "records/Texto.h"
 #include "rules/Juego.h"
@@ -20,12 +20,6 @@ constexpr i32 SEGUNDOS_ENTRE_COPIAS = 300;
 constexpr const char* NOMBRE = "Copia de seguridad.puz";
 
 EscrituraAparte Escritura;
-
-// The archive may have been deleted while the program ran.
-void AseguraArchivo() {
-    std::error_code e;
-    std::filesystem::create_directories(Gbl.CarpetaArchivo, e);
-}
 
 bool MesaEnReposo() {
     return !Gbl.ArrastrandoPieza && !Gbl.SoltandoPieza && !Gbl.GrabadoraEncendida &&
@@ -95,7 +89,7 @@ std::string RecordParaCopia() {
 
 void GuardaCopia(const std::string& record) {
     if (record.empty()) return;
-    AseguraArchivo();
+    AseguraCarpetaDe(FicheroDeCopia());  // it may have been deleted while the program ran
     Escritura.Empieza(FicheroDeCopia(), record);
     Gbl.MovidoSinCopia = false;
     Gbl.SegundosSinCopia = 0;

@@ -38,7 +38,7 @@ bool ApartaPegada(const std::string& nueva, const std::string& propia) {
 
 bool HayApartada(const std::string& propia) {
     std::error_code e;
-    return EsPegada(propia) && fs::exists(LugarApartado(propia), e);
+    return EsPegada(propia) && fs::is_regular_file(LugarApartado(propia), e);
 }
 
 void DevuelvePegada(const std::string& propia) {

@@ -81,8 +81,9 @@ void VuelveALaFoto() {
 
 // Settings, pieces and picture of the puzzle as they were at the opening.
 void Deshace() {
-    CargaAjustes(FicheroAlEntrar());
-    if (!Gbl.CargaCorrecta) VuelveALaFoto();
+    // One that could not be written may be another puzzle's, of an earlier run.
+    if (Gbl.AlEntrar.EnDisco) CargaAjustes(FicheroAlEntrar());
+    if (!Gbl.AlEntrar.EnDisco || !Gbl.CargaCorrecta) VuelveALaFoto();
     static_cast<DatosPiezas&>(Gbl) = Gbl.AlEntrar;
     Gbl.AnchoImagen = Gbl.AlEntrar.AnchoImagen;
     Gbl.AltoImagen = Gbl.AlEntrar.AltoImagen;
@@ -273,7 +274,7 @@ void Form_Load() {
     SituaPersonal();
     CargaTeselas();
     TomaFoto();
-    Sigue([] { GuardaPuzzle(FicheroAlEntrar()); });
+    Sigue([] { Gbl.AlEntrar.EnDisco = GuardaPuzzle(FicheroAlEntrar()) == 0; });
     Gbl.Cargando = true;
     Sigue([] { LlenaPaneles(); });
     Gbl.Cargando = false;

@@ -70,11 +70,14 @@ void VeACarpeta(const std::string& carpeta) {
     std::filesystem::current_path(carpeta, e);
 }
 
-// Can a file be made there? It is gone again afterwards.
+// Can a file be made there? It is gone again afterwards. What is no file has that name by somebody
+// else's hand, and stays.
 bool SePuedeEscribir(const std::string& carpeta) {
     const std::string sonda = carpeta + FICHERO_SONDA;
-    if (!std::ofstream(sonda)) return false;
     std::error_code e;
+    const auto hay = std::filesystem::symlink_status(sonda, e);
+    if (std::filesystem::exists(hay) && !std::filesystem::is_regular_file(hay)) return false;
+    if (!std::ofstream(sonda)) return false;
     std::filesystem::remove(sonda, e);
     return true;
 }

@@ -157,7 +157,8 @@ void Pic_BotCargar_Click() {
 void GuardaElPuzzle(const std::string& ruta) {
     const std::string antes = Gbl.NombrePuzzle;
     if (!JuegoEnCurso().GuardaModelos)
-        Gbl.NombrePuzzle = Trim(Left(Gbl.NombreActual, LARGO_NOMBRE_PUZZLE));
+        Gbl.NombrePuzzle = Trim(Left(TextoDeRuta(Gbl.NombreActual), LARGO_NOMBRE_PUZZLE));
+    if (!ruta.empty()) AseguraCarpetaDe(ruta);  // it may be gone since the start
     if (ruta.empty() || GuardaPuzzle(ruta) != 0) Gbl.NombrePuzzle = antes;
 }
 
@@ -174,6 +175,7 @@ void ArchivaPuzzle() {
 
 void ArchivaModelo() {
     if (!JuegoEnCurso().GuardaModelos) return;
+    AseguraCarpetaDe(FicheroModelos());
     Llama([] { GuardaModelo(Gbl.NombreActual); });
     Sistema().Cierra(Cargua);
 }

@@ -9,6 +9,7 @@
 
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
+#include "records/Archivo.h"
 #include "session/CopiaSeguridad.h"
 #include "start/Juegos.h"
 
@@ -181,9 +182,9 @@ i32 PlataformaPrueba::CargaAjena(const std::string& ruta, Mapa& destino) {
 
 i32 PlataformaPrueba::GuardaImagen(const std::string& ruta, const Mapa& imagen) {
     if (guardaFalla) return 75;
+    if (const i16 error = EscribeFichero(ruta, "BM")) return error;
     guardadas[ruta] = imagen;
     imagenes[ruta] = imagen;
-    std::ofstream(ruta, std::ios::binary) << "BM";
     return 0;
 }
 

@@ -32,7 +32,8 @@ public:
     std::function<void()> alDejarPasar;         // called in each DejaPasarEventos
     std::function<void()> alPresentar;          // called in each Presenta
     double horaDelDia = 43200.25;               // seconds since midnight
-    std::deque<bool> respuestas;                // answers of the next messages; then no
+    std::string fecha = "20/11/2026", hora = "13:54:00";
+    std::deque<bool> respuestas;  // answers of the next messages; then no
     std::map<std::string, std::function<void(Ventana&)>> ventanas;  // by name: what the player does
     std::map<std::string, Mapa> imagenes;                           // pictures by path
     std::map<std::string, Mapa> ajenas;  // pictures of foreign kinds by path, beside `imagenes`
@@ -78,8 +79,8 @@ public:
     i32 CambiaModoPantalla(i32 a, i32 b) override;
     u32 timeGetTime() override { return static_cast<u32>(static_cast<unsigned long long>(reloj)); }
     double Timer() override { return horaDelDia; }
-    std::string Fecha() override { return "20/11/2026"; }
-    std::string Hora() override { return "13:54:00"; }
+    std::string Fecha() override { return fecha; }
+    std::string Hora() override { return hora; }
     void Duerme(double ms) override;
     void DejaPasarEventos() override;
     void Presenta() override {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The reader of the history file, and appending to it from two programs at once.
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <clocale>
 #include <csignal>
@@ -193,6 +196,17 @@ TEST_F(LecturaHistorial, TwoProgramsThatAppendAtOnceLoseNothing) {
     int deAna = 0;
     for (i32 i = 0; i <= Gbl.UltimoHistorico; ++i) deAna += R(i).Jugador == "Ana      ";
     EXPECT_EQ(deAna, CADA_UNO);
+}
+
+TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForEverIsNotWaitedFor) {
+    const std::string vieja = "\"f\",\"h\",21\r\n", ruta = Crea("TESSA33.his", vieja);
+    const int otro = ::open(ruta.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(otro, LOCK_EX), 0);
+    EXPECT_EQ(EntraEnHistorico(), 0);
+    ::close(otro);
+    const std::string nueva = Contenido("TESSA33.his");
+    EXPECT_TRUE(nueva.starts_with(vieja));
+    EXPECT_EQ(std::count(nueva.begin(), nueva.end(), '\n'), 2);
 }
 
 TEST_F(LecturaHistorial, FileThatMayNotBeWrittenStaysAsItWas) {

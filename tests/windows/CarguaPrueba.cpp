@@ -391,12 +391,14 @@ TEST_F(VentanaCargua, SaveThatFailsLosesNothing) {
     Deslizantes(3);
     Gbl.NombrePuzzle = "antes";
     fs::remove_all(Gbl.CarpetaArchivo);
+    Crea("Archivo", "a file in the folder's place");
     Abre(2, [&] {
         Escribe("x");
         Aprieta(Pic_BotGuardar);
         EXPECT_FALSE(Cargua.Abierta);
     });
     EXPECT_EQ(Gbl.NombrePuzzle, "antes");
+    fs::remove(P().carpeta + "Archivo");
     // A folder stands where the file should: it stays, and so does everything else.
     Crea("Archivo/y.puz/dentro", "1");
     Abre(2, [&] {
