@@ -16,7 +16,6 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QMimeData>
-#include <QTemporaryDir>
 #include <QUrl>
 #include <atomic>
 #include <clocale>
@@ -35,10 +34,12 @@ namespace fs = std::filesystem;
 
 class Entorno : public PruebaQt {
 protected:
-    ~Entorno() override { reloj::Repon(); }
-    std::string Ruta(const std::string& nombre) {
-        return carpeta.path().toStdString() + "/" + nombre;
+    Entorno() { EXPECT_NE(mkdtemp(carpeta_.data()), nullptr); }
+    ~Entorno() override {
+        reloj::Repon();
+        fs::remove_all(carpeta_);
     }
+    std::string Ruta(const std::string& nombre) { return carpeta_ + "/" + nombre; }
     std::string Crea(const std::string& nombre, const std::string& bytes) {
         std::ofstream(Ruta(nombre), std::ios::binary) << bytes;
         return Ruta(nombre);
@@ -64,7 +65,10 @@ protected:
         EXPECT_EQ(m.Pixeles, std::vector<Pixel>(4, 0x123456)) << ruta;
         EXPECT_EQ(w, -1) << ruta;
     }
-    QTemporaryDir carpeta;
+
+private:
+    // Not the library's, which takes no name away that is no text.
+    std::string carpeta_ = (fs::temp_directory_path() / "tessario-entorno-XXXXXX").string();
 };
 
 // ---------------------------------------------------------------- in the place of a picture
@@ -110,6 +114,7 @@ TEST_F(Entorno, APictureReplacedWhileItIsReadIsOneOrTheOtherOrNone) {
         int w, h;
         QRgb color;
     } DOS[] = {{640, 480, 0xFFC02040}, {320, 700, 0xFF2040C0}};
+    constexpr int VECES = 150, LEIDAS = 20, VECES_MAXIMAS = 200000;
     const std::string ruta = Ruta("foto");
     for (const char* formato : {"BMP", "PNG", "JPG"}) {
         std::string bytes[2];
@@ -136,7 +141,7 @@ TEST_F(Entorno, APictureReplacedWhileItIsReadIsOneOrTheOtherOrNone) {
             }
         });
         int leidas = 0;
-        for (int i = 0; i < 150; ++i) {
+        for (int i = 0; i < VECES || (leidas < LEIDAS && i < VECES_MAXIMAS); ++i) {
             Mapa m, muestra;
             const i32 error = P().CargaImagen(ruta, m);
             EXPECT_TRUE(error == 0 || error == 53 || error == 481) << error;
@@ -148,14 +153,14 @@ TEST_F(Entorno, APictureReplacedWhileItIsReadIsOneOrTheOtherOrNone) {
                 for (const Pixel p : m.Pixeles) ASSERT_EQ(p >> 24U, 0U);
             }
             i32 w = 0, h = 0;
-            if (P().MideImagen(ruta, w, h) == 0)
-                EXPECT_TRUE((w == 640 && h == 480) || (w == 320 && h == 700));
-            if (P().CargaMuestra(ruta, 40, 30, muestra) == 0)
-                EXPECT_EQ(muestra.Pixeles.size(), 1200U);
+            const bool medida = P().MideImagen(ruta, w, h) == 0;
+            EXPECT_TRUE(!medida || (w == 640 && h == 480) || (w == 320 && h == 700));
+            const bool reducida = P().CargaMuestra(ruta, 40, 30, muestra) == 0;
+            EXPECT_EQ(muestra.Pixeles.size(), reducida ? 1200U : 0U);
         }
         fin = true;
         otro.join();
-        EXPECT_GT(leidas, 0) << formato;
+        EXPECT_GE(leidas, LEIDAS) << formato;
     }
 }
 
@@ -329,13 +334,13 @@ TEST_F(SonidoColgado, ADeviceThatStopsTakingSoundHoldsNeitherTheGameNorItsEnd) {
     ASSERT_GE(oyente, 0);
     constexpr u32 TOPE_MS = 40000;
     const u32 antes = P().timeGetTime();
-    {
+    for (const bool descansa : {false, true}) {
         Sonidos s;
         s.Despierta();
-        ASSERT_TRUE(s.Dispuesto(20000));
-        ASSERT_TRUE(s.HayAparato());
-        for (int i = 0; i < 8; ++i) s.Suena(14, false);
-        s.Suena(14, true);
+        if (!s.Dispuesto(20000) || !s.HayAparato()) break;
+        s.Suena(14, true);  // more than a pipe holds
+        s.Suena(9, false);
+        if (!descansa) continue;
         s.Descansa();
         s.Suena(9, false);
     }
