@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/Cargua.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -39,13 +40,17 @@ constexpr i16 INTRO = 13;
 
 // Window pixels. The texts were set for lines of this width.
 namespace lugar {
-constexpr i32 Ancho = 405, Alto = 392;
+constexpr i32 Ancho = 405;
 constexpr i32 Izq = 20, AnchoTexto = 365;
 constexpr i32 TituloArr = 12, TituloAlto = 19;
 constexpr i32 MensajeArr = 38, MensajeAlto = 3 * 16 + 3;
-constexpr i32 ListaArr = 98, ListaAlto = 178;
-constexpr i32 NombreArr = 286, NombreAlto = 26;
+constexpr i32 ListaArr = 98, BordesLista = 2;
+constexpr i32 BajoLista = 10, NombreAlto = 26, BajoNombre = 15;
+constexpr i32 BajoVentana = 100;  // of the screen's height, left free above and below together
 }  // namespace lugar
+
+// The list grows with what it holds, as far as the screen goes along.
+constexpr i32 FILAS_MIN = 12, FILAS_MAX = 24;
 
 // What the window says and shows in each of its uses.
 struct Uso {
@@ -208,7 +213,21 @@ void Tex_Nombre_KeyPress(i16 caracter) {
 
 // ---------------------------------------------------------------- the window
 
+// Whole rows: none is cut at the lower edge.
+i32 AltoLista() {
+    const i32 fila = Sistema().AltoTexto(Lis_CarGua.Font);
+    constexpr i32 resto = lugar::ListaArr + lugar::BordesLista + lugar::BajoLista +
+                          lugar::NombreAlto + lugar::BajoNombre + LADO_BOTON + PIE_VENTANA;
+    const i32 caben = (Gbl.AltoPantalla - lugar::BajoVentana - resto) / fila;
+    const i32 filas = std::min({Lis_CarGua.ListCount(), caben, FILAS_MAX});
+    return std::max(filas, FILAS_MIN) * fila + lugar::BordesLista;
+}
+
 void ColocaControles() {
+    const i32 alto = AltoLista();
+    const i32 nombre = lugar::ListaArr + alto + lugar::BajoLista;
+    PreparaVentana(Cargua, lugar::Ancho,
+                   nombre + lugar::NombreAlto + lugar::BajoNombre + LADO_BOTON + PIE_VENTANA);
     const Uso& uso = UsoActual();
     Tex_TituloCargua.Caption = uso.titulo;
     Cargua.Caption = Trim(uso.titulo);
@@ -218,8 +237,8 @@ void ColocaControles() {
     Tex_MensajeCargua.Mueve(lugar::Izq, lugar::MensajeArr);
     Tex_MensajeCargua.Tamano(lugar::AnchoTexto, lugar::MensajeAlto);
     Lis_CarGua.Mueve(lugar::Izq, lugar::ListaArr);
-    Lis_CarGua.Tamano(lugar::AnchoTexto, lugar::ListaAlto);
-    Tex_NombreCargua.Mueve(lugar::Izq, lugar::NombreArr);
+    Lis_CarGua.Tamano(lugar::AnchoTexto, alto);
+    Tex_NombreCargua.Mueve(lugar::Izq, nombre);
     Tex_NombreCargua.Tamano(lugar::AnchoTexto, lugar::NombreAlto);
     HundeEn(Cargua, Lis_CarGua);
     HundeEn(Cargua, Tex_NombreCargua);
@@ -233,16 +252,15 @@ void ColocaControles() {
 }
 
 void Cargua_Load() {
-    PreparaVentana(Cargua, lugar::Ancho, lugar::Alto);
+    if (Gbl.ModoCargua == CARGUA_MODELO)
+        CargaListaModelos(Lis_CarGua);
+    else
+        RellenaListaPuzzles();
     ColocaControles();
     Gbl.AvisoExiste = false;
     Gbl.NombreActual.clear();
     Tex_NombreCargua.Text.clear();
     ActivaBoton(false);
-    if (Gbl.ModoCargua == CARGUA_MODELO)
-        CargaListaModelos(Lis_CarGua);
-    else
-        RellenaListaPuzzles();
     Sistema().PonFoco(Tex_NombreCargua);
 }
 

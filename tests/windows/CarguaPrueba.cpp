@@ -527,6 +527,29 @@ TEST_F(VentanaCargua, ControlsLieWithinTheWindowAndHaveNames) {
     });
 }
 
+TEST_F(VentanaCargua, TheListShowsWholeRowsAndMoreOfThemOnALargerScreen) {
+    Deslizantes(3);
+    constexpr i32 fila = 15, bordes = 2;
+    const struct {
+        i32 alto, nombres, filas;
+    } casos[] = {{600, 0, 12},  {600, 1, 12},   {600, 12, 12},  {600, 13, 13}, {600, 30, 18},
+                 {768, 30, 24}, {1024, 18, 18}, {1024, 30, 24}, {2160, 30, 24}};
+    for (const auto& c : casos) {
+        fs::remove_all(Gbl.CarpetaArchivo);
+        fs::create_directories(Gbl.CarpetaArchivo);
+        for (i32 n = 1; n <= c.nombres; ++n) Crea("Archivo/p" + std::to_string(n) + ".puz", "x");
+        Gbl.AltoPantalla = static_cast<i16>(c.alto);
+        Abre(1, [&] {
+            EXPECT_EQ(Lis_CarGua.Height(), c.filas * fila + bordes) << c.alto << " " << c.nombres;
+            EXPECT_GE(Tex_NombreCargua.Top, Lis_CarGua.Top + Lis_CarGua.Height());
+            EXPECT_GE(Pic_BotCargar.Top, Tex_NombreCargua.Top + Tex_NombreCargua.Height());
+            EXPECT_LE(Pic_BotCargar.Top + Pic_BotCargar.Height(), Cargua.Height());
+            EXPECT_EQ(Cargua.Top, (c.alto - Cargua.Height()) / 2);
+            EXPECT_GE(Cargua.Top, 50);
+        });
+    }
+}
+
 // ---------------------------------------------------------------- from the options panel
 
 TEST_F(VentanaCargua, OptionStopsTheClockAndBringsItBack) {
