@@ -15,6 +15,15 @@ namespace tessario {
 
 using Puntos = std::vector<PuntoD>;
 using Cadena = std::vector<u8>;
+using Campos = std::vector<long long>;  // of a record
+
+constexpr long long ROJO = 0x0000FF;  // as files have it: red lowest
+constexpr Pixel TINTA_ROJA = 0xFF0000;
+
+inline Campos Une(Campos a, const Campos& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
 
 inline void Pon(Cadena& b, std::size_t i, long long v, std::size_t n) {
     if (b.size() < i + n) b.resize(i + n);
@@ -192,6 +201,18 @@ private:
     }
 };
 
+// Every field of a letter set apart from what it is without a record.
+inline void EsLaLetraEntera(const FuenteMeta& f) {
+    EXPECT_EQ(f.Alto, -20);
+    EXPECT_EQ(f.Ancho, 7);
+    EXPECT_EQ(f.Giro, 900);
+    EXPECT_EQ(f.Peso, 700);
+    EXPECT_TRUE(f.Cursiva && f.Subrayada && f.Tachada);
+    EXPECT_EQ(f.Juego, 0xA1);
+    EXPECT_EQ(f.Paso, 0x31);
+    EXPECT_EQ(f.Cara, u"BCA");
+}
+
 // Letters that are boxes half as broad as high.
 class LetrasCajas : public LetrasMeta {
 public:
@@ -208,6 +229,13 @@ private:
 
 class Paseo : public testing::Test {
 protected:
+    // The only thing that is drawn.
+    const PintorAnotador::Nota& Unica(const Cadena& b) {
+        EXPECT_TRUE(Bien(b));
+        EXPECT_EQ(p.notas.size(), 1U);
+        if (p.notas.empty()) p.notas.emplace_back();
+        return p.notas.back();
+    }
     Lectura Lee(const Cadena& b) {
         p = {};
         return PintaMetafichero(b, p);

@@ -10,30 +10,16 @@ namespace tessario {
 
 namespace {
 
-using Campos = std::vector<long long>;
-
 long long F(float v) {
     return std::bit_cast<u32>(v);
 }
 
-Campos Une(Campos a, const Campos& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
-
-constexpr long long GEOMETRICA = 0x10000, ROJO = 0x0000FF;  // as files have it: red lowest
-constexpr Pixel TINTA_ROJA = 0xFF0000;
+constexpr long long GEOMETRICA = 0x10000;
 constexpr i32 ANCHO = 96, ALTO = 48;  // of the picture
 constexpr long long PLUMA_NULA = 0x80000008, BROCHA_NULA = 0x80000005;
 
 class RegistrosEmf : public Paseo {
 protected:
-    const PintorAnotador::Nota& Unica(const Cadena& b) {
-        EXPECT_TRUE(Bien(b));
-        EXPECT_EQ(p.notas.size(), 1U);
-        if (p.notas.empty()) p.notas.emplace_back();
-        return p.notas.back();
-    }
     // A line drawn by the pen of one record.
     PlumaMeta Pluma(u32 tipo, const Campos& campos) {
         return Unica(Emf().R(tipo, campos).R(37, {1}).R(54, {20, 0}).Fin()).pluma;
@@ -162,15 +148,7 @@ TEST_F(RegistrosEmf, Fonts) {
     Emf e;
     e.R(82, {1, -20, 7, 900, 0, 700, 0xA1010101, 0x31000000, 0x00430042, 0x00000041});
     e.R(37, {1}).R(84, {0, 0, 0, 0, 1, 0, 0, 5, 6, 1, 76, 0, 0, 0, 0, 0, 0, 'x'});
-    const FuenteMeta f = Unica(e.Fin()).texto.Fuente;
-    EXPECT_EQ(f.Alto, -20);
-    EXPECT_EQ(f.Ancho, 7);
-    EXPECT_EQ(f.Giro, 900);
-    EXPECT_EQ(f.Peso, 700);
-    EXPECT_TRUE(f.Cursiva && f.Subrayada && f.Tachada);
-    EXPECT_EQ(f.Juego, 0xA1);
-    EXPECT_EQ(f.Paso, 0x31);
-    EXPECT_EQ(f.Cara, u"BCA");
+    EsLaLetraEntera(Unica(e.Fin()).texto.Fuente);
     for (int k = 0; k < 3; ++k) {
         Emf g;
         g.R(82, {1, 9, 0, 0, 0, 400, 1LL << (8 * k), 0, 0x00430042, 0}).R(37, {1});

@@ -9,24 +9,8 @@ namespace tessario {
 
 namespace {
 
-using Campos = std::vector<long long>;
-
-Campos Une(Campos a, const Campos& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
-}
-
-constexpr long long ROJO = 0xFF;
-constexpr Pixel TINTA_ROJA = 0xFF0000;
-
 class RegistrosWmf : public Paseo {
 protected:
-    const PintorAnotador::Nota& Unica(const Cadena& b) {
-        EXPECT_TRUE(Bien(b));
-        EXPECT_EQ(p.notas.size(), 1U);
-        if (p.notas.empty()) p.notas.emplace_back();
-        return p.notas.back();
-    }
     // Where the pixel (10, 20) of the file comes.
     PuntoD Donde(Wmf& w) { return Unica(w.R(0x041F, {0, 0, 20, 10}).Fin()).puntos.at(0); }
 };
@@ -154,15 +138,7 @@ TEST_F(RegistrosWmf, Fonts) {
     w.R(0x02FB, {-20, 7, 900, 0, 700, 0x0101, 0xA101, 0, 0x3100, 0x4342, 0x0041, 0x5858});
     w.R(0x012D, {0}).R(0x0521, {1, 'x', 6, 5});
     const auto& n = Unica(w.Fin());
-    const FuenteMeta& f = n.texto.Fuente;
-    EXPECT_EQ(f.Alto, -20);
-    EXPECT_EQ(f.Ancho, 7);
-    EXPECT_EQ(f.Giro, 900);
-    EXPECT_EQ(f.Peso, 700);
-    EXPECT_TRUE(f.Cursiva && f.Subrayada && f.Tachada);
-    EXPECT_EQ(f.Juego, 0xA1);
-    EXPECT_EQ(f.Paso, 0x31);
-    EXPECT_EQ(f.Cara, u"BCA");
+    EsLaLetraEntera(n.texto.Fuente);
     EXPECT_EQ(n.puntos, (Puntos{{5, 6}}));
 }
 

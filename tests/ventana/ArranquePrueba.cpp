@@ -45,6 +45,15 @@ void PonImagenesMalas(Programa& programa) {
 constexpr const char* PERSONAL = "Personalizar";
 constexpr int SALIR_X = 612, SALIR_Y = 511, TANGRAM_X = 500, TANGRAM_Y = 44;
 
+// The Tangram, its pieces so many pixels apart along the upper edge.
+PartidaGuardada TangramEnFila(int paso) {
+    PartidaGuardada p;
+    p.juego = 23;
+    p.piezas.resize(7);
+    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = paso * i;
+    return p;
+}
+
 TEST(ArranqueVentana, WithoutAUsablePictureTheSettingsStayOpenAndAnotherGameCanBeChosen) {
     Escritorio e(800, 600);
     Programa programa(e);
@@ -164,10 +173,7 @@ TEST(ArranqueVentana, ASmallScreenIsAskedAbout) {
     Escritorio e(640, 480);
     Programa programa(e);
     programa.EscribeGlobal(23, 100);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.piezas.resize(7);
-    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 40 * i;
+    const PartidaGuardada p = TangramEnFila(40);
     programa.EscribePartida(p);
     programa.Lanzalo();
     ASSERT_TRUE(e.Responde(RESOLUCION, false));
@@ -184,10 +190,7 @@ TEST(ArranqueVentana, ASmallScreenIsAskedAbout) {
 TEST(ArranqueVentana, WithoutASoundDeviceThePlayGoesOn) {
     Escritorio e(800, 600);
     Programa programa(e);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.piezas.resize(7);
-    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 80 * i;
+    const PartidaGuardada p = TangramEnFila(80);
     for (const char* driver : {"", "ninguno"}) {
         programa.EscribeGlobal(23, 100, true);
         programa.EscribePartida(p);
@@ -200,19 +203,11 @@ TEST(ArranqueVentana, WithoutASoundDeviceThePlayGoesOn) {
     }
 }
 
-std::string Bytes(const std::string& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), {}};
-}
-
 TEST(ArranqueVentana, AFolderThatCannotBeWrittenIsWorkedOnInACopy) {
     Escritorio e(800, 600);
     Programa programa(e);
     programa.EscribeGlobal(23, 100);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.piezas.resize(7);
-    for (int i = 0; i < 7; ++i) p.piezas[static_cast<std::size_t>(i)].x = 80 * i;
+    const PartidaGuardada p = TangramEnFila(80);
     programa.EscribePartida(p);
     const std::string original = Bytes(programa.Carpeta() + "TsR2333.ini");
     const fs::path datos = fs::path(programa.Carpeta()).parent_path().string() + "-datos";

@@ -111,20 +111,13 @@ struct Juego {
 
 // Pieces 1 and 2 at home; 3 to 7 lie about; 8 covers 9.
 PartidaGuardada Moviles() {
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 480;
-    p.altoImagen = 360;
-    p.borde = false;
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.archivable = true;
     p.segundos = 100;
-    for (int i = 0; i < 9; ++i) {
-        PiezaGuardada q;
-        q.xBien = i % 3 * 160;
-        q.yBien = i / 3 * 120;
-        q.x = i < 2 ? q.xBien : i < 4 ? 520 + (i - 2) * 180 : 20 + (i - 4) % 4 * 180;
-        q.y = i < 2 ? q.yBien : i < 4 ? 200 : 400 + (i - 4) / 4 * 150;
-        p.piezas.push_back(q);
+    for (int i = 2; i < 9; ++i) {
+        PiezaGuardada& q = p.piezas[static_cast<std::size_t>(i)];
+        q.x = i < 4 ? 520 + (i - 2) * 180 : 20 + (i - 4) % 4 * 180;
+        q.y = i < 4 ? 200 : 400 + (i - 4) / 4 * 150;
     }
     p.piezas[8].x = p.piezas[7].x;
     p.piezas[8].y = p.piezas[7].y;

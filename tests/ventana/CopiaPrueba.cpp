@@ -13,17 +13,7 @@ constexpr const char* COPIA = "Archivo/Copia de seguridad.puz";
 
 // All at home but two, which lie apart on the free table.
 PartidaGuardada DosSueltas() {
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 480;
-    p.altoImagen = 360;
-    p.borde = false;
-    for (int celda = 0; celda < 9; ++celda) {
-        PiezaGuardada q;
-        q.x = q.xBien = celda % 3 * CELDA_ANCHO;
-        q.y = q.yBien = celda / 3 * CELDA_ALTO;
-        p.piezas.push_back(q);
-    }
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.piezas[0].x = 520;
     p.piezas[0].y = 500;
     p.piezas[1].x = 800;
@@ -34,9 +24,7 @@ PartidaGuardada DosSueltas() {
 TEST(CopiaVentana, ControlZTakesTheLastMoveBackAndASignalLeavesTheCopy) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 100);
-    programa.EscribePartida(DosSueltas());
+    programa.Escribe(DosSueltas());
     ASSERT_TRUE(programa.Arranca());
     const auto muestra = [&](int x, int y, int pieza) {
         return e.Espera([&] {
@@ -70,9 +58,7 @@ class FinVentana : public testing::Test {
 protected:
     // A game with one move in its log. `velocidad`: 0 to 100, or what a damaged file may say.
     void Empieza(int velocidad) {
-        programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-        programa.EscribeGlobal(21, velocidad);
-        programa.EscribePartida(DosSueltas());
+        programa.Escribe(DosSueltas(), velocidad);
         ASSERT_TRUE(programa.Arranca());
         e.Arrastra(600, 560, 600, 760);
     }

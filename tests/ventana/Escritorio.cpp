@@ -405,6 +405,30 @@ int Numero(const std::string& linea, std::size_t columna, std::size_t ancho) {
 
 }  // namespace
 
+std::string Bytes(const std::string& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+}
+
+PartidaGuardada DeCuadros(int ancho, int alto, int lado, int forma) {
+    PartidaGuardada p;
+    p.imagen = "cuadros.bmp";
+    p.anchoImagen = ancho;
+    p.altoImagen = alto;
+    p.porLado = lado;
+    p.forma = forma;
+    p.borde = false;
+    const int porCelda = forma == 3 ? 4 : forma >= 4 ? 2 : 1;
+    for (int i = 0; i < lado * lado * porCelda; ++i) {
+        const int celda = i / porCelda;
+        PiezaGuardada q;
+        q.x = q.xBien = celda % lado * (ancho / lado);
+        q.y = q.yBien = celda / lado * (alto / lado);
+        p.piezas.push_back(q);
+    }
+    return p;
+}
+
 Programa::Programa(Escritorio& e, const std::string& nombre) : e_(e) {
     namespace fs = std::filesystem;
     static int n = 0;
@@ -469,6 +493,12 @@ void Programa::EscribeGlobal(int juego, int velocidad, bool sonido, bool sugeren
     l.Pon(5, Cifras(velocidad, 3));
     l.Pon(8, Logico(sugerencias));
     EscribeBytes("TsR33.ini", l.Entre());
+}
+
+void Programa::Escribe(const PartidaGuardada& p, int velocidad) {
+    if (!p.imagen.empty()) EscribeImagenDeCuadros(p.imagen, p.anchoImagen, p.altoImagen, p.porLado);
+    EscribeGlobal(p.juego, velocidad);
+    EscribePartida(p);
 }
 
 void Programa::EscribePartida(const PartidaGuardada& p) {

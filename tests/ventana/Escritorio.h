@@ -31,6 +31,9 @@ struct Foto {
     void Guarda(const std::string& nombre) const;  // PNG in the build's folder of screens
 };
 
+// All that a file holds.
+std::string Bytes(const std::string& ruta);
+
 // Variables of the environment; an empty value takes the variable out.
 using Entorno = std::vector<std::pair<std::string, std::string>>;
 
@@ -101,6 +104,9 @@ struct PartidaGuardada {
     std::vector<int> orden;             // stacking order, top first; empty: 1, 2, 3 ...
 };
 
+// A jigsaw of flat squares, cut into as many cells a side, all its pieces at home.
+PartidaGuardada DeCuadros(int ancho, int alto, int lado, int forma = 0);
+
 // What is read back from a file that the program wrote.
 struct PartidaLeida {
     std::vector<PiezaGuardada> piezas;
@@ -132,6 +138,8 @@ public:
     // Files that the program will find. velocidad 0 to 100.
     void EscribeGlobal(int juego, int velocidad, bool sonido = false, bool sugerencias = false);
     void EscribePartida(const PartidaGuardada& p);
+    // Both, with the picture of squares if the game has one: a start goes straight to it.
+    void Escribe(const PartidaGuardada& p, int velocidad = 100);
     // A first start with no settings at all, for a program that came without any.
     void QuitaAjustes();
     static void EscribeEn(const std::string& ruta, const std::string& bytes);

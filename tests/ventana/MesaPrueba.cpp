@@ -23,20 +23,12 @@ void Pulsa(Escritorio& e, const Tecla& t) {
 
 // 5 by 5 flat squares of 96x72, spread over the table's right and lower part, turned in part.
 PartidaGuardada CincoPorCinco() {
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 480;
-    p.altoImagen = 360;
-    p.porLado = 5;
-    p.borde = false;
+    PartidaGuardada p = DeCuadros(480, 360, 5);
     for (int i = 0; i < 25; ++i) {
-        PiezaGuardada q;
-        q.xBien = i % 5 * 96;
-        q.yBien = i / 5 * 72;
+        PiezaGuardada& q = p.piezas[static_cast<std::size_t>(i)];
         q.x = i < 10 ? 500 + i % 3 * 110 : 10 + (i - 10) % 8 * 105;
         q.y = i < 10 ? 10 + i / 3 * 100 : 420 + (i - 10) / 8 * 120;
         q.giro = i % 4;
-        p.piezas.push_back(q);
     }
     return p;
 }
@@ -44,10 +36,8 @@ PartidaGuardada CincoPorCinco() {
 TEST(MesaVentana, TwentyFivePiecesArrangedSolvedAndTakenBackToTheStart) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 5);
-    programa.EscribeGlobal(21, 100);
     const PartidaGuardada p = CincoPorCinco();
-    programa.EscribePartida(p);
+    programa.Escribe(p);
     ASSERT_TRUE(programa.Arranca());
     const Foto inicio = e.Mira();
     inicio.Guarda("mesa-25-inicio");
@@ -156,23 +146,10 @@ TEST(MesaVentana, RecorderWalksATangramBackAndForthStepByStep) {
 TEST(MesaVentana, APieceIsCarriedBeyondTheScreenByEdgeScrolling) {
     Escritorio e(800, 600);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("grande.bmp", 1024, 768, 4);
-    programa.EscribeGlobal(21, 100);
-    PartidaGuardada p;
-    p.imagen = "grande.bmp";
-    p.anchoImagen = 1024;
-    p.altoImagen = 768;
-    p.porLado = 4;
-    p.borde = false;
-    for (int i = 0; i < 16; ++i) {
-        PiezaGuardada q;
-        q.x = q.xBien = i % 4 * 256;
-        q.y = q.yBien = i / 4 * 192;
-        p.piezas.push_back(q);
-    }
+    PartidaGuardada p = DeCuadros(1024, 768, 4);
     p.piezas[0].x = 100;
     p.piezas[0].y = 150;
-    programa.EscribePartida(p);
+    programa.Escribe(p);
     ASSERT_TRUE(programa.Arranca());
     const Foto antes = e.Mira();
     antes.Guarda("mesa-bordes-antes");
@@ -210,9 +187,7 @@ TEST(MesaVentana, OptionsPanelSampleViewAndKeyboard) {
     constexpr int PANEL_ANCHO = 150, PANEL_ALTO = 3 * 18 + 4;
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 5);
-    programa.EscribeGlobal(21, 100);
-    programa.EscribePartida(CincoPorCinco());
+    programa.Escribe(CincoPorCinco());
     ASSERT_TRUE(programa.Arranca());
 
     // A right click on the free table opens the panel there; a press on the table closes it.

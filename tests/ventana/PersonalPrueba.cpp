@@ -63,20 +63,14 @@ private:
 };
 
 PartidaGuardada Rompecabezas(Programa& programa) {
-    programa.EscribeImagenDeCuadros("aa.bmp", 480, 360, 4);
-    PartidaGuardada p;
+    PartidaGuardada p = DeCuadros(480, 360, 4);
     p.imagen = "aa.bmp";
-    p.anchoImagen = 480;
-    p.altoImagen = 360;
-    p.porLado = 4;
-    for (int i = 0; i < 16; ++i) {
-        PiezaGuardada q;
-        q.xBien = i % 4 * 120;
-        q.yBien = i / 4 * 90;
-        q.x = q.xBien + 60;
-        q.y = q.yBien + 100;
-        p.piezas.push_back(q);
+    p.borde = true;
+    for (PiezaGuardada& q : p.piezas) {
+        q.x += 60;
+        q.y += 100;
     }
+    programa.EscribeImagenDeCuadros(p.imagen, p.anchoImagen, p.altoImagen, p.porLado);
     return p;
 }
 

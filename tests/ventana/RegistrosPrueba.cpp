@@ -39,11 +39,6 @@ PartidaGuardada CasiResuelta() {
     return p;
 }
 
-std::string Bytes(const std::string& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), {}};
-}
-
 class RegistrosVentana : public testing::Test {
 protected:
     bool Arranca(const PartidaGuardada& p) {

@@ -10,23 +10,9 @@ constexpr int ANCHO = 1280, ALTO = 1024;
 constexpr int CELDA_ANCHO = 160, CELDA_ALTO = 120;  // 480 x 360 cut in 3 by 3
 constexpr unsigned MESA = 0x000080;                 // the default table, dark blue
 
-// A 3x3 puzzle of flat squares, pieces at home; the test then moves some away.
+// Pieces at home; the test then moves some away.
 PartidaGuardada TresPorTres(int forma) {
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 480;
-    p.altoImagen = 360;
-    p.forma = forma;
-    p.borde = false;
-    const int porCelda = forma >= 4 ? 2 : 1;
-    for (int celda = 0; celda < 9; ++celda)
-        for (int k = 0; k < porCelda; ++k) {
-            PiezaGuardada q;
-            q.x = q.xBien = celda % 3 * CELDA_ANCHO;
-            q.y = q.yBien = celda / 3 * CELDA_ALTO;
-            p.piezas.push_back(q);
-        }
-    return p;
+    return DeCuadros(480, 360, 3, forma);
 }
 
 struct Centro {
@@ -41,8 +27,6 @@ Centro CentroDe(const PiezaGuardada& q) {
 TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 50);
     PartidaGuardada p = TresPorTres(0);
     for (int i = 0; i < 9; ++i) {
         auto& q = p.piezas[static_cast<std::size_t>(i)];
@@ -50,7 +34,7 @@ TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
         q.y = 400 + i / 3 * 190;
         q.giro = i % 4;
     }
-    programa.EscribePartida(p);
+    programa.Escribe(p, 50);
     ASSERT_TRUE(programa.Arranca());
     e.Mira().Guarda("rompecabezas-antes");
 
@@ -94,8 +78,6 @@ TEST(RompecabezasVentana, ThreeByThreeIsPlayedToTheEndWithRotation) {
 TEST(RompecabezasVentana, CongratulationMovesOffThePictureThatItWouldCover) {
     Escritorio e(800, 600);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 50);
     PartidaGuardada p = TresPorTres(0);
     for (auto& q : p.piezas) {
         q.x = q.xBien;
@@ -104,7 +86,7 @@ TEST(RompecabezasVentana, CongratulationMovesOffThePictureThatItWouldCover) {
     p.piezas[8].x = 20;
     p.piezas[8].y = 420;
     p.archivable = true;
-    programa.EscribePartida(p);
+    programa.Escribe(p, 50);
     ASSERT_TRUE(programa.Arranca());
     const Centro c = CentroDe(p.piezas[8]);
     e.Arrastra(c.x, c.y, 320 + CELDA_ANCHO / 2 + 4, 240 + CELDA_ALTO / 2 + 4);
@@ -124,12 +106,10 @@ TEST(RompecabezasVentana, CongratulationMovesOffThePictureThatItWouldCover) {
 TEST(RompecabezasVentana, DragIsSeenOnTheWay) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 50);
     PartidaGuardada p = TresPorTres(0);
     p.piezas[4].x = 700;
     p.piezas[4].y = 300;
-    programa.EscribePartida(p);
+    programa.Escribe(p, 50);
     ASSERT_TRUE(programa.Arranca());
     const unsigned color = Programa::ColorDeCuadro(4);
     e.Mueve(780, 360);
@@ -159,14 +139,12 @@ TEST(RompecabezasVentana, DragIsSeenOnTheWay) {
 TEST(RompecabezasVentana, ClickDuringAPauseIsDeliveredAfterwards) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 0);  // the slowest: a turn holds for 1280 milliseconds
     PartidaGuardada p = TresPorTres(0);
     p.piezas[0].x = 600;
     p.piezas[0].y = 600;
     p.piezas[1].x = 600;
     p.piezas[1].y = 800;
-    programa.EscribePartida(p);
+    programa.Escribe(p, 0);  // the slowest: a turn holds for 1280 milliseconds
     ASSERT_TRUE(programa.Arranca());
 
     e.Mueve(680, 660);
@@ -198,13 +176,11 @@ TEST(RompecabezasVentana, ClickDuringAPauseIsDeliveredAfterwards) {
 TEST(RompecabezasVentana, PressOnATransparentCornerTakesThePieceBelow) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 480, 360, 3);
-    programa.EscribeGlobal(21, 50);
     PartidaGuardada p = TresPorTres(4);
     // The circle of the first cell lies over the frame of the second; both boxes coincide.
     p.piezas[0].x = p.piezas[3].x = 700;
     p.piezas[0].y = p.piezas[3].y = 600;
-    programa.EscribePartida(p);
+    programa.Escribe(p, 50);
     ASSERT_TRUE(programa.Arranca());
     e.Arrastra(704, 604, 904, 704);
     e.EsperaQuieto();

@@ -173,11 +173,6 @@ TEST(TangramVentana, DropOnAnotherPieceIsPushedOff) {
     EXPECT_GT(std::abs(leida.piezas[3].x - cx) + std::abs(leida.piezas[3].y - cy), 20);
 }
 
-std::string Bytes(const std::string& ruta) {
-    std::ifstream f(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), {}};
-}
-
 TEST(TangramVentana, DesignIsLaidAndReadBackThroughTheModelFile) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);

@@ -71,23 +71,14 @@ private:
 TEST(TecladoVentana, JigsawIsPlayedToTheEnd) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 360, 270, 3);
-    programa.EscribeGlobal(21, 100);
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 360;
-    p.altoImagen = 270;
-    p.borde = false;
+    PartidaGuardada p = DeCuadros(360, 270, 3);
     for (int i = 0; i < 9; ++i) {
-        PiezaGuardada q;
-        q.xBien = i % 3 * 120;
-        q.yBien = i / 3 * 90;
+        PiezaGuardada& q = p.piezas[static_cast<std::size_t>(i)];
         q.x = 420 + i % 3 * 140;
         q.y = 320 + i / 3 * 140;
         q.giro = i % 4;
-        p.piezas.push_back(q);
     }
-    programa.EscribePartida(p);
+    programa.Escribe(p);
     ASSERT_TRUE(programa.Arranca());
     Mano mano(e, programa, {180, 135});
     mano.AlPuzzle();
@@ -218,23 +209,11 @@ TEST(TecladoVentana, SlidingPuzzleIsPlayedToTheEnd) {
 TEST(TecladoVentana, PieceIsCarriedBeyondTheViewOnASmallScreenAndTheTutorAsked) {
     Escritorio e(800, 600);
     Programa programa(e);
-    programa.EscribeImagenDeCuadros("cuadros.bmp", 900, 720, 3);
-    programa.EscribeGlobal(21, 100);
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = 900;
-    p.altoImagen = 720;
-    p.borde = false;
-    for (int i = 0; i < 9; ++i) {
-        PiezaGuardada q;
-        q.x = q.xBien = i % 3 * 300;
-        q.y = q.yBien = i / 3 * 240;
-        p.piezas.push_back(q);
-    }
+    PartidaGuardada p = DeCuadros(900, 720, 3);
     p.piezas[7].x = 60;  // its place is out of view, at (300, 480)
     p.piezas[7].y = 40;
     p.orden = {8, 1, 2, 3, 4, 5, 6, 7, 9};
-    programa.EscribePartida(p);
+    programa.Escribe(p);
     ASSERT_TRUE(programa.Arranca());
     Mano mano(e, programa, {450, 360});
     mano.AlPuzzle();

@@ -9,21 +9,6 @@ namespace {
 constexpr int ANCHO = 1280, ALTO = 1024;
 constexpr int TIRA = 141, TIRA_ALTO = 370;  // without the clock, which changes by itself
 
-PartidaGuardada TresPorTres(int ancho, int alto) {
-    PartidaGuardada p;
-    p.imagen = "cuadros.bmp";
-    p.anchoImagen = ancho;
-    p.altoImagen = alto;
-    p.borde = false;
-    for (int celda = 0; celda < 9; ++celda) {
-        PiezaGuardada q;
-        q.x = q.xBien = celda % 3 * (ancho / 3);
-        q.y = q.yBien = celda / 3 * (alto / 3);
-        p.piezas.push_back(q);
-    }
-    return p;
-}
-
 struct Juego {
     Escritorio e;
     Programa programa{e};
@@ -43,7 +28,7 @@ struct Juego {
 };
 
 TEST(VistasVentana, StripStaysWhenTheSampleIsMoved) {
-    PartidaGuardada p = TresPorTres(480, 360);
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.muestra = true;
     p.piezas[4].x = 700;
     p.piezas[4].y = 60;
@@ -70,7 +55,7 @@ TEST(VistasVentana, StripStaysWhenTheSampleIsMoved) {
 }
 
 TEST(VistasVentana, StripStaysWhenTheTableAndTheHintPanelScroll) {
-    PartidaGuardada p = TresPorTres(750, 570);
+    PartidaGuardada p = DeCuadros(750, 570, 3);
     p.muestra = true;
     p.piezas[0].x = 500;
     p.piezas[0].y = 250;
@@ -91,7 +76,7 @@ TEST(VistasVentana, StripStaysWhenTheTableAndTheHintPanelScroll) {
 }
 
 TEST(VistasVentana, StripStaysWhenTheOptionsPanelMoves) {
-    PartidaGuardada p = TresPorTres(480, 360);
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.piezas[4].x = 700;
     p.piezas[4].y = 60;
     Juego j(p);
@@ -168,7 +153,7 @@ TEST(VistasVentana, QuickDoubleRightClicksTurnAndOpenNoPanel) {
 }
 
 TEST(VistasVentana, PieceTurnsInTheHandAndTheDragGoesOn) {
-    PartidaGuardada p = TresPorTres(480, 360);
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.piezas[4].x = 600;
     p.piezas[4].y = 400;
     Juego j(p);
@@ -196,7 +181,7 @@ TEST(VistasVentana, PieceTurnsInTheHandAndTheDragGoesOn) {
 }
 
 TEST(VistasVentana, PiecesOfALargerScreenComeIntoReach) {
-    PartidaGuardada p = TresPorTres(480, 360);
+    PartidaGuardada p = DeCuadros(480, 360, 3);
     p.piezas[3].x = 2300;
     p.piezas[3].y = 200;
     p.piezas[7].x = 700;
@@ -221,7 +206,7 @@ TEST(VistasVentana, PiecesOfALargerScreenComeIntoReach) {
 }
 
 TEST(VistasVentana, LoneModifierAnswersNoMessage) {
-    Juego j(TresPorTres(480, 360));
+    Juego j(DeCuadros(480, 360, 3));
     ASSERT_TRUE(j.programa.Arranca());
     j.programa.PulsaBoton(7);
     ASSERT_TRUE(j.e.Espera([&] { return j.e.HayVentana("Salir de TESSARIO"); }));
