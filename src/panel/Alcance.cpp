@@ -25,6 +25,19 @@ bool Alcanzable(i16 piece) {
     return cx <= (bajoLaTira ? Pic_Botonera.Left : BarraVer.Left) + recorridoX;
 }
 
+// The piece stands elsewhere than where its last move left it: the log leads there instead. The
+// recorder is off when a table is laid, so that no move lies beyond the last.
+void SigueElRegistro(i16 piece) {
+    const Pieza& p = Gbl.Piezas[piece];
+    for (i32 i = Gbl.NumMovimientos; i >= 1; --i) {
+        Movimiento& m = Gbl.Movimientos[i];
+        if (m.Pieza != piece) continue;
+        m.XDespues = p.X;
+        m.YDespues = p.Y;
+        return;
+    }
+}
+
 }  // namespace
 
 bool LlevaALaVista(i16 piece) {
@@ -53,8 +66,9 @@ void TraeLoInalcanzable() {
     if (JuegoEnCurso().Giros == 1) return;  // its pieces stand in cells
     bool alguna = false;
     for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {
-        const bool movida = !PiezaEnSuSitio(i) && !Alcanzable(i) && LlevaALaVista(i);
-        alguna = alguna || movida;
+        if (PiezaEnSuSitio(i) || Alcanzable(i) || !LlevaALaVista(i)) continue;
+        SigueElRegistro(i);
+        alguna = true;
     }
     if (alguna) ColocaPiezas(1);
 }

@@ -10,8 +10,8 @@ namespace tessario {
 // panel leave free. Changes its record only. True: it was moved.
 bool LlevaALaVista(i16 piece);
 // Brings in the loose pieces that no scrolling can reach, as a game has them that was kept on a
-// larger screen, and lays the table anew if there was one. To be called when a kept game has been
-// laid; games 21 and 23, the others are left alone.
+// larger screen, and lays the table anew if there was one; the log of moves leads to their new
+// places. To be called when a kept game has been laid; games 21 and 23, the others are left alone.
 void TraeLoInalcanzable();
 
 }  // namespace tessario

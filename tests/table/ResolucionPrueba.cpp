@@ -68,6 +68,28 @@ TEST_F(Resolucion, WhatLiesBeyondASmallerScreenComesIntoReach) {
     ComoRecienPuesta();
 }
 
+TEST_F(Resolucion, TheLogLeadsToThePlaceToWhichAPieceWasBrought) {
+    P().ancho = 1600;
+    P().alto = 1200;
+    Mesa.Resize();
+    Moviles(3, 330, 250);
+    Pon(4, 420, 100);
+    Pon(5, 30, 300);
+    Arrastra(4, 1300, 300);
+    Arrastra(5, 60, 310);
+    Arrastra(4, 1400, 1100);
+    ASSERT_EQ(Gbl.NumMovimientos, 3);
+    const Movimiento primero = Gbl.Movimientos[1], segundo = Gbl.Movimientos[2];
+    const i16 xDesde = Gbl.Movimientos[3].XAntes;
+    Pantalla(800, 600);
+    ASSERT_LT(Gbl.Piezas[4].X, 800);
+    EXPECT_EQ(Gbl.Movimientos[3].XDespues, Gbl.Piezas[4].X);
+    EXPECT_EQ(Gbl.Movimientos[3].YDespues, Gbl.Piezas[4].Y);
+    EXPECT_EQ(Gbl.Movimientos[3].XAntes, xDesde);
+    EXPECT_EQ(Gbl.Movimientos[1], primero) << "an earlier move of the same piece";
+    EXPECT_EQ(Gbl.Movimientos[2], segundo) << "a move of another piece";
+}
+
 TEST_F(Resolucion, ATableThatNoLongerFitsScrolls) {
     P().ancho = 1600;
     P().alto = 1200;
