@@ -15,14 +15,16 @@ namespace {
 
 constexpr i32 LADO = 4;  // of the squares by which a surface is turned, pixels
 
-// Four pixels side by side, wherever they stand in memory.
-using Cuatro = Pixel __attribute__((vector_size(16), aligned(4)));
+using Cuatro = Pixel __attribute__((vector_size(16)));
 
+// Four pixels side by side, wherever they stand in memory.
 Cuatro Lee(const Pixel* p) {
-    return *reinterpret_cast<const Cuatro*>(p);
+    Cuatro v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
 }
 void Escribe(Pixel* p, Cuatro v) {
-    *reinterpret_cast<Cuatro*>(p) = v;
+    std::memcpy(p, &v, sizeof v);
 }
 
 // Eight pixels, for processors that have registers for them.

@@ -18,6 +18,7 @@
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
+#include "session/CopiaSeguridad.h"
 #include "sliding/Tablero.h"
 #include "start/Arranque.h"
 #include "table/Ordenes.h"
@@ -46,6 +47,12 @@ enum Excepcion : unsigned {
 constexpr const char* VENTANAS[] = {"Personal", "Cargua", "Historic", "Estadis"};
 
 }  // namespace
+
+// What is being written beside the game is there before the next decision, in every run of a seed.
+i32 Mono::Hasta(i32 n) {
+    EsperaCopia();
+    return numeros_.Hasta(n);
+}
 
 void Mono::Corre(long eventos) {
     Arranca();

@@ -47,7 +47,7 @@ public:
     long Anidados(std::size_t tarea) const { return anidados_[tarea]; }
 
 private:
-    i32 Hasta(i32 n) { return numeros_.Hasta(n); }
+    i32 Hasta(i32 n);
     bool Una(i32 deCada) { return Hasta(deCada) == 0; }
 
     // --- The program.
