@@ -4,8 +4,6 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
-#include <signal.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,6 +16,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include "ventana/Proceso.h"
+
 namespace tessario::ventana {
 
 namespace {
@@ -26,58 +26,6 @@ using Reloj = std::chrono::steady_clock;
 
 void Duerme(int ms) {
     std::this_thread::sleep_for(std::chrono::milliseconds(ms));
-}
-
-// Starts a program with its output thrown away, or its errors in a file; `descriptor` stays open in
-// it.
-struct Lanzamiento {
-    std::vector<std::string> orden;
-    std::string pantalla;
-    int descriptor = -1;
-    Entorno entorno = {};
-    std::string errores = "/dev/null";
-    unsigned usuario = 0;  // 0: ourselves; another one only where we may choose
-};
-
-pid_t Lanza(const Lanzamiento& l) {
-    const pid_t pid = fork();
-    if (pid != 0) return pid;
-    const bool cambia = l.usuario != 0 && geteuid() == 0;
-    prctl(PR_SET_PDEATHSIG, SIGKILL);  // nothing outlives a test that is stopped
-    if (!l.pantalla.empty()) setenv("DISPLAY", l.pantalla.c_str(), 1);
-    unsetenv("WAYLAND_DISPLAY");
-    setenv("QT_QPA_PLATFORM", "xcb", 1);
-    setenv("SDL_AUDIODRIVER", "dummy", 1);
-    for (const auto& [nombre, valor] : l.entorno) {
-        if (valor.empty())
-            unsetenv(nombre.c_str());
-        else
-            setenv(nombre.c_str(), valor.c_str(), 1);
-    }
-    if (!getenv("TESSARIO_VER_SALIDA") || l.errores != "/dev/null") {
-        if (!freopen("/dev/null", "w", stdout)) _exit(126);
-        if (!freopen(l.errores.c_str(), "w", stderr)) _exit(126);
-    }
-    if (cambia && (setgid(l.usuario) != 0 || setuid(l.usuario) != 0)) _exit(125);
-    if (cambia) prctl(PR_SET_PDEATHSIG, SIGKILL);
-    for (int fd = 3; fd < 64; ++fd)
-        if (fd != l.descriptor) close(fd);
-    std::vector<char*> args;
-    for (const auto& a : l.orden) args.push_back(const_cast<char*>(a.c_str()));
-    args.push_back(nullptr);
-    execvp(args[0], args.data());
-    _exit(127);
-}
-
-void Termina(pid_t pid) {
-    if (pid <= 0) return;
-    kill(pid, SIGTERM);
-    for (int i = 0; i < 100; ++i) {
-        if (waitpid(pid, nullptr, WNOHANG) == pid) return;
-        Duerme(10);
-    }
-    kill(pid, SIGKILL);
-    waitpid(pid, nullptr, 0);
 }
 
 // A window may vanish while we look at it.
@@ -155,7 +103,7 @@ void Foto::Guarda(const std::string& nombre) const {
     if (std::system(orden.c_str()) != 0) std::fprintf(stderr, "no PNG for %s\n", nombre.c_str());
 }
 
-Escritorio::Escritorio(int ancho, int alto) {
+Escritorio::Escritorio(int ancho, int alto, Gestor gestor) {
     int tubo[2];
     if (pipe(tubo) != 0) throw std::runtime_error("pipe");
     servidor_ = Lanza({{"Xvfb", "-displayfd", std::to_string(tubo[1]), "-screen", "0",
@@ -175,6 +123,7 @@ Escritorio::Escritorio(int ancho, int alto) {
     if (!d_) throw std::runtime_error("cannot open the private display");
     // The answers to the pings come to the root window.
     XSelectInput(d_, DefaultRootWindow(d_), StructureNotifyMask);
+    if (gestor == Gestor::No) return;
     gestor_ = Lanza({{"openbox"}, nombre_});
     // The manager announces itself on the root window.
     const Atom marca = XInternAtom(d_, "_NET_SUPPORTING_WM_CHECK", False);

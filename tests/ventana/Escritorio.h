@@ -39,7 +39,9 @@ using Entorno = std::vector<std::pair<std::string, std::string>>;
 
 class Escritorio {
 public:
-    Escritorio(int ancho, int alto);
+    // Without a manager a window stands where it puts itself, and the pointer leads the keys.
+    enum class Gestor { Si, No };
+    Escritorio(int ancho, int alto, Gestor gestor = Gestor::Si);
     ~Escritorio();
     Escritorio(const Escritorio&) = delete;
     Escritorio& operator=(const Escritorio&) = delete;
