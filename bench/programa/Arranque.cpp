@@ -56,5 +56,6 @@ int main() {
     using namespace tessario::ventana;
     bool bien = Mide();
     bien = MideGrande() && bien;
+    bien = MideFin() && bien;
     return MideOcio() && bien ? 0 : 1;
 }

@@ -18,6 +18,8 @@ bool Linea(const char* nombre, const char* unidad, double valor, double limite, 
 
 // The large table: 3840 x 2160.
 bool MideGrande();
+// The safety copy at the end of a session, by either signal.
+bool MideFin();
 // A laid table that nobody touches, the clock running.
 bool MideOcio();
 

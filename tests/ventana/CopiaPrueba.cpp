@@ -54,7 +54,8 @@ TEST(CopiaVentana, ControlZTakesTheLastMoveBackAndASignalLeavesTheCopy) {
     EXPECT_EQ(programa.LeePartida(21).piezas[0].y, 500) << "the game's own file is left alone";
 }
 
-class FinVentana : public testing::Test {
+// Both signals by which a session ends.
+class FinVentana : public testing::TestWithParam<int> {
 protected:
     // A game with one move in its log. `velocidad`: 0 to 100, or what a damaged file may say.
     void Empieza(int velocidad) {
@@ -63,8 +64,8 @@ protected:
         e.Arrastra(600, 560, 600, 760);
     }
     // Ended in order, with so many moves in the copy and the game's own file as it was.
-    void TerminaConCopia(int senal, int movimientos, int y) {
-        ASSERT_EQ(kill(programa.Pid(), senal), 0);
+    void TerminaConCopia(int movimientos, int y) {
+        ASSERT_EQ(kill(programa.Pid(), GetParam()), 0);
         EXPECT_EQ(programa.EsperaFin(), 0);
         const PartidaLeida copia = programa.LeeRecord(COPIA);
         ASSERT_EQ(copia.piezas.size(), 9U);
@@ -78,23 +79,42 @@ protected:
     Programa programa{e};
 };
 
-TEST_F(FinVentana, ASignalWhileAMessageIsOpenLeavesTheCopy) {
+INSTANTIATE_TEST_SUITE_P(Senales, FinVentana, testing::Values(SIGTERM, SIGHUP),
+                         [](const auto& s) { return s.param == SIGTERM ? "Term" : "Hup"; });
+
+TEST_P(FinVentana, ASignalDuringPlayLeavesTheCopy) {
+    Empieza(50);
+    TerminaConCopia(1, 700);
+}
+
+// The piece that the pointer holds lies in the copy where it was taken from.
+TEST_P(FinVentana, ASignalWhileAPieceIsInHandLeavesTheCopy) {
+    Empieza(50);
+    e.Mueve(600, 760);
+    e.EsperaAtendido();
+    e.Aprieta();
+    e.Mueve(640, 860);
+    e.EsperaAtendido();
+    TerminaConCopia(1, 700);
+}
+
+TEST_P(FinVentana, ASignalWhileAMessageIsOpenLeavesTheCopy) {
     Empieza(50);
     programa.PulsaBoton(7);
     ASSERT_TRUE(e.Espera([&] { return e.HayVentana("Salir de TESSARIO"); }));
-    TerminaConCopia(SIGHUP, 1, 700);
+    TerminaConCopia(1, 700);
 }
 
-TEST_F(FinVentana, ASignalWhileTheSettingsAreOpenLeavesTheCopy) {
+TEST_P(FinVentana, ASignalWhileTheSettingsAreOpenLeavesTheCopy) {
     Empieza(50);
     programa.PulsaBoton(2);
     ASSERT_TRUE(e.Espera([&] { return e.HayVentana("Personalizar"); }));
     e.EsperaAtendido();
-    TerminaConCopia(SIGTERM, 1, 700);
+    TerminaConCopia(1, 700);
 }
 
 // So slow that the run of one piece takes half a minute: it is not waited for.
-TEST_F(FinVentana, ASignalInTheMiddleOfASlowRunLeavesTheCopy) {
+TEST_P(FinVentana, ASignalInTheMiddleOfASlowRunLeavesTheCopy) {
     constexpr int LENTA = -99, ORDENA = 11;
     Empieza(LENTA);
     const Foto antes = e.Mira();
@@ -104,7 +124,7 @@ TEST_F(FinVentana, ASignalInTheMiddleOfASlowRunLeavesTheCopy) {
     e.Suelta();
     // A piece is on its way.
     ASSERT_TRUE(e.Espera([&] { return e.Mira().Diferencia(antes, 0, 480, 1100, 480) > 1000; }));
-    TerminaConCopia(SIGTERM, 2, 0);
+    TerminaConCopia(2, 0);
 }
 
 }  // namespace
