@@ -96,7 +96,7 @@ bool Empieza(Programa& programa, int porCelda) {
     return false;
 }
 
-bool MideArranque(Escritorio& e) {
+bool MideComienzo(Escritorio& e) {
     Programa programa(e);
     if (!Empieza(programa, 1)) return false;
     const double segundos = Procesador(programa.Pid());
@@ -112,7 +112,7 @@ bool MideArranque(Escritorio& e) {
 
 bool MideGrande() {
     Escritorio e(ANCHO, ALTO);
-    bool bien = MideArranque(e);
+    bool bien = MideComienzo(e);
     Programa programa(e);
     if (!Empieza(programa, 2)) return false;
     e.Tecla("Return");

@@ -1,29 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Medidas.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <fstream>
-#include <iterator>
-#include <sstream>
 #include <string>
 #include <vector>
 
 namespace tessario::ventana {
 
 double Procesador(pid_t pid) {
-    std::ifstream f("/proc/" + std::to_string(pid) + "/stat");
-    std::string todo((std::istreambuf_iterator<char>(f)), {});
-    std::istringstream resto(todo.substr(todo.rfind(')') + 2));
-    std::string campo;
-    for (int i = 0; i < 11; ++i) resto >> campo;  // up to the field before utime
-    long usuario = 0, sistema = 0;
-    resto >> usuario >> sistema;
-    return static_cast<double>(usuario + sistema) / static_cast<double>(sysconf(_SC_CLK_TCK));
+    clockid_t reloj{};
+    timespec t{};
+    if (clock_getcpuclockid(pid, &reloj) != 0 || clock_gettime(reloj, &t) != 0) return 0;
+    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_nsec) * 1e-9;
 }
 
 double Memoria(pid_t pid) {

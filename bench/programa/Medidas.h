@@ -16,6 +16,8 @@ double Copia(double bytes);
 // Prints a value, how many plain copies it is (0: not told), and whether it keeps its bound.
 bool Linea(const char* nombre, const char* unidad, double valor, double limite, double copias = 0);
 
+// The start, to a laid table of common size.
+bool MideArranque();
 // The large table: 3840 x 2160.
 bool MideGrande();
 // The safety copy at the end of a session, by either signal.
