@@ -46,19 +46,20 @@ void PreparaMesa() {
     const i32 ancho = std::max(Pic_Bitmap.Width() + MESA_LIBRE, BarraVer.Left);
     const i32 alto = std::max(Pic_Bitmap.Height() + MESA_LIBRE, BarraHor.Top);
     const i32 x = Gbl.AnchoPuzzle, y = Gbl.AltoPuzzle;
-    Pic_Imagen.Tamano(ancho, alto);
-    Pic_Imagen.PonBackColor(Gbl.ColorFondo);
-    Pic_Imagen.PonPicture(nullptr);
+    // Drawn on a sheet as large as the frame, so that the table keeps no pixels yet.
+    Superficie marco(std::min(x + 1, ancho), std::min(y + 1, alto));
+    marco.PonBackColor(Gbl.ColorFondo);
     const int flags = pluma::Desde | pluma::ConColor;
-    Pic_Imagen.Line(flags, x, -1, x, y, Gbl.ColorContraste);
-    Pic_Imagen.Line(flags, -1, y, x, y, Gbl.ColorContraste);
-    Pic_Imagen.PonPicture(Pic_Imagen.ImageJusta());
-
-    Pic_Trabajo.Tamano(ancho, alto);
-    Pic_Trabajo_Paint();
-    Pic_Fondo.Tamano(ancho, alto);
-    Pic_Fondo.PonBackColor(Gbl.ColorFondo);
-    Pic_Fondo.PonPicture(Pic_Imagen.Picture());
+    marco.Line(flags, x, -1, x, y, Gbl.ColorContraste);
+    marco.Line(flags, -1, y, x, y, Gbl.ColorContraste);
+    const Imagen suelo = marco.ImageJusta();
+    const std::initializer_list<Superficie*> mesas{&Pic_Imagen, &Pic_Trabajo, &Pic_Fondo};
+    for (Superficie* const mesa : mesas) {
+        mesa->Tamano(ancho, alto);
+        mesa->PonBackColor(Gbl.ColorFondo);
+        mesa->PonPicture(suelo);
+    }
+    MesaMostrada();
 }
 
 // The box of a piece is its cell; the interlocking shapes widen it.

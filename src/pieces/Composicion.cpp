@@ -153,4 +153,9 @@ void Pic_Trabajo_Paint() {
     Pic_Trabajo.TomaTocado();  // the copy itself is no difference
 }
 
+void MesaMostrada() {
+    Pic_Imagen.TomaTocado();
+    Pic_Trabajo.TomaTocado();
+}
+
 }  // namespace tessario

@@ -29,5 +29,7 @@ Rect CajaDePieza(i16 piece);
 void MuestraCaja(const Rect& caja);
 // Shows all that has been composed.
 void Pic_Trabajo_Paint();
+// Pic_Trabajo has been made to show what Pic_Imagen does: there is nothing to copy.
+void MesaMostrada();
 
 }  // namespace tessario

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QWindow>
@@ -218,12 +217,13 @@ void VistaVentana::Ensena() {
     } else {
         show();
     }
-    QElapsedTimer t;
-    t.start();
-    while (viva_ && windowHandle() && !windowHandle()->isExposed() &&
-           t.elapsed() < ESPERA_EXPOSICION_MS)
-        QCoreApplication::processEvents(
-            QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+    // Without a bound in this call, which would make it return at once: the timer ends the wait.
+    QTimer tope;
+    tope.setSingleShot(true);
+    tope.start(ESPERA_EXPOSICION_MS);
+    while (viva_ && windowHandle() && !windowHandle()->isExposed() && tope.isActive())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
     if (!viva_) return;
     raise();
     activateWindow();
