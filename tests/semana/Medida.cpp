@@ -25,6 +25,8 @@ struct Cifra {
     long Medida::*valor;
     long margen;
 };
+// A pointer is made when it is first shown, and there are so many.
+constexpr long PUNTEROS = 16;
 // Handles, threads, files and what the server keeps may not grow by one. The heap and the pages of
 // the process breathe: a scratch surface keeps the size of the last piece that was on it, a table
 // doubles when it fills, a store of text widths is emptied when it is full. A megabyte, once, is a
@@ -42,6 +44,7 @@ constexpr Cifra CIFRAS[] = {
     {"threads", &Medida::hilos, 0},
     {"files in the folder", &Medida::ficheros, 0},
     {"X windows", &Medida::ventanasX, 0},
+    {"X cursors", &Medida::punterosX, PUNTEROS},
     {"other X resources", &Medida::recursosX, 0},
     {"X pixmaps, KiB", &Medida::pixmapsX, 0},
 };
@@ -71,6 +74,7 @@ Medida Mide(const std::string& carpeta) {
     for (const auto& f : fs::recursive_directory_iterator(carpeta)) m.ficheros += !f.is_directory();
     const RecursosX x = PideRecursosX();
     m.ventanasX = x.ventanas;
+    m.punterosX = x.punteros;
     m.recursosX = x.otros;
     m.pixmapsX = x.pixmaps / KIB;
     return m;
@@ -86,12 +90,13 @@ std::string Crecido(const Medida& antes, const Medida& ahora) {
 }
 
 const char* const CABECERA_MEDIDA =
-    "  resident  heap KiB  handles  threads  files  windows  X-other  pixmaps KiB";
+    "  resident  heap KiB  handles  threads  files  windows  cursors  X-other  pixmaps KiB";
 
 std::string Renglon(const Medida& m) {
     char b[128];
-    std::snprintf(b, sizeof b, "%10ld%10ld%9ld%9ld%7ld%9ld%9ld%13ld", m.residente, m.enUso,
-                  m.descriptores, m.hilos, m.ficheros, m.ventanasX, m.recursosX, m.pixmapsX);
+    std::snprintf(b, sizeof b, "%10ld%10ld%9ld%9ld%7ld%9ld%9ld%9ld%13ld", m.residente, m.enUso,
+                  m.descriptores, m.hilos, m.ficheros, m.ventanasX, m.punterosX, m.recursosX,
+                  m.pixmapsX);
     return b;
 }
 

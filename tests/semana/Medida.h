@@ -13,8 +13,9 @@ struct Medida {
     long descriptores = 0;  // open files, sockets, pipes
     long hilos = 0;
     long ficheros = 0;   // in the folder and below
-    long ventanasX = 0;  // 0 without an X server, as the two below
-    long recursosX = 0;  // all others: pixmaps, cursors, pens, ...
+    long ventanasX = 0;  // 0 without an X server, as the three below
+    long punterosX = 0;
+    long recursosX = 0;  // all others: pixmaps, pens, ...
     long pixmapsX = 0;   // KiB that the server holds in pixmaps
 };
 

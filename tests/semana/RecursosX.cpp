@@ -115,8 +115,9 @@ void Suma(Enlace& e, unsigned char mayor, std::uint32_t cliente, RecursosX& r) {
     const Bytes clases = e.Pide(mayor, DE_UN_CLIENTE, {cliente});
     for (std::uint32_t i = 0; i < Enlace::Largo(clases, 8) && e.Bien(); ++i) {
         const std::size_t donde = CABEZA + std::size_t{8} * i;
-        const bool ventana = NombreDe(e, Enlace::Largo(clases, donde)) == "WINDOW";
-        (ventana ? r.ventanas : r.otros) += Enlace::Largo(clases, donde + 4);
+        const std::string clase = NombreDe(e, Enlace::Largo(clases, donde));
+        long& cuantos = clase == "WINDOW" ? r.ventanas : clase == "CURSOR" ? r.punteros : r.otros;
+        cuantos += Enlace::Largo(clases, donde + 4);
     }
     r.pixmaps += Enlace::Largo(e.Pide(mayor, PIXMAPS_DE_UN_CLIENTE, {cliente}), 8);
 }

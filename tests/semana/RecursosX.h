@@ -6,8 +6,9 @@
 namespace tessario {
 
 struct RecursosX {
-    long ventanas = 0, otros = 0;  // by number, without those of the asking connection
-    long pixmaps = 0;              // bytes
+    // By number, without those of the asking connection.
+    long ventanas = 0, punteros = 0, otros = 0;
+    long pixmaps = 0;  // bytes
 };
 
 // All zero without a server in DISPLAY, or when it is not a local one without keys.
