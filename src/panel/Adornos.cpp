@@ -21,7 +21,6 @@ constexpr i32 Suelto = 30, Pulsado = 54;  // rows
 constexpr i32 Izquierda = 102, AnchoIzquierda = 129;
 constexpr i32 Relleno = 229;
 constexpr i32 Derecha = 231, AnchoDerecha = 2;
-constexpr i32 AnchoEntera = AnchoIzquierda + AnchoDerecha;
 }  // namespace tesela
 
 constexpr i32 ROTULO_X = 9, ROTULO_SUELTO = 4, ROTULO_PULSADO = 5;
@@ -71,12 +70,9 @@ void DibujaBotonLargo(Superficie& boton, bool pulsado) {
     const auto copia = [&](i32 x, i32 columnas, i32 desde) {
         BitBlt(boton, x, 0, columnas, ALTO_BOTON_LARGO, Pic_BmpVario, desde, fila, SRCCOPY);
     };
-    if (ancho > tesela::AnchoEntera) {
-        copia(0, tesela::AnchoIzquierda, tesela::Izquierda);
-        for (i32 x = tesela::AnchoIzquierda; x <= ancho - 3; ++x) copia(x, 1, tesela::Relleno);
-    } else {
-        copia(0, tesela::AnchoEntera, tesela::Izquierda);
-    }
+    copia(0, tesela::AnchoIzquierda, tesela::Izquierda);
+    for (i32 x = tesela::AnchoIzquierda; x < ancho - tesela::AnchoDerecha; ++x)
+        copia(x, 1, tesela::Relleno);
     copia(ancho - tesela::AnchoDerecha, tesela::AnchoDerecha, tesela::Derecha);
 }
 

@@ -57,7 +57,7 @@ bool TomaPegado() {
     Gbl.ImagenTraida = {};
     if (TomaAlguno(Sistema().PortapapelesFicheros())) return true;
     Mapa mapa;
-    if (Sistema().PortapapelesTieneImagen() && Sistema().PortapapelesImagen(mapa) &&
+    if (Sistema().PortapapelesImagen(mapa) &&
         TomaDibujo(std::move(mapa), NOMBRE_PORTAPAPELES, true))
         return true;
     return NoEsImagen();

@@ -173,11 +173,11 @@ i32 PlataformaPrueba::CargaMuestra(const std::string& ruta, i32 ancho_, i32 alto
 }
 
 i32 PlataformaPrueba::CargaAjena(const std::string& ruta, Mapa& destino) {
-    if (const auto e = erroresImagen.find(ruta); e != erroresImagen.end()) return e->second;
     const auto i = ajenas.find(ruta);
     if (i == ajenas.end()) return CargaImagen(ruta, destino);
-    destino = i->second;
-    return 0;
+    destino = i->second;  // as far as it went, if it fails
+    const auto e = erroresImagen.find(ruta);
+    return e == erroresImagen.end() ? 0 : e->second;
 }
 
 i32 PlataformaPrueba::GuardaImagen(const std::string& ruta, const Mapa& imagen) {

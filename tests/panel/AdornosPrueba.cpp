@@ -56,17 +56,44 @@ TEST_F(Adornos, TheWidthOfTheTileItselfIsNotStretched) {
     EXPECT_EQ(Origen(mayor, 130, 0), (Punto{231, 30}));
 }
 
+TEST_F(Adornos, ALongButtonIsAsHighAsItsTileOnASurfaceOfAnyHeight) {
+    Superficie boton(98, 30);
+    boton.PonBackColor(FONDO);
+    DibujaBotonLargo(boton, false);
+    EXPECT_EQ(Origen(boton, 0, 22), (Punto{102, 52}));
+    EXPECT_EQ(boton.Point(0, 23), FONDO);
+    EXPECT_EQ(boton.Point(97, 23), FONDO);
+}
+
 TEST_F(Adornos, TheCaptionOfALongButtonSinksWithIt) {
-    // The block font: 7 x 15 pixels a character, its box from (0, 1) to (5, 13).
     Superficie boton(98, 23);
     PintaBotonLargo(boton, "X", false);
+    EXPECT_EQ(Origen(boton, 0, 0), (Punto{102, 30}));
     EXPECT_EQ(boton.Point(9, 5), BLANCO);
     EXPECT_EQ(boton.Point(10, 6), AZUL);
     EXPECT_NE(boton.Point(9, 4), BLANCO);
+    EXPECT_NE(boton.Point(8, 10), BLANCO);
     PintaBotonLargo(boton, "X", true);
+    EXPECT_EQ(Origen(boton, 0, 0), (Punto{102, 54}));
     EXPECT_NE(boton.Point(9, 5), BLANCO);
     EXPECT_EQ(boton.Point(9, 6), BLANCO);
     EXPECT_EQ(boton.Point(10, 7), AZUL);
+}
+
+TEST_F(Adornos, TheShadowOfATextIsWhiteAndLiesUpAndToTheLeft) {
+    // The block font: 7 x 15 pixels a character, its box from (0, 1) to (5, 13).
+    Superficie s(40, 30);
+    s.PonBackColor(FONDO);
+    s.FillSolido = true;
+    TextoConSombra(s, 9, 4, "X", true);
+    for (const Punto p : {Punto{9, 5}, {9, 17}, {14, 5}}) EXPECT_EQ(s.Point(p.x, p.y), BLANCO);
+    for (const Punto p : {Punto{10, 6}, {15, 6}, {10, 18}, {15, 18}})
+        EXPECT_EQ(s.Point(p.x, p.y), AZUL);
+    for (const Punto p : {Punto{9, 18}, {15, 5}, {8, 10}, {16, 10}, {12, 4}, {12, 19}})
+        EXPECT_EQ(s.Point(p.x, p.y), FONDO);
+    EXPECT_FALSE(s.FillSolido);
+    EXPECT_TRUE(s.FontTransparent);
+    EXPECT_EQ(s.ForeColor, AZUL);
 }
 
 TEST_F(Adornos, APanelHasAnEtchedFrameUnderItsTitle) {
@@ -98,6 +125,7 @@ TEST_F(Adornos, APanelHasAnEtchedFrameUnderItsTitle) {
 
 TEST_F(Adornos, AWindowIsLitFromTheUpperLeft) {
     Superficie v(656, 552);
+    v.PonBackColor(FONDO);  // not the white of a fresh one, on which half the frame is lost
     MarcoVentana(v);
     EXPECT_EQ(v.Point(0, 0), BLANCO);
     EXPECT_EQ(v.Point(654, 0), BLANCO);
@@ -106,8 +134,6 @@ TEST_F(Adornos, AWindowIsLitFromTheUpperLeft) {
     EXPECT_EQ(v.Point(655, 300), GRIS);
     EXPECT_EQ(v.Point(0, 551), GRIS);
     EXPECT_EQ(v.Point(655, 551), GRIS);
-    v.PonBackColor(FONDO);
-    MarcoVentana(v);
     EXPECT_EQ(v.Point(1, 1), FONDO);
     EXPECT_EQ(v.Point(654, 550), FONDO);
 }
