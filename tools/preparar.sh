@@ -3,7 +3,7 @@
 # instala_paquetes GROUP... installs what is missing of the groups juego (to build and play),
 # pruebas (to test), fuzz (to fuzz), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
 
-PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev fonts-liberation2"
+PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev libxcb1-dev fonts-liberation2"
 PAQUETES_pruebas="python3 clang-format clang-tidy desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
 PAQUETES_fuzz="clang libgtest-dev"
 PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"

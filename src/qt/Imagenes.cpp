@@ -233,6 +233,17 @@ i32 CargaAjena(const std::string& ruta, Mapa& destino) {
     return ConFichero(ruta, [&](QFile& f) { return Lee(f, Clases::Todas, destino); });
 }
 
+i32 DeMemoria(const QByteArray& bytes, Mapa& destino) {
+    QBuffer memoria;
+    memoria.setData(bytes);
+    memoria.open(QIODevice::ReadOnly);
+    try {
+        return Lee(memoria, Clases::Todas, destino);
+    } catch (const std::bad_alloc&) {
+        return ERROR_MEMORIA;
+    }
+}
+
 i32 Mide(const std::string& ruta, i32& ancho, i32& alto) {
     return ConFichero(ruta, [&](QFile& f) { return LeeMedida(f, ancho, alto); });
 }

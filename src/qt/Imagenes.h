@@ -2,6 +2,7 @@
 // Pictures from files, from the program's resources and from other programs, as plain bitmaps.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@ i32 Mide(const std::string& ruta, i32& ancho, i32& alto);  // their size, from t
 // At exactly this size, by stretch mode 3; photographs are decoded no finer than that needs.
 i32 CargaReducida(const std::string& ruta, i32 ancho, i32 alto, Mapa& destino);
 i32 CargaAjena(const std::string& ruta, Mapa& destino);  // any kind, the first picture of several
+i32 DeMemoria(const QByteArray& bytes, Mapa& destino);   // what a file of any kind would hold
 // A 24-bit BMP, replaced whole or not at all: 0, 61 disk full, 75 no access, 76 no such folder.
 i32 Guarda(const std::string& ruta, const Mapa& imagen);
 bool Recurso(std::string_view nombre, Mapa& destino);

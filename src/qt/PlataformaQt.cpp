@@ -18,6 +18,7 @@
 #include "qt/Entrada.h"
 #include "qt/Estilo.h"
 #include "qt/Imagenes.h"
+#include "qt/Portapapeles.h"
 #include "qt/Senales.h"
 #include "qt/VistaVentana.h"
 
@@ -30,6 +31,23 @@ constexpr long long SEGUIDA_NS = 20'000;  // a call that comes sooner did nothin
 constexpr int SEGUIDAS_LIBRES = 300;      // so many of them before the loop is made to rest
 constexpr unsigned long DESCANSO_US = 1000;
 constexpr int REPOSO_PANTALLA_MS = 150;
+
+constexpr const char* CLASE_FICHEROS = "text/uri-list";
+constexpr std::size_t CLASES_PROBADAS = 3;  // kinds of picture that are asked for
+
+// The kinds of picture on offer, those first that lose nothing.
+std::vector<std::string> ClasesDeImagen(const std::vector<std::string>& oferta) {
+    std::vector<std::string> clases;
+    const auto pon = [&](const std::string& clase) {
+        if (std::find(clases.begin(), clases.end(), clase) == clases.end()) clases.push_back(clase);
+    };
+    for (const char* buena : {"image/png", "image/bmp", "image/x-bmp", "image/x-MS-bmp"})
+        if (std::find(oferta.begin(), oferta.end(), buena) != oferta.end()) pon(buena);
+    for (const std::string& clase : oferta)
+        if (clase.starts_with("image/")) pon(clase);
+    clases.resize(std::min(clases.size(), CLASES_PROBADAS));
+    return clases;
+}
 
 // Leaves a handler that still runs when the program ends. No run-time error of the game, so that
 // nothing on the way takes it for one.
@@ -370,11 +388,21 @@ void PlataformaQt::Suena(i16 id, bool asincrono) {
 }
 
 bool PlataformaQt::PortapapelesTieneImagen() {
+    if (PortapapelesAjeno::EsDeOtro()) return !ClasesDeImagen(PortapapelesAjeno().Ofrece()).empty();
     const QMimeData* const datos = QGuiApplication::clipboard()->mimeData();
     return datos && datos->hasImage() && !QGuiApplication::clipboard()->image().isNull();
 }
 
 bool PlataformaQt::PortapapelesImagen(Mapa& destino) {
+    if (PortapapelesAjeno::EsDeOtro()) {
+        PortapapelesAjeno ajeno;
+        for (const std::string& clase : ClasesDeImagen(ajeno.Ofrece())) {
+            const QByteArray bytes = ajeno.Dato(clase);
+            if (bytes.isEmpty()) return false;  // one that hangs is not asked for the next kind
+            if (imagenes::DeMemoria(bytes, destino) == 0) return true;
+        }
+        return false;
+    }
     const QImage imagen = QGuiApplication::clipboard()->image();
     if (imagen.isNull()) return false;
     destino = imagenes::Convierte(imagen);
@@ -382,6 +410,14 @@ bool PlataformaQt::PortapapelesImagen(Mapa& destino) {
 }
 
 std::vector<std::string> PlataformaQt::PortapapelesFicheros() {
+    if (PortapapelesAjeno::EsDeOtro()) {
+        PortapapelesAjeno ajeno;
+        const std::vector<std::string> clases = ajeno.Ofrece();
+        if (std::find(clases.begin(), clases.end(), CLASE_FICHEROS) == clases.end()) return {};
+        QMimeData datos;
+        datos.setData(QLatin1String(CLASE_FICHEROS), ajeno.Dato(CLASE_FICHEROS));
+        return FicherosDe(datos);
+    }
     const QMimeData* const datos = QGuiApplication::clipboard()->mimeData();
     return datos ? FicherosDe(*datos) : std::vector<std::string>{};
 }

@@ -157,8 +157,11 @@ std::string ComoUri(const std::string& ruta) {
 
 }  // namespace
 
-Oferta::Oferta(const Escritorio& e, std::string tipo, std::string bytes)
-    : d_(XOpenDisplay(e.Nombre().c_str())), tipo_(std::move(tipo)), bytes_(std::move(bytes)) {
+Oferta::Oferta(const Escritorio& e, std::string tipo, std::string bytes, Trato trato)
+    : d_(XOpenDisplay(e.Nombre().c_str())),
+      tipo_(std::move(tipo)),
+      bytes_(std::move(bytes)),
+      trato_(trato) {
     if (!d_) throw std::runtime_error("no second connection to the private display");
     ventana_ = XCreateSimpleWindow(d_, DefaultRootWindow(d_), 0, 0, 1, 1, 0, 0, 0);
     XSetSelectionOwner(d_, XInternAtom(d_, "CLIPBOARD", False), ventana_, CurrentTime);
@@ -172,12 +175,51 @@ Oferta::~Oferta() {
     XCloseDisplay(d_);
 }
 
+void Oferta::Empieza(const XEvent& e) {
+    const XSelectionRequestEvent& p = e.xselectionrequest;
+    const bool datos = p.target == XInternAtom(d_, tipo_.c_str(), False);
+    if (trato_ == Trato::Calla || (datos && trato_ == Trato::SoloOferta)) return;
+    if (!datos || trato_ == Trato::Cumple) {
+        Responde(d_, p, tipo_, bytes_);
+        return;
+    }
+    // In pieces: first their number of bytes, then each when the one before has been taken away.
+    dado_ = 0;
+    XSelectInput(d_, p.requestor, PropertyChangeMask);
+    const long largo = static_cast<long>(bytes_.size());
+    XChangeProperty(d_, p.requestor, p.property, XInternAtom(d_, "INCR", False), 32,
+                    PropModeReplace, reinterpret_cast<const unsigned char*>(&largo), 1);
+    XEvent r{};
+    r.xselection.type = SelectionNotify;
+    r.xselection.requestor = p.requestor;
+    r.xselection.selection = p.selection;
+    r.xselection.target = p.target;
+    r.xselection.time = p.time;
+    r.xselection.property = p.property;
+    XSendEvent(d_, p.requestor, False, NoEventMask, &r);
+    XFlush(d_);
+}
+
+void Oferta::Sigue(Window quien, Atom propiedad) {
+    constexpr std::size_t TROZO = 200000;
+    const bool otraVez = trato_ == Trato::SinFin;  // all of it, for ever
+    const std::size_t desde = otraVez ? 0 : std::min(dado_, bytes_.size());
+    const std::size_t largo = otraVez ? bytes_.size() : std::min(TROZO, bytes_.size() - desde);
+    dado_ += largo;
+    XChangeProperty(d_, quien, propiedad, XInternAtom(d_, tipo_.c_str(), False), 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(bytes_.data() + desde),
+                    static_cast<int>(largo));
+    XFlush(d_);
+}
+
 void Oferta::Atiende(const std::stop_token& fin) {
     while (!fin.stop_requested()) {
-        while (XPending(d_)) {
+        while (XPending(d_) && !fin.stop_requested()) {
             XEvent e{};
             XNextEvent(d_, &e);
-            if (e.type == SelectionRequest) Responde(d_, e.xselectionrequest, tipo_, bytes_);
+            if (e.type == SelectionRequest) Empieza(e);
+            if (e.type == PropertyNotify && e.xproperty.state == PropertyDelete)
+                Sigue(e.xproperty.window, e.xproperty.atom);
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }

@@ -8,13 +8,24 @@
 
 #include "ventana/Escritorio.h"
 
+union _XEvent;
+
 namespace tessario::ventana {
+
+// How an owner of the clipboard answers.
+enum class Trato {
+    Cumple,      // with what it has
+    Trozos,      // the same in pieces
+    Calla,       // not at all
+    SoloOferta,  // it says what it has, and never hands it out
+    SinFin,      // in pieces that never end
+};
 
 // On the clipboard, from a thread of its own.
 class Oferta {
 public:
     // `tipo` is "image/bmp", "text/uri-list" ...
-    Oferta(const Escritorio& e, std::string tipo, std::string bytes);
+    Oferta(const Escritorio& e, std::string tipo, std::string bytes, Trato trato = Trato::Cumple);
     ~Oferta();
     Oferta(const Oferta&) = delete;
     Oferta& operator=(const Oferta&) = delete;
@@ -24,7 +35,13 @@ private:
 
     _XDisplay* d_ = nullptr;
     unsigned long ventana_ = 0;
+    // Hands out the next piece to whoever has taken the last one away.
+    void Sigue(unsigned long quien, unsigned long propiedad);
+    void Empieza(const _XEvent& e);
+
     std::string tipo_, bytes_;
+    Trato trato_;
+    std::size_t dado_ = 0;  // bytes handed out
     std::jthread hilo_;
 };
 

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What another program offers on the clipboard of an X server, asked for with a limit: the window
+// library waits for an owner that hangs for a minute and more, and takes whatever it sends. Asked
+// over a connection of our own, so that nothing of the library's is disturbed.
+#pragma once
+
+#include <QByteArray>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tessario {
+
+class PortapapelesAjeno {
+public:
+    PortapapelesAjeno();
+    ~PortapapelesAjeno();
+    PortapapelesAjeno(const PortapapelesAjeno&) = delete;
+    PortapapelesAjeno& operator=(const PortapapelesAjeno&) = delete;
+
+    // Is there a clipboard that is to be asked in this way? Not that of another window system, nor
+    // one whose owner we are ourselves.
+    static bool EsDeOtro();
+    // The kinds of data on offer, by their names; none when the owner does not answer.
+    std::vector<std::string> Ofrece();
+    // Data of that kind; empty when they do not come, or are too many.
+    QByteArray Dato(const std::string& clase);
+
+private:
+    class Conexion;
+    std::unique_ptr<Conexion> c_;
+};
+
+}  // namespace tessario
