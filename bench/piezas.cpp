@@ -186,7 +186,7 @@ struct Arrastra {
     i32 ancho, alto;
     i32 paso = 0;
     std::shared_ptr<Bloque> bloque{};
-    std::shared_ptr<Superficie[]> mias{};
+    std::shared_ptr<std::array<Superficie, 5>> mias{};
 
     static Arrastra*& EnMesa() {
         static Arrastra* quien = nullptr;
@@ -199,7 +199,7 @@ struct Arrastra {
     void Cambia() {
         std::swap(Gbl, *bloque);
         const auto s = Superficies();
-        for (std::size_t i = 0; i < s.size(); ++i) s[i]->CambiaDibujo(mias[i]);
+        for (std::size_t i = 0; i < s.size(); ++i) s[i]->CambiaDibujo((*mias)[i]);
     }
     // Piece 1 in hand in the middle of the table.
     void Monta() {
@@ -220,7 +220,7 @@ struct Arrastra {
                 Cambia();
             } else {
                 bloque = std::make_shared<Bloque>();
-                mias.reset(new Superficie[Superficies().size()]);
+                mias = std::make_shared<std::array<Superficie, 5>>();
                 Monta();
             }
         }

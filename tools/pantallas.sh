@@ -65,7 +65,9 @@ for factor in 2 1.5; do
   cierra
 done
 
-servidor Xvfb +xinerama -screen 0 1280x1024x24 -screen 1 800x600x24 -nolisten tcp
+servidor Xvfb -screen 0 2080x1024x24 -nolisten tcp -noreset
+xrandr --setmonitor uno 1280/300x1024/200+0+0 screen
+xrandr --setmonitor dos 800/300x600/200+1280+0 none
 juega
 foto dos
 cierra

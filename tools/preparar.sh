@@ -4,7 +4,7 @@
 # pruebas (to test), fuzz (to fuzz), bench (to measure) and paquete (to make the Debian package). A complete machine is only asked, and nothing is done.
 
 PAQUETES_juego="g++ cmake ninja-build qt6-base-dev libsdl2-dev libxcb1-dev fonts-liberation2"
-PAQUETES_pruebas="python3 clang-format clang-tidy desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick"
+PAQUETES_pruebas="python3 clang-format clang-tidy desktop-file-utils appstream libgtest-dev libx11-dev libxtst-dev xvfb openbox imagemagick x11-xserver-utils"
 PAQUETES_fuzz="clang libgtest-dev"
 PAQUETES_bench="libbenchmark-dev libpixman-1-dev pkgconf"
 PAQUETES_paquete="debhelper lintian fakeroot dpkg-dev"

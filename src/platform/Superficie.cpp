@@ -6,6 +6,22 @@
 
 namespace tessario {
 
+namespace {
+
+// Appends what lies of a rectangle outside another one.
+void Resta(const Rect& v, const Rect& r, std::vector<Rect>& queda) {
+    const Rect c = Interseccion(v, r);
+    if (c.Vacio()) {
+        queda.push_back(v);
+        return;
+    }
+    for (const Rect& parte : {Rect{v.Izq, v.Arr, v.Der, c.Arr}, Rect{v.Izq, c.Aba, v.Der, v.Aba},
+                              Rect{v.Izq, c.Arr, c.Izq, c.Aba}, Rect{c.Der, c.Arr, v.Der, c.Aba}})
+        if (!parte.Vacio()) queda.push_back(parte);
+}
+
+}  // namespace
+
 void Superficie::CopiaSuelo(i32 y, i32 x0, i32 x1, Pixel* destino) const {
     i32 x = x0;
     if (picture_ && y < picture_->Alto && x < picture_->Ancho) {
@@ -37,6 +53,7 @@ void Superficie::Tamano(i32 ancho, i32 alto) {
         }
         dibujo_ = std::move(nuevo);
     }
+    finos_.clear();
     // Whatever was noted for the old size is part of the whole.
     sucio_ = tocado_ = Limites();
 }
@@ -110,8 +127,18 @@ void SelectClipRgn(Superficie& s, const Region* r) {
     s.PonRecorte(r);
 }
 
+void Superficie::CortaFinos(const Rect& r) {
+    for (TextoFino& t : finos_) {
+        std::vector<Rect> queda;
+        for (const Rect& v : t.Vale) Resta(v, r, queda);
+        t.Vale = std::move(queda);
+    }
+    std::erase_if(finos_, [](const TextoFino& t) { return t.Vale.empty(); });
+}
+
 void Superficie::Marca(const Rect& r) {
     const Rect visible = Interseccion(r, Limites());
+    if (!finos_.empty()) CortaFinos(visible);
     sucio_ = Union(sucio_, visible);
     tocado_ = Union(tocado_, visible);
 }

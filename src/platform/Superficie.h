@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Region.h"
@@ -34,6 +35,15 @@ struct Mapa {
 
 // A picture that several surfaces may share; null is no picture.
 using Imagen = std::shared_ptr<const Mapa>;
+
+// A text in the pixels of a screen that has `Factor` of them, either way, for one of the surface's.
+// It is shown in place of the surface's own where nothing has been drawn since.
+struct TextoFino {
+    i32 Izq = 0, Arr = 0;  // its corner, in the surface's pixels
+    i32 Factor = 1;
+    Mapa Pixeles;
+    std::vector<Rect> Vale;  // in the surface's pixels
+};
 
 enum class Familia { Sans, Mono };
 
@@ -144,6 +154,12 @@ public:
     i32 TextWidth(std::string_view texto) const;
     i32 TextHeight(std::string_view texto) const;
 
+    // --- Texts in the fine pixels of a dense screen, beside the plain ones. Drawing takes them
+    // away where it goes.
+    const std::vector<TextoFino>& Finos() const { return finos_; }
+    void PonFino(TextoFino t) { finos_.push_back(std::move(t)); }
+    bool Auxiliar = false;  // never shown itself: it has no use for them
+
     // --- Clipping.
     const Region* Recorte() const { return conRecorte_ ? &recorte_ : nullptr; }
     void PonRecorte(const Region* r);
@@ -176,6 +192,7 @@ public:
 private:
     void BorraDibujo();
     void HazDibujo() const;
+    void CortaFinos(const Rect& r);
     // Has it so many pixels that they are made on demand?
     bool EsGrande() const {
         return static_cast<std::size_t>(ancho_) * static_cast<std::size_t>(alto_) >=
@@ -190,6 +207,7 @@ private:
     Region recorte_;
     bool conRecorte_ = false;
     Rect sucio_, tocado_;
+    std::vector<TextoFino> finos_;
 };
 
 // Removes the clip when the region is null.

@@ -57,6 +57,7 @@ struct FinDelPrograma {};
 
 PlataformaQt::PlataformaQt()
     : VentanasDentro(QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+    textos().Escala = static_cast<i32>(qGuiApp->devicePixelRatio());
     reloj_.start();
     espera_.setSingleShot(true);
     espera_.setInterval(0);

@@ -114,6 +114,44 @@ i32 Textos::Alto(const Fuente& f) {
     return Entrada(f).medida.height();
 }
 
+void PintaFino(QPainter& p, const TextoFino& t, const Rect& caja) {
+    const QImage fino(reinterpret_cast<const uchar*>(t.Pixeles.Pixeles.data()), t.Pixeles.Ancho,
+                      t.Pixeles.Alto, static_cast<qsizetype>(t.Pixeles.Ancho) * 4,
+                      QImage::Format_RGB32);
+    const i32 f = t.Factor;
+    for (const Rect& v : t.Vale) {
+        const Rect r = Interseccion(v, caja);
+        if (r.Vacio()) continue;
+        p.drawImage(QRectF(r.Izq, r.Arr, r.Ancho(), r.Alto()), fino,
+                    QRectF((r.Izq - t.Izq) * f, (r.Arr - t.Arr) * f, r.Ancho() * f, r.Alto() * f));
+    }
+}
+
+namespace {
+
+// What the screen shows of a box so far: its pixels as squares, its fine texts.
+TextoFino Ampliado(const Superficie& s, const Rect& caja, i32 f) {
+    TextoFino t{caja.Izq, caja.Arr, f, Mapa(caja.Ancho() * f, caja.Alto() * f), {caja}};
+    for (i32 y = 0; y < t.Pixeles.Alto; ++y) {
+        const Pixel* const o = s.Fila(caja.Arr + y / f) + caja.Izq;
+        Pixel* const d = t.Pixeles.Fila(y);
+        for (i32 x = 0; x < t.Pixeles.Ancho; ++x) d[x] = o[x / f];
+    }
+    return t;
+}
+
+QImage Lienzo(Mapa& m) {
+    return {reinterpret_cast<uchar*>(m.Pixeles.data()), m.Ancho, m.Alto,
+            static_cast<qsizetype>(m.Ancho) * 4, QImage::Format_RGB32};
+}
+
+// The painter leaves 0xFF in the upper byte of what it blends; ours is always 0.
+void QuitaOpacidad(Pixel* p, i32 cuantos) {
+    for (i32 i = 0; i < cuantos; ++i) p[i] &= 0xFFFFFFU;
+}
+
+}  // namespace
+
 void Textos::Pinta(Superficie& s, i32 x, i32 y, std::string_view texto, const Fuente& f,
                    Color color) {
     if (texto.empty() || s.Limites().Vacio()) return;
@@ -125,23 +163,39 @@ void Textos::Pinta(Superficie& s, i32 x, i32 y, std::string_view texto, const Fu
         s.Limites(),
         {x - REBORDE, y - REBORDE, x + Ancho(f, texto) + REBORDE, y + e.medida.height() + REBORDE});
     if (caja.Vacio()) return;
-    {
-        QImage lienzo(reinterpret_cast<uchar*>(s.Fila(0)), s.Width(), s.Height(),
-                      static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32);
-        QPainter p(&lienzo);
+    // The painter counts in the surface's pixels.
+    const auto escribe = [&](QPainter& p) {
         QRegion recorte(caja.Izq, caja.Arr, caja.Ancho(), caja.Alto());
         if (s.Recorte()) recorte &= RegionQt(*s.Recorte());
         p.setClipRegion(recorte);
         p.setFont(e.letra);
         p.setPen(QColor::fromRgb(PixelDe(color)));
         p.drawText(x, y + e.medida.ascent(), Qs(texto));
+    };
+    TextoFino fino;
+    const bool afina = Escala > 1 && !s.Auxiliar;
+    if (afina) {
+        fino = Ampliado(s, caja, Escala);
+        QImage lienzo = Lienzo(fino.Pixeles);
+        QPainter p(&lienzo);
+        p.scale(Escala, Escala);
+        p.translate(-caja.Izq, -caja.Arr);
+        for (const TextoFino& t : s.Finos())
+            if (t.Factor == Escala) PintaFino(p, t, caja);
+        escribe(p);
+        p.end();
+        QuitaOpacidad(fino.Pixeles.Pixeles.data(), fino.Pixeles.Ancho * fino.Pixeles.Alto);
     }
-    // The painter leaves 0xFF in the upper byte of what it blends; ours is always 0.
-    for (i32 fila = caja.Arr; fila < caja.Aba; ++fila) {
-        Pixel* const p = s.Fila(fila);
-        for (i32 col = caja.Izq; col < caja.Der; ++col) p[col] &= 0xFFFFFFU;
+    {
+        QImage lienzo(reinterpret_cast<uchar*>(s.Fila(0)), s.Width(), s.Height(),
+                      static_cast<qsizetype>(s.Width()) * 4, QImage::Format_RGB32);
+        QPainter p(&lienzo);
+        escribe(p);
     }
+    for (i32 fila = caja.Arr; fila < caja.Aba; ++fila)
+        QuitaOpacidad(s.Fila(fila) + caja.Izq, caja.Ancho());
     s.Marca(caja);
+    if (afina) s.PonFino(std::move(fino));
 }
 
 std::vector<Renglon> Textos::Renglones(const Fuente& f, std::string_view texto, i32 ancho) {

@@ -26,8 +26,16 @@ struct Renglon {
     bool lleno = false;
 };
 
+// Paints a fine text, where it holds within a box of the surface. The painter counts in the
+// surface's pixels and has the text's factor.
+void PintaFino(QPainter& p, const TextoFino& t, const Rect& caja);
+
 class Textos {
 public:
+    // Pixels of the screen, either way, for one of a surface's: above 1 what is painted on a
+    // surface is kept in the screen's own pixels too.
+    i32 Escala = 1;
+
     i32 Ancho(const Fuente& f, std::string_view texto);
     i32 Alto(const Fuente& f);
     // Paints the text with its top left at (x, y), clipped to the surface and its clip region.

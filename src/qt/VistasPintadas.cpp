@@ -49,6 +49,15 @@ QRegion PintaMapa(QPainter& p, const Mapa& m, const QRegion& region) {
     return suya;
 }
 
+// The texts in the screen's own pixels, over the plain ones.
+void PintaFinos(QPainter& p, const Superficie& s, const QRegion& region) {
+    const qreal escala = p.deviceTransform().m11();
+    for (const TextoFino& t : s.Finos())
+        if (t.Factor == escala)
+            for (const QRect& r : region)
+                PintaFino(p, t, RectDe(r.x(), r.y(), r.width(), r.height()));
+}
+
 // The upper byte of our pixels is 0. The window system takes no notice, but a compositor hands it
 // on with its pictures of the screen, where it says how opaque a pixel is.
 void HazOpaca(QPainter& p, const QRegion& region) {
@@ -74,6 +83,7 @@ void PintaSuperficie(QWidget& w, const Superficie& s, const QPaintEvent& e) {
     else if (s.Picture())
         fuera -= PintaMapa(p, *s.Picture(), fuera & limites);
     for (const QRect& r : fuera) p.fillRect(r, Fondo(s));
+    PintaFinos(p, s, e.region());
     HazOpaca(p, e.region());
 }
 
@@ -181,7 +191,10 @@ void VistaCuadro::PintaCara(QPainter& p, int cara) const {
         if (cuadro_.Caras && r == rect()) {
             const QPoint paso = hundida ? QPoint(1, 1) : QPoint(-1, -1);
             p.fillRect(r, Fondo(cuadro_));
-            p.drawImage(paso, Lienzo(cuadro_.Dibujo()));
+            p.translate(paso);
+            p.drawImage(QPoint(), Lienzo(cuadro_.Dibujo()));
+            PintaFinos(p, cuadro_, rect());
+            p.translate(-paso);
             tecla = r.adjusted(1, 1, -2, -2).translated(paso);
         }
         p.fillRect(tecla, hundida ? SOMBRA : LUZ);

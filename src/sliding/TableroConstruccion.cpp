@@ -43,6 +43,7 @@ void EstiraImagen(Superficie& destino, i32 x, i32 y, i32 ancho, i32 alto) {
 }
 
 void EligeLetra(Superficie& s) {
+    s.Auxiliar = true;  // the labels go on to the pieces as plain pixels
     s.Font.Negrita = true;
     for (i16 tamano = LETRA_MENOR; tamano <= LETRA_MAYOR; ++tamano) {
         s.Font.Tamano = tamano;

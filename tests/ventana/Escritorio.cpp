@@ -103,7 +103,7 @@ void Foto::Guarda(const std::string& nombre) const {
     if (std::system(orden.c_str()) != 0) std::fprintf(stderr, "no PNG for %s\n", nombre.c_str());
 }
 
-Escritorio::Escritorio(int ancho, int alto, Gestor gestor) {
+Escritorio::Escritorio(int ancho, int alto, Gestor gestor) : ancho_(ancho) {
     int tubo[2];
     if (pipe(tubo) != 0) throw std::runtime_error("pipe");
     servidor_ = Lanza({{"Xvfb", "-displayfd", std::to_string(tubo[1]), "-screen", "0",
@@ -143,6 +143,19 @@ Escritorio::~Escritorio() {
     if (d_) XCloseDisplay(d_);
     Termina(gestor_);
     Termina(servidor_);
+}
+
+bool Escritorio::PonMonitores(const Monitor& a, const Monitor& b) {
+    // The server has one output; the other monitor does without.
+    const auto pon = [&](const Monitor& m, const char* nombre, const char* salida) {
+        const std::string orden = "xrandr -d " + nombre_ + " --setmonitor '" +
+                                  (m.primero ? "*" : "") + nombre + "' " + std::to_string(m.ancho) +
+                                  "/300x" + std::to_string(m.alto) + "/200+" + std::to_string(m.x) +
+                                  "+0 " + salida + " >/dev/null 2>&1";
+        if (m.primero) ancho_ = m.ancho;
+        return std::system(orden.c_str()) == 0;
+    };
+    return pon(a, "uno", "screen") && pon(b, "dos", "none");
 }
 
 void Escritorio::Mueve(int x, int y, int reposo) {
@@ -233,9 +246,8 @@ Foto Escritorio::Mira() {
 
 bool Escritorio::BuscaVentana(const std::string& titulo, Marco& marco) {
     const Window raiz = DefaultRootWindow(d_);
-    const int todo = DisplayWidth(d_, DefaultScreen(d_));
     return Recorre(d_, raiz, [&](Window w, const XWindowAttributes& a) {
-        if (a.width >= todo || Propiedad(d_, w, "_NET_WM_NAME") != titulo) return false;
+        if (a.width >= ancho_ || Propiedad(d_, w, "_NET_WM_NAME") != titulo) return false;
         Window hija = 0;
         marco = {0, 0, a.width, a.height};
         XTranslateCoordinates(d_, w, raiz, 0, 0, &marco.x, &marco.y, &hija);

@@ -46,6 +46,14 @@ public:
     Escritorio(const Escritorio&) = delete;
     Escritorio& operator=(const Escritorio&) = delete;
 
+    // From now on the desktop consists of two screens side by side, one of which is the first.
+    // False: that could not be done.
+    struct Monitor {
+        int x, ancho, alto;
+        bool primero;
+    };
+    bool PonMonitores(const Monitor& a, const Monitor& b);
+
     void Mueve(int x, int y, int reposo = 12);  // ms to stay there
     void Aprieta(int boton = 1);                // 1 left, 3 right
     void Suelta(int boton = 1);
@@ -81,6 +89,7 @@ private:
 
     _XDisplay* d_ = nullptr;
     std::string nombre_;  // ":N"
+    int ancho_ = 0;       // of the first screen
     pid_t servidor_ = 0, gestor_ = 0;
     long ping_ = 0;  // of the last one asked
 };

@@ -67,6 +67,26 @@ protected:
             if (!f.is_directory()) nombres.insert(f.path().lexically_relative(casa_));
         return nombres;
     }
+    // All that lies in the home and is neither the data folder, nor on the way to it, nor in it.
+    std::set<std::string> FueraDeDatos() const {
+        const std::string datos = ".local/share/tessario/";
+        std::set<std::string> nombres;
+        for (const auto& f : fs::recursive_directory_iterator(casa_)) {
+            const std::string ruta = f.path().lexically_relative(casa_).string() + "/";
+            if (datos.rfind(ruta, 0) != 0 && ruta.rfind(datos, 0) != 0) nombres.insert(ruta);
+        }
+        return nombres;
+    }
+    // What lies beside the installed program and the home.
+    std::set<std::string> EnLaRaiz() const {
+        std::set<std::string> nombres;
+        for (const auto& f : fs::directory_iterator(raiz_)) nombres.insert(f.path().filename());
+        return nombres;
+    }
+    static unsigned DuenoDe(pid_t pid) {
+        struct stat s {};
+        return stat(("/proc/" + std::to_string(pid)).c_str(), &s) == 0 ? s.st_uid : 0;
+    }
     // What the user owns in the folders that belong to everybody.
     std::set<std::string> Ajenos() const {
         std::set<std::string> nombres;
@@ -109,6 +129,8 @@ TEST_F(InstaladoVentana, AnOrdinaryUserPlaysTwiceAndAllIsInTheOwnFolder) {
     // A piece is laid, the puzzle saved, the program left.
     programa.Lanzalo(entorno);
     ASSERT_TRUE(programa.LlegaALaMesa());
+    ASSERT_NE(usuario_, 0U);
+    EXPECT_EQ(DuenoDe(programa.Pid()), usuario_);
     constexpr const char* PARTIDA = "TSR2133.INI";
     const PartidaLeida repartida = programa.LeeRecord(PARTIDA);
     ASSERT_EQ(repartida.piezas.size(), 25U);
@@ -135,6 +157,7 @@ TEST_F(InstaladoVentana, AnOrdinaryUserPlaysTwiceAndAllIsInTheOwnFolder) {
     // player's own pictures, whose folder is a place in the settings.
     programa.Lanzalo(entorno);
     ASSERT_TRUE(programa.LlegaALaMesa());
+    EXPECT_EQ(DuenoDe(programa.Pid()), usuario_);
     EXPECT_EQ(programa.LeeRecord(PARTIDA).piezas[0].x, q.xBien);
     const std::string foto = (raiz_ / "cuadros.bmp").string();
     Programa::EscribeEn(foto, Programa::ImagenDeCuadros(480, 360, 3));
@@ -157,8 +180,11 @@ TEST_F(InstaladoVentana, AnOrdinaryUserPlaysTwiceAndAllIsInTheOwnFolder) {
 
     EXPECT_EQ(Huellas(raiz_ / "usr"), antes) << "the program's own folders";
     EXPECT_EQ(Ajenos(), std::set<std::string>{});
-    for (const std::string& f : Ficheros())
-        EXPECT_EQ(f.rfind(".local/share/tessario/", 0), 0U) << f;
+    EXPECT_EQ(FueraDeDatos(), std::set<std::string>{});
+    EXPECT_EQ(EnLaRaiz(), (std::set<std::string>{"casa", "casa-errores.txt", "cuadros.bmp",
+                                                 "instala.txt", "sesion", "usr"}));
+    for (const auto& f : fs::recursive_directory_iterator(sesion))
+        EXPECT_FALSE(f.is_regular_file()) << f.path();
 }
 
 }  // namespace
