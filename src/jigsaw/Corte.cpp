@@ -52,14 +52,7 @@ void PreparaMesa() {
     const int flags = pluma::Desde | pluma::ConColor;
     marco.Line(flags, x, -1, x, y, Gbl.ColorContraste);
     marco.Line(flags, -1, y, x, y, Gbl.ColorContraste);
-    const Imagen suelo = marco.ImageJusta();
-    const std::initializer_list<Superficie*> mesas{&Pic_Imagen, &Pic_Trabajo, &Pic_Fondo};
-    for (Superficie* const mesa : mesas) {
-        mesa->Tamano(ancho, alto);
-        mesa->PonBackColor(Gbl.ColorFondo);
-        mesa->PonPicture(suelo);
-    }
-    MesaMostrada();
+    TiendeMesa(ancho, alto, marco.ImageJusta());
 }
 
 // The box of a piece is its cell; the interlocking shapes widen it.

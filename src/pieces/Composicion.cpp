@@ -153,9 +153,14 @@ void Pic_Trabajo_Paint() {
     Pic_Trabajo.TomaTocado();  // the copy itself is no difference
 }
 
-void MesaMostrada() {
-    Pic_Imagen.TomaTocado();
-    Pic_Trabajo.TomaTocado();
+void TiendeMesa(i32 ancho, i32 alto, const Imagen& suelo) {
+    const std::initializer_list<Superficie*> mesas{&Pic_Imagen, &Pic_Trabajo, &Pic_Fondo};
+    for (Superficie* const mesa : mesas) {
+        mesa->Tamano(ancho, alto);
+        mesa->PonBackColor(Gbl.ColorFondo);
+        mesa->PonPicture(suelo);
+        mesa->TomaTocado();  // they are equal: there is nothing to copy
+    }
 }
 
 }  // namespace tessario

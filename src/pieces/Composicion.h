@@ -29,7 +29,8 @@ Rect CajaDePieza(i16 piece);
 void MuestraCaja(const Rect& caja);
 // Shows all that has been composed.
 void Pic_Trabajo_Paint();
-// Pic_Trabajo has been made to show what Pic_Imagen does: there is nothing to copy.
-void MesaMostrada();
+// The empty table, so many pixels, on all its surfaces: the table's colour with this picture on it.
+// They keep no pixels of their own until something is drawn.
+void TiendeMesa(i32 ancho, i32 alto, const Imagen& suelo);
 
 }  // namespace tessario

@@ -61,31 +61,26 @@ void PreparaMuestra() {
     Pic_Muestra.Visible = Gbl.MostrarMuestra;
 }
 
-void PintaMarcoHundido(Superficie& s) {
+// Drawn on a sheet as large as the frame, so that the table keeps no pixels yet.
+Superficie MarcoHundido() {
     const i32 izq = Gbl.MargenX - FUERA_MARCO;
     const i32 arr = Gbl.MargenY - FUERA_MARCO;
     const i32 der = izq + Gbl.AnchoPuzzle + CRECE_MARCO;
     const i32 aba = arr + Gbl.AltoPuzzle + CRECE_MARCO;
+    Superficie s(std::min<i32>(der + GROSOR_MARCO, Gbl.AnchoPantalla),
+                 std::min<i32>(aba + GROSOR_MARCO, Gbl.AltoPantalla));
+    s.PonBackColor(Gbl.ColorFondo);
     constexpr int recta = pluma::Desde | pluma::ConColor;
     s.DrawWidth = GROSOR_MARCO;
     s.Line(recta | pluma::Caja, izq, arr, der, aba, Gbl.ColorFondoClaro);
     s.Line(recta, izq, arr, der, arr, Gbl.ColorFondoOscuro);
     s.Line(recta, izq, arr, izq, aba, Gbl.ColorFondoOscuro);
-    s.DrawWidth = 1;
+    return s;
 }
 
 // The table fills the screen: this game never scrolls.
 void PreparaMesaVacia() {
-    Pic_Imagen.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Imagen.PonBackColor(Gbl.ColorFondo);
-    Pic_Imagen.PonPicture(nullptr);
-    PintaMarcoHundido(Pic_Imagen);
-    Pic_Imagen.PonPicture(Pic_Imagen.ImageJusta());
-    Pic_Trabajo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Trabajo_Paint();
-    Pic_Fondo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Fondo.PonBackColor(Gbl.ColorFondo);
-    Pic_Fondo.PonPicture(Pic_Imagen.Picture());
+    TiendeMesa(Gbl.AnchoPantalla, Gbl.AltoPantalla, MarcoHundido().ImageJusta());
 }
 
 std::string Rotulo(i32 piece) {

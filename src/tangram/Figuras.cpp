@@ -33,13 +33,7 @@ void QuitaLoQueSobra() {
 void PintaMesa() {
     Despeja(Pic_Imagen, Gbl.ColorFondo);
     if (Gbl.ModoJuego == MODO_RESOLVER) TPintaFigura(Pic_Imagen);
-    const Imagen mesa = Pic_Imagen.ImageJusta();
-    Pic_Imagen.PonPicture(mesa);
-    Pic_Trabajo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Trabajo_Paint();
-    Pic_Fondo.Tamano(Gbl.AnchoPantalla, Gbl.AltoPantalla);
-    Pic_Fondo.PonBackColor(Gbl.ColorFondo);
-    Pic_Fondo.PonPicture(mesa);
+    TiendeMesa(Gbl.AnchoPantalla, Gbl.AltoPantalla, Pic_Imagen.ImageJusta());
 }
 
 // When creating, no piece has a place of its own.
