@@ -33,7 +33,8 @@ constexpr unsigned long DESCANSO_US = 1000;
 constexpr int REPOSO_PANTALLA_MS = 150;
 
 constexpr const char* CLASE_FICHEROS = "text/uri-list";
-constexpr std::size_t CLASES_PROBADAS = 3;  // kinds of picture that are asked for
+constexpr qsizetype FICHEROS_BYTES = qsizetype{1} << 20U;  // of a list of files
+constexpr std::size_t CLASES_PROBADAS = 3;                 // kinds of picture that are asked for
 
 // The kinds of picture on offer, those first that lose nothing.
 std::vector<std::string> ClasesDeImagen(const std::vector<std::string>& oferta) {
@@ -416,7 +417,7 @@ std::vector<std::string> PlataformaQt::PortapapelesFicheros() {
         const std::vector<std::string> clases = ajeno.Ofrece();
         if (std::find(clases.begin(), clases.end(), CLASE_FICHEROS) == clases.end()) return {};
         QMimeData datos;
-        datos.setData(QLatin1String(CLASE_FICHEROS), ajeno.Dato(CLASE_FICHEROS));
+        datos.setData(QLatin1String(CLASE_FICHEROS), ajeno.Dato(CLASE_FICHEROS, FICHEROS_BYTES));
         return FicherosDe(datos);
     }
     const QMimeData* const datos = QGuiApplication::clipboard()->mimeData();

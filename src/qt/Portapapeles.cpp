@@ -4,12 +4,16 @@
 #include <poll.h>
 #include <xcb/xcb.h>
 
-#include <QClipboard>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
 #include <algorithm>
 #include <cstdlib>
 #include <string_view>
+
+#include "records/Texto.h"
 
 namespace tessario {
 
@@ -18,9 +22,9 @@ namespace {
 constexpr int OFERTA_MS = 1000;   // until an owner that lives has said what it offers
 constexpr int DATO_MS = 5000;     // without anything new from it
 constexpr int ENTERO_MS = 10000;  // for one kind of data, all of it
-constexpr qsizetype BYTES_MAXIMOS = qsizetype{256} << 20U;
-constexpr uint32_t PEDAZO = 1U << 18U;     // words of a property that are read at a time
-constexpr uint32_t ATOMOS_MAXIMOS = 4096;  // kinds of data that one owner offers
+constexpr qsizetype TEXTO_MAXIMO = qsizetype{1} << 20U;
+constexpr uint32_t PEDAZO = 1U << 18U;  // words of a property that are read at a time
+constexpr qsizetype OFERTA_MAXIMA = 4096 * sizeof(xcb_atom_t);  // of so many kinds of data
 
 // What the server's library hands out is freed like memory.
 struct Libera {
@@ -33,7 +37,7 @@ using Suyo = std::unique_ptr<T, Libera>;
 
 class PortapapelesAjeno::Conexion {
 public:
-    Conexion() : c_(xcb_connect(nullptr, nullptr)) {
+    explicit Conexion(const char* seleccion) : c_(xcb_connect(nullptr, nullptr)) {
         if (!Vale()) return;
         const xcb_screen_t* const pantalla = xcb_setup_roots_iterator(xcb_get_setup(c_)).data;
         ventana_ = xcb_generate_id(c_);
@@ -41,7 +45,7 @@ public:
         xcb_create_window(c_, XCB_COPY_FROM_PARENT, ventana_, pantalla->root, 0, 0, 1, 1, 0,
                           XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
                           &sucesos);
-        portapapeles_ = Atomo("CLIPBOARD");
+        portapapeles_ = Atomo(seleccion);
         propiedad_ = Atomo("TESSARIO_PORTAPAPELES");
         a_trozos_ = Atomo("INCR");
     }
@@ -68,9 +72,10 @@ public:
 
     // What the owner puts into our property when it is asked for this; `espera` is for its first
     // answer.
-    QByteArray Pide(xcb_atom_t clase, int espera) {
+    QByteArray Pide(xcb_atom_t clase, int espera, qsizetype maximo) {
         if (!Vale() || clase == XCB_ATOM_NONE) return {};
         reloj_.start();
+        maximo_ = maximo;
         xcb_delete_property(c_, ventana_, propiedad_);
         xcb_convert_selection(c_, ventana_, portapapeles_, clase, propiedad_, XCB_CURRENT_TIME);
         xcb_flush(c_);
@@ -116,7 +121,7 @@ private:
             if (!r) return false;
             tipo = r->type;
             const int largo = xcb_get_property_value_length(r.get());
-            if (bytes.size() + largo + static_cast<qsizetype>(r->bytes_after) > BYTES_MAXIMOS)
+            if (bytes.size() + largo + static_cast<qsizetype>(r->bytes_after) > maximo_)
                 return false;
             bytes.append(static_cast<const char*>(xcb_get_property_value(r.get())), largo);
             if (r->bytes_after == 0) return true;
@@ -141,29 +146,77 @@ private:
     xcb_window_t ventana_ = 0;
     xcb_atom_t portapapeles_ = 0, propiedad_ = 0, a_trozos_ = 0;
     QElapsedTimer reloj_;
-    bool hay_ = false;  // the owner has something of the kind
+    qsizetype maximo_ = 0;  // bytes
+    bool hay_ = false;      // the owner has something of the kind
 };
 
-PortapapelesAjeno::PortapapelesAjeno() : c_(std::make_unique<Conexion>()) {}
+PortapapelesAjeno::PortapapelesAjeno(QClipboard::Mode cual)
+    : c_(std::make_unique<Conexion>(cual == QClipboard::Selection ? "PRIMARY" : "CLIPBOARD")) {}
 PortapapelesAjeno::~PortapapelesAjeno() = default;
 
-bool PortapapelesAjeno::EsDeOtro() {
-    return QGuiApplication::platformName() == QLatin1String("xcb") &&
-           !QGuiApplication::clipboard()->ownsClipboard();
+bool PortapapelesAjeno::EsDeOtro(QClipboard::Mode cual) {
+    const QClipboard& c = *QGuiApplication::clipboard();
+    const bool nuestro = cual == QClipboard::Selection ? c.ownsSelection() : c.ownsClipboard();
+    return QGuiApplication::platformName() == QLatin1String("xcb") && !nuestro;
 }
 
 std::vector<std::string> PortapapelesAjeno::Ofrece() {
     std::vector<std::string> clases;
-    const QByteArray bytes = c_->Pide(c_->Atomo("TARGETS"), OFERTA_MS);
+    const QByteArray bytes = c_->Pide(c_->Atomo("TARGETS"), OFERTA_MS, OFERTA_MAXIMA);
     const auto* const atomos = reinterpret_cast<const xcb_atom_t*>(bytes.constData());
-    const auto cuantos = std::min<std::size_t>(
-        static_cast<std::size_t>(bytes.size()) / sizeof(xcb_atom_t), ATOMOS_MAXIMOS);
+    const std::size_t cuantos = static_cast<std::size_t>(bytes.size()) / sizeof(xcb_atom_t);
     for (std::size_t i = 0; i < cuantos; ++i) clases.push_back(c_->Nombre(atomos[i]));
     return clases;
 }
 
-QByteArray PortapapelesAjeno::Dato(const std::string& clase) {
-    return c_->Pide(c_->Atomo(clase), DATO_MS);
+QByteArray PortapapelesAjeno::Dato(const std::string& clase, qsizetype maximo) {
+    return c_->Pide(c_->Atomo(clase), DATO_MS, maximo);
+}
+
+namespace {
+
+QString Texto(QClipboard::Mode cual) {
+    PortapapelesAjeno ajeno(cual);
+    const std::vector<std::string> clases = ajeno.Ofrece();
+    for (const char* clase : {"UTF8_STRING", "text/plain;charset=utf-8", "STRING", "text/plain"}) {
+        if (std::find(clases.begin(), clases.end(), clase) == clases.end()) continue;
+        const QByteArray bytes = ajeno.Dato(clase, TEXTO_MAXIMO);
+        return QString::fromStdString(TextoDeRuta(bytes.toStdString()));
+    }
+    return {};
+}
+
+class Pegador : public QObject {
+public:
+    explicit Pegador(QLineEdit& linea) : QObject(&linea), linea_(linea) {
+        linea.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* quien, QEvent* e) override {
+        if (e->type() == QEvent::KeyPress &&
+            static_cast<QKeyEvent*>(e)->matches(QKeySequence::Paste))
+            return Pega(QClipboard::Clipboard);
+        if (e->type() == QEvent::MouseButtonRelease &&
+            static_cast<QMouseEvent*>(e)->button() == Qt::MiddleButton)
+            return Pega(QClipboard::Selection);
+        return QObject::eventFilter(quien, e);
+    }
+
+private:
+    // False: the library does it.
+    bool Pega(QClipboard::Mode cual) {
+        if (!PortapapelesAjeno::EsDeOtro(cual)) return false;
+        linea_.insert(Texto(cual));
+        return true;
+    }
+    QLineEdit& linea_;
+};
+
+}  // namespace
+
+void PegaConLimite(QLineEdit& linea) {
+    new Pegador(linea);
 }
 
 }  // namespace tessario

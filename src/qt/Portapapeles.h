@@ -5,30 +5,39 @@
 #pragma once
 
 #include <QByteArray>
+#include <QClipboard>
 #include <memory>
 #include <string>
 #include <vector>
+
+class QLineEdit;
 
 namespace tessario {
 
 class PortapapelesAjeno {
 public:
-    PortapapelesAjeno();
+    // Of the two that an X server has: what was copied, or what is marked somewhere.
+    explicit PortapapelesAjeno(QClipboard::Mode cual = QClipboard::Clipboard);
     ~PortapapelesAjeno();
     PortapapelesAjeno(const PortapapelesAjeno&) = delete;
     PortapapelesAjeno& operator=(const PortapapelesAjeno&) = delete;
 
     // Is there a clipboard that is to be asked in this way? Not that of another window system, nor
     // one whose owner we are ourselves.
-    static bool EsDeOtro();
+    static bool EsDeOtro(QClipboard::Mode cual = QClipboard::Clipboard);
     // The kinds of data on offer, by their names; none when the owner does not answer.
     std::vector<std::string> Ofrece();
-    // Data of that kind; empty when they do not come, or are too many.
-    QByteArray Dato(const std::string& clase);
+    // Data of that kind; empty when they do not come, or are more than `maximo` bytes.
+    QByteArray Dato(const std::string& clase, qsizetype maximo = BYTES_MAXIMOS);
+
+    static constexpr qsizetype BYTES_MAXIMOS = qsizetype{256} << 20U;
 
 private:
     class Conexion;
     std::unique_ptr<Conexion> c_;
 };
+
+// From now on the keys and the button that paste into this box ask with a limit.
+void PegaConLimite(QLineEdit& linea);
 
 }  // namespace tessario

@@ -23,6 +23,7 @@
 
 #include "qt/Estilo.h"
 #include "qt/Lienzo.h"
+#include "qt/Portapapeles.h"
 #include "qt/Textos.h"
 
 namespace tessario {
@@ -138,6 +139,7 @@ VentanaAyuda::VentanaAyuda()
         // The page's text is there once the browser is done.
         QTimer::singleShot(0, this, [this] { MarcaHalladas(); });
     });
+    PegaConLimite(*busca_);
     connect(busca_, &QLineEdit::textChanged, this, [this](const QString& t) { RellenaIndice(t); });
     connect(busca_, &QLineEdit::returnPressed, this, [this] { Abre(indice_->item(0)); });
     connect(indice_, &QListWidget::itemClicked, this, &VentanaAyuda::Abre);

@@ -10,6 +10,7 @@
 
 #include "platform/Ficheros.h"
 #include "qt/Estilo.h"
+#include "qt/Portapapeles.h"
 #include "records/Texto.h"
 
 namespace tessario {
@@ -99,6 +100,7 @@ VistaTexto::VistaTexto(CajaTexto& c, MarcoDeVistas& v, QWidget* padre)
     PonInterior(linea_);
     linea_->setFont(FuenteQt(fuente_));
     linea_->setContextMenuPolicy(Qt::NoContextMenu);
+    PegaConLimite(*linea_);
     connect(linea_, &QLineEdit::textEdited, this, [this](const QString& texto) {
         if (!Viva()) return;
         visto_ = texto.toStdString();

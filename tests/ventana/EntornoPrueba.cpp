@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char *PERSONAL = "Personalizar", *NO_ES_IMAGEN = "Imagen no válida",
-                     *PARAMETROS = "Parámetros del puzzle",
+                     *GUARDAR = "Archivar el puzzle actual", *PARAMETROS = "Parámetros del puzzle",
                      *SIN_AJUSTES = "Error en la carga de datos iniciales";
 constexpr int SALIR_X = 612, SALIR_Y = 511;  // of the settings' exit button, in the jigsaw
 constexpr int CUELGUE_MS = 40000;            // what takes longer hangs
@@ -158,6 +158,34 @@ TEST_F(EntornoVentana, AGiganticPictureOfTheClipboardIsRefused) {
         DejaLosAjustes(m);
         fs::remove(programa.Carpeta() + "Imagenes/tsportap.bmp");
     }
+    EXPECT_TRUE(programa.Sale());
+}
+
+TEST_F(EntornoVentana, ATextBoxIsNotHeldByAClipboardThatHangs) {
+    PonMoviles();
+    ASSERT_TRUE(programa.Arranca());
+    constexpr int LIBRE_X = 560, LIBRE_Y = 480, FILA_X = 30, FILA_Y = 12;
+    e.Pulsa(LIBRE_X, LIBRE_Y, 3);
+    e.EsperaAtendido();
+    e.Pulsa(LIBRE_X + FILA_X, LIBRE_Y + FILA_Y);
+    ASSERT_TRUE(e.Espera([&] { return e.HayVentana(GUARDAR); }));
+    e.EsperaQuieto(120);
+    // No text of a name is that long.
+    for (const Trato trato : {Trato::Trozos, Trato::SinFin, Trato::Calla}) {
+        const Oferta oferta(e, "UTF8_STRING", std::string(2000000, 'n'), trato);
+        e.TeclaConControl("v");
+        e.EsperaAtendido(CUELGUE_MS);
+    }
+    for (const char* letra : {"m", "i", "o"}) e.Tecla(letra);
+    {
+        const Oferta oferta(e, "UTF8_STRING", "s\u00f1", Trato::Cumple);
+        e.TeclaConControl("v");
+    }
+    e.EsperaQuieto(120);
+    e.Mira().Guarda("pegado-en-texto");
+    e.Tecla("Return");
+    ASSERT_TRUE(e.Espera([&] { return !e.HayVentana(GUARDAR); }));
+    EXPECT_TRUE(fs::exists(programa.Carpeta() + "Archivo/mios\u00f1.puz"));
     EXPECT_TRUE(programa.Sale());
 }
 
