@@ -137,8 +137,12 @@ void Superficie::CortaFinos(const Rect& r) {
 }
 
 void Superficie::Marca(const Rect& r) {
+    PisaFinos(r);
+    MarcaAlrededor(r);
+}
+
+void Superficie::MarcaAlrededor(const Rect& r) {
     const Rect visible = Interseccion(r, Limites());
-    if (!finos_.empty()) CortaFinos(visible);
     sucio_ = Union(sucio_, visible);
     tocado_ = Union(tocado_, visible);
 }

@@ -158,6 +158,9 @@ public:
     // away where it goes.
     const std::vector<TextoFino>& Finos() const { return finos_; }
     void PonFino(TextoFino t) { finos_.push_back(std::move(t)); }
+    void PisaFinos(const Rect& r) {
+        if (!finos_.empty()) CortaFinos(r);
+    }
     bool Auxiliar = false;  // never shown itself: it has no use for them
 
     // --- Clipping.
@@ -185,6 +188,8 @@ public:
     // --- What changed. Every drawing operation reports the rectangle that it may have touched:
     // one union is kept for the screen, one for the routine that repaints the table.
     void Marca(const Rect& r);
+    // The same of a rectangle around what was drawn, by who tells PisaFinos what that was.
+    void MarcaAlrededor(const Rect& r);
     const Rect& Sucio() const { return sucio_; }
     Rect TomaSucio();   // what changed since the last call of this
     Rect TomaTocado();  // likewise, for a second reader

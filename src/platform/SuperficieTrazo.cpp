@@ -107,6 +107,7 @@ void Trazo::PintaDentro(const Rect& r) {
         else
             for (; p != fin; ++p) *p ^= 0xFFFFFFU;
     }
+    s_.PisaFinos(r);
     tocado_ = Union(tocado_, r);
 }
 

@@ -19,7 +19,7 @@ std::optional<i32> PixelCercano(double v);
 class Trazo {
 public:
     Trazo(Superficie& s, Color color);
-    ~Trazo() { s_.Marca(tocado_); }
+    ~Trazo() { s_.MarcaAlrededor(tocado_); }
     Trazo(const Trazo&) = delete;
     Trazo& operator=(const Trazo&) = delete;
 

@@ -104,6 +104,22 @@ TEST_F(TextosFinos, WhatIsDrawnOverItTakesItsPlace) {
     EXPECT_EQ(Finos(Mira(), TODO), 0);
 }
 
+TEST_F(TextosFinos, AFrameTakesNoMoreThanItsLines) {
+    Escribe(10, 20, "Tiempo 0:12");
+    const int antes = Finos(Mira(), TODO);
+    const auto marco = [&](i32 x, i32 y) {
+        c.Line(pluma::Desde | pluma::Caja | pluma::ConColor, x, y, ANCHO - 1, ALTO - 1, 0x808080);
+    };
+    marco(0, 0);
+    EXPECT_EQ(Finos(Mira(), TODO), antes);
+    // One side goes through the letters.
+    marco(0, 28);
+    const QImage doble = Mira();
+    EXPECT_EQ(Finos(doble, QRect(0, 28, ANCHO, 1)), 0);
+    EXPECT_GT(Finos(doble, QRect(0, 20, ANCHO, 8)), 20);
+    EXPECT_GT(Finos(doble, QRect(0, 29, ANCHO, 8)), 20);
+}
+
 TEST_F(TextosFinos, TwoTextsThatOverlapAreBothFine) {
     Escribe(10, 20, "Tiempo");
     const int uno = Finos(Mira(), QRect(10, 20, 50, 14));
