@@ -63,9 +63,8 @@ std::string RutaDeImagen() {
 // A record that names no folder, as those that come with the program, gets the one in which its
 // picture was found: there is no other to which that could come back.
 void TomaCarpeta(const std::string& hallada) {
-    const bool sinCarpeta =
-        Gbl.CarpetaImagen.empty() && Gbl.RutaImagen.find('/') == std::string::npos;
-    if (!sinCarpeta || hallada != BuscaRuta(Gbl.CarpetaImagenes + Gbl.RutaImagen)) return;
+    if (!Gbl.CarpetaImagen.empty()) return;
+    if (hallada != BuscaRuta(Gbl.CarpetaImagenes + Gbl.RutaImagen)) return;
     Gbl.CarpetaImagen = Gbl.CarpetaImagenes;
     Gbl.RutaImagen = hallada;
 }
