@@ -27,6 +27,7 @@ namespace {
 constexpr double ENTRE_JUGADAS_MS = 302;  // two million of them are a week
 constexpr i32 PARTES = 5;                 // of a round, with visits between them
 constexpr i32 INTENTOS = 10;              // for one move that counts
+constexpr long EN_VANO = 50;              // moves in a row that do not
 constexpr i16 REGISTRO_LARGO = 5000;      // moves in a log, after which the pieces are dealt anew
 constexpr i16 MOVIMIENTOS_REPETIDOS = 20;
 constexpr long ARCHIVADOS = 100;  // finished games that may enter the history
@@ -92,16 +93,22 @@ void Jugador::Orden(i16 cual) {
 // ---------------------------------------------------------------- moves
 
 void Jugador::Juega(long jugadas) {
-    long intentos = INTENTOS * jugadas;
+    long intentos = INTENTOS * jugadas, seguidos = 0;
     for (const long meta = hecho_.jugadas + jugadas; hecho_.jugadas < meta && intentos > 0;
          --intentos) {
         const i16 antes = Gbl.NumMovimientos;
         const bool acabado = Gbl.PuzzleTerminado;
         Jugada();
-        hecho_.jugadas += std::max(0, Gbl.NumMovimientos - antes);
+        const i32 hechas = std::max(0, Gbl.NumMovimientos - antes);
+        hecho_.jugadas += hechas;
+        seguidos = hechas > 0 ? 0 : seguidos + 1;
         m_.Pasa(ENTRE_JUGADAS_MS);
         if (Gbl.PuzzleTerminado && !acabado) ++hecho_.acabados;
-        if (Gbl.PuzzleTerminado || Gbl.NumMovimientos > REGISTRO_LARGO) Orden(orden::BARAJAR);
+        // Pieces at home stay there, and the last ones may lie where they cannot be reached.
+        if (Gbl.PuzzleTerminado || Gbl.NumMovimientos > REGISTRO_LARGO || seguidos > EN_VANO) {
+            Orden(orden::BARAJAR);
+            seguidos = 0;
+        }
     }
 }
 

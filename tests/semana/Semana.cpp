@@ -39,7 +39,7 @@ void DiHecho(const Jugador::Cuenta& c) {
 
 // A day in which nothing was done shows nothing.
 bool SeJugo(const Jugador::Cuenta& c, long tandas) {
-    return c.jugadas >= tandas * JUGADAS_DE_TANDA * 9 / 10 && c.juegos >= tandas * 9 / 10 &&
+    return c.jugadas >= tandas * JUGADAS_DE_TANDA && c.juegos >= tandas * 9 / 10 &&
            c.ayudas >= tandas * VISITAS_DE_TANDA && c.ajustes >= tandas * VISITAS_DE_TANDA &&
            c.guardados >= tandas && c.borrados >= tandas && c.cargados > 0 && c.historicos > 0;
 }
