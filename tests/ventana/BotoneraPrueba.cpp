@@ -389,20 +389,15 @@ TEST(BotoneraVentana, AHandArrangementWithoutSolutionIsLeftOnlyThroughItsQuestio
 
 // --- The Tangram.
 PartidaGuardada Tangram(int modo) {
-    PartidaGuardada p;
-    p.juego = 23;
-    p.porLado = 5;
-    p.modoJuego = modo;
+    PartidaGuardada p = DeTangram(modo);
     p.archivable = true;
     p.segundos = 100;
-    for (int i = 0; i < 7; ++i) {
-        PiezaGuardada q;
-        q.x = 30 + i % 4 * 200;
-        q.y = 380 + i / 4 * 200;
-        q.xBien = 30 + i % 4 * 200;
-        q.yBien = 30 + i / 4 * 150;
-        p.piezas.push_back(q);
+    PonEnFilas(p, 30, 30, 200, 150);
+    for (PiezaGuardada& q : p.piezas) {
+        q.xBien = q.x;
+        q.yBien = q.y;
     }
+    PonEnFilas(p, 30, 380, 200, 200);
     p.piezas[2].x = p.piezas[2].xBien;  // piece 3 stands in its place
     p.piezas[2].y = p.piezas[2].yBien;
     return p;

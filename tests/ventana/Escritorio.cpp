@@ -390,6 +390,36 @@ PartidaGuardada DeCuadros(int ancho, int alto, int lado, int forma) {
     return p;
 }
 
+PartidaGuardada DeTangram(int modo) {
+    PartidaGuardada p;
+    p.juego = 23;
+    p.porLado = 5;
+    p.modoJuego = modo;
+    p.piezas.resize(7);
+    return p;
+}
+
+void PonEnFilas(PartidaGuardada& p, int x, int y, int pasoX, int pasoY) {
+    constexpr int EN_FILA = 4;
+    int i = 0;
+    for (PiezaGuardada& q : p.piezas) {
+        q.x = x + i % EN_FILA * pasoX;
+        q.y = y + i / EN_FILA * pasoY;
+        ++i;
+    }
+}
+
+void CompruebaResuelta(const PartidaLeida& leida) {
+    EXPECT_TRUE(leida.terminado);
+    EXPECT_FALSE(leida.piezas.empty());
+    for (const PiezaGuardada& q : leida.piezas) {
+        EXPECT_EQ(q.x, q.xBien);
+        EXPECT_EQ(q.y, q.yBien);
+        EXPECT_EQ(q.giro, 0);
+        EXPECT_EQ(q.volteo, 0);
+    }
+}
+
 Programa::Programa(Escritorio& e, const std::string& nombre) : e_(e) {
     namespace fs = std::filesystem;
     static int n = 0;

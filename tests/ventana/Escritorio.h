@@ -118,6 +118,11 @@ struct PartidaGuardada {
 // A jigsaw of flat squares, cut into as many cells a side, all its pieces at home.
 PartidaGuardada DeCuadros(int ancho, int alto, int lado, int forma = 0);
 
+// The Tangram, all its pieces in the corner; modo 1 creates figures, 2 solves a model.
+PartidaGuardada DeTangram(int modo);
+// Its pieces, or whatever there are, four in a row from (x, y) on.
+void PonEnFilas(PartidaGuardada& p, int x, int y, int pasoX, int pasoY);
+
 // What is read back from a file that the program wrote.
 struct PartidaLeida {
     std::vector<PiezaGuardada> piezas;
@@ -129,6 +134,9 @@ struct PartidaLeida {
     bool terminado = false, archivable = false, muestra = false;
     std::string imagen;
 };
+
+// Played to the end: every piece at home, upright, face up.
+void CompruebaResuelta(const PartidaLeida& leida);
 
 class Programa {
 public:

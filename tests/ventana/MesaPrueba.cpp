@@ -80,22 +80,16 @@ TEST(MesaVentana, TwentyFivePiecesArrangedSolvedAndTakenBackToTheStart) {
 TEST(MesaVentana, RecorderWalksATangramBackAndForthStepByStep) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeGlobal(23, 50);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.porLado = 5;
-    p.modoJuego = 2;
+    PartidaGuardada p = DeTangram(2);
     p.atraccion = false;
     p.factor = 0;
+    PonEnFilas(p, 30, 400, 210, 180);
     for (int i = 0; i < 7; ++i) {
-        PiezaGuardada q;
-        q.x = 30 + i % 4 * 210;
-        q.y = 400 + i / 4 * 180;
+        PiezaGuardada& q = p.piezas[static_cast<std::size_t>(i)];
         q.xBien = 10 + i * 20;  // a heap in the corner, where no piece is put
         q.yBien = 10;
-        p.piezas.push_back(q);
     }
-    programa.EscribePartida(p);
+    programa.Escribe(p, 50);
     ASSERT_TRUE(programa.Arranca());
     const auto mira = [&] {
         e.Mueve(600, 60);  // free table

@@ -67,12 +67,8 @@ PiezaGuardada Girada(int pieza, PiezaGuardada q) {
 }
 
 PartidaGuardada Partida(int modo) {
-    PartidaGuardada p;
-    p.juego = 23;
-    p.porLado = 5;
-    p.modoJuego = modo;
+    PartidaGuardada p = DeTangram(modo);
     p.borde = false;
-    p.piezas.resize(7);
     return p;
 }
 
@@ -142,11 +138,7 @@ TEST(TangramVentana, FigureIsSolvedWithDragsTurnsAndTheFlip) {
 // Seven pieces apart from each other.
 PartidaGuardada Suelta() {
     PartidaGuardada p = Partida(1);
-    for (int i = 0; i < 7; ++i) {
-        auto& q = p.piezas[static_cast<std::size_t>(i)];
-        q.x = 60 + i % 4 * 260;
-        q.y = 500 + i / 4 * 240;
-    }
+    PonEnFilas(p, 60, 500, 260, 240);
     return p;
 }
 

@@ -101,13 +101,7 @@ TEST(TecladoVentana, JigsawIsPlayedToTheEnd) {
     ASSERT_TRUE(mano.CierraFelicitacion());
     e.Mira().Guarda("teclado-rompecabezas-fin");
     ASSERT_TRUE(mano.Sale());
-    const PartidaLeida leida = programa.LeePartida(21);
-    EXPECT_TRUE(leida.terminado);
-    for (const auto& q : leida.piezas) {
-        EXPECT_EQ(q.x, q.xBien);
-        EXPECT_EQ(q.y, q.yBien);
-        EXPECT_EQ(q.giro, 0);
-    }
+    CompruebaResuelta(programa.LeePartida(21));
 }
 
 TEST(TecladoVentana, TangramIsPlayedToTheEnd) {
@@ -116,12 +110,7 @@ TEST(TecladoVentana, TangramIsPlayedToTheEnd) {
                                        {200, 160}, {440, 160}, {560, 160}};
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeGlobal(23, 100);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.porLado = 5;
-    p.modoJuego = 2;
-    p.piezas.resize(7);
+    PartidaGuardada p = DeTangram(2);
     for (std::size_t i = 0; i < 7; ++i) {
         auto& q = p.piezas[i];
         q.xBien = BIEN[i][0];
@@ -131,7 +120,7 @@ TEST(TecladoVentana, TangramIsPlayedToTheEnd) {
     }
     p.piezas[5].giro = 7;
     p.piezas[6].volteo = 1;
-    programa.EscribePartida(p);
+    programa.Escribe(p);
     ASSERT_TRUE(programa.Arranca());
     // A margin of 26 pixels and half of the figure, 651 by 181.
     Mano mano(e, programa, {351, 116});
@@ -149,14 +138,7 @@ TEST(TecladoVentana, TangramIsPlayedToTheEnd) {
     e.Tecla("space");
     ASSERT_TRUE(mano.CierraFelicitacion());
     ASSERT_TRUE(mano.Sale());
-    const PartidaLeida leida = programa.LeePartida(23);
-    EXPECT_TRUE(leida.terminado);
-    for (const auto& q : leida.piezas) {
-        EXPECT_EQ(q.x, q.xBien);
-        EXPECT_EQ(q.y, q.yBien);
-        EXPECT_EQ(q.giro, 0);
-        EXPECT_EQ(q.volteo, 0);
-    }
+    CompruebaResuelta(programa.LeePartida(23));
 }
 
 TEST(TecladoVentana, SlidingPuzzleIsPlayedToTheEnd) {
@@ -265,19 +247,10 @@ int Cruces(const Foto& f, int x, int y, int w, int h) {
 TEST(TecladoVentana, MouseThatMovesTakesTheCrossAwayAndDropsWhatItHolds) {
     Escritorio e(ANCHO, ALTO);
     Programa programa(e);
-    programa.EscribeGlobal(23, 100);
-    PartidaGuardada p;
-    p.juego = 23;
-    p.porLado = 5;
-    p.modoJuego = 1;
+    PartidaGuardada p = DeTangram(1);
     p.borde = false;
-    p.piezas.resize(7);
-    for (int i = 0; i < 7; ++i) {
-        auto& q = p.piezas[static_cast<std::size_t>(i)];
-        q.x = 60 + i % 4 * 200;
-        q.y = 480 + i / 4 * 130;
-    }
-    programa.EscribePartida(p);
+    PonEnFilas(p, 60, 480, 200, 130);
+    programa.Escribe(p);
     e.Mueve(300, 100);
     ASSERT_TRUE(programa.Arranca());
     const Foto antes = e.Mira();
