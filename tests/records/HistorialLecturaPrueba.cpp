@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -207,6 +208,12 @@ TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForEverIsNotWaitedFor) {
     const std::string nueva = Contenido("TESSA33.his");
     EXPECT_TRUE(nueva.starts_with(vieja));
     EXPECT_EQ(std::count(nueva.begin(), nueva.end(), '\n'), 2);
+}
+
+// Who opens a pipe both ways can write, and what he has written is gone.
+TEST_F(LecturaHistorial, PipeTakesNoResult) {
+    ASSERT_EQ(mkfifo((P().carpeta + "TESSA33.his").c_str(), 0600), 0);
+    EXPECT_EQ(EntraEnHistorico(), 75);
 }
 
 TEST_F(LecturaHistorial, FileThatMayNotBeWrittenStaysAsItWas) {
