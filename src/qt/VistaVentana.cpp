@@ -221,10 +221,12 @@ void VistaVentana::Ensena() {
     QTimer tope;
     tope.setSingleShot(true);
     tope.start(ESPERA_EXPOSICION_MS);
-    while (viva_ && windowHandle() && !windowHandle()->isExposed() && tope.isActive())
+    // The desktop may close the window while it comes up: then it can be gone already.
+    const QPointer<VistaVentana> sigue(this);
+    while (sigue && viva_ && windowHandle() && !windowHandle()->isExposed() && tope.isActive())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::WaitForMoreEvents);
-    if (!viva_) return;
+    if (!sigue || !viva_) return;
     raise();
     activateWindow();
     Sincroniza();

@@ -82,6 +82,24 @@ TEST_F(VistaDeVentanas, OneThatClosesInItsOwnLoadNeverWaits) {
     EXPECT_FALSE(aviso.Abierta);
 }
 
+TEST_F(VistaDeVentanas, OneThatTheDesktopClosesWhileItComesUpIsGone) {
+    Abre(mesa, {&c});
+    aviso.Unload = [&] { diario += "descarga "; };
+    aviso.Load = [&] {
+        Luego(0, [&] {
+            P().VistaDe(aviso)->close();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        });
+    };
+    P().MuestraModal(aviso);
+    EXPECT_FALSE(aviso.Abierta);
+    EXPECT_EQ(P().VistaDe(aviso), nullptr);
+    EXPECT_EQ(diario, "descarga ");
+    c.Click = [&] { diario += "click "; };
+    Pulsa(mesa, 10, 10);
+    EXPECT_EQ(diario, "descarga click ") << "the one below is open to the mouse again";
+}
+
 TEST_F(VistaDeVentanas, ClosingFromOutsideAsksFirst) {
     Abre(mesa, {&c});
     bool deja = false;

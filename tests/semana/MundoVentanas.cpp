@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <QThread>
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -44,19 +45,19 @@ public:
     }
     void Suena(i16 id, bool) override { PlataformaQt::Suena(id, true); }
     void MuestraModal(Ventana& v) override {
-        Visita(v);
+        Visita(v, QThread::currentThread()->loopLevel());
         PlataformaQt::MuestraModal(v);
     }
     std::string CarpetaDelPrograma() override { return carpeta_; }
     std::string CarpetaDelSistema() override { return carpeta_ + "datos/"; }
 
 private:
-    // As soon as its loop runs and it is on the screen.
-    void Visita(Ventana& v) {
-        QTimer::singleShot(0, qApp, [this, &v] {
-            const VistaVentana* const vista = VistaDe(v);
-            if (vista && !vista->Ensenada()) return Visita(v);
-            if (vista && alAbrir) alAbrir(v);
+    // As soon as it is on the screen and its own loop runs, one deeper than the one around.
+    void Visita(Ventana& v, int nivel) {
+        QTimer::singleShot(0, qApp, [this, &v, nivel] {
+            const bool abierta = VistaDe(v) != nullptr;
+            if (abierta && QThread::currentThread()->loopLevel() <= nivel) return Visita(v, nivel);
+            if (abierta && alAbrir) alAbrir(v);
         });
     }
 
