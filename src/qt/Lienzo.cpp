@@ -36,19 +36,4 @@ bool Velo::event(QEvent* e) {
     return true;
 }
 
-bool PasaElFoco(QWidget& marco, bool siguiente) {
-    const auto sigue = [&](QWidget* w) {
-        return siguiente ? w->nextInFocusChain() : w->previousInFocusChain();
-    };
-    QWidget* desde = marco.window()->focusWidget();
-    if (!desde || !marco.isAncestorOf(desde)) desde = &marco;
-    for (QWidget* w = sigue(desde); w != desde; w = sigue(w)) {
-        const bool parada = (w->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !w->focusProxy();
-        if (!parada || !marco.isAncestorOf(w) || !w->isVisible() || !w->isEnabled()) continue;
-        w->setFocus(siguiente ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-    return false;
-}
-
 }  // namespace tessario

@@ -2,7 +2,7 @@
 // Windows within the window that fills the screen. Where the window system leaves to its desktop
 // what stands where, a message could come up anywhere, beneath the table too; drawn by the table's
 // own window it stands in its place and above. What the window system does for a window of its own
-// is done here: what lies below gets no mouse, and the Tab key stays inside.
+// is done here: what lies below gets no mouse, and the keyboard comes back to it afterwards.
 #pragma once
 
 #include <QPointer>
@@ -27,8 +27,5 @@ protected:
 private:
     QPointer<QWidget> antes_;
 };
-
-// Moves the keyboard to the next or the former stop within `marco`; false: there is no other.
-bool PasaElFoco(QWidget& marco, bool siguiente);
 
 }  // namespace tessario

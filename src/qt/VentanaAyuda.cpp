@@ -22,7 +22,6 @@
 #include <algorithm>
 
 #include "qt/Estilo.h"
-#include "qt/Lienzo.h"
 #include "qt/Portapapeles.h"
 #include "qt/Textos.h"
 
@@ -340,10 +339,6 @@ bool VentanaAyuda::eventFilter(QObject* o, QEvent* e) {
         if (!suya) DevuelveFoco();
     }
     return QWidget::eventFilter(o, e);
-}
-
-bool VentanaAyuda::focusNextPrevChild(bool siguiente) {
-    return Dentro() ? PasaElFoco(*this, siguiente) : QWidget::focusNextPrevChild(siguiente);
 }
 
 void VentanaAyuda::mousePressEvent(QMouseEvent* e) {

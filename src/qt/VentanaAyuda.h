@@ -32,7 +32,6 @@ public:
 
 protected:
     bool eventFilter(QObject* o, QEvent* e) override;
-    bool focusNextPrevChild(bool siguiente) override;
     void keyPressEvent(QKeyEvent* e) override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;

@@ -36,7 +36,9 @@ Qt::WindowFlags Marcas(const Ventana& v, bool modal) {
 
 VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, bool modal,
                            QWidget* lienzo)
-    : QWidget(lienzo ? new Velo(*lienzo) : nullptr, lienzo ? Qt::WindowFlags() : Marcas(v, modal)),
+    // The Tab key stays within a subwindow.
+    : QWidget(lienzo ? new Velo(*lienzo) : nullptr,
+              lienzo ? Qt::WindowFlags(Qt::SubWindow) : Marcas(v, modal)),
       ventana_(v),
       anfitrion_(a),
       velo_(lienzo ? static_cast<Velo*>(parentWidget()) : nullptr),
@@ -44,7 +46,6 @@ VistaVentana::VistaVentana(Ventana& v, Anfitrion& a, const VistaVentana* duena, 
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setObjectName(QString::fromStdString(v.Nombre));
-    if (velo_) setAttribute(Qt::WA_NoMousePropagation);
     if (!modal || velo_) return;
     setWindowModality(Qt::ApplicationModal);
     // Tied by the window system alone: no widget owns another window's widget.
@@ -204,7 +205,7 @@ void VistaVentana::Presenta(bool ya) {
     areaPendiente_ = 0;
     // Everything that update() has marked in this window is painted and shown in one go.
     QEvent pinta(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(window(), &pinta);
+    QCoreApplication::sendEvent(this, &pinta);
 }
 
 void VistaVentana::Ensena() {
@@ -258,10 +259,6 @@ void VistaVentana::DejaFocoEn(Vista* v, const VistaVentana* encima) {
     else
         // The keyboard is led to one part of a picture: it shows which.
         v->setFocus(v->TieneZonas() ? Qt::TabFocusReason : Qt::OtherFocusReason);
-}
-
-bool VistaVentana::focusNextPrevChild(bool siguiente) {
-    return velo_ ? PasaElFoco(*this, siguiente) : QWidget::focusNextPrevChild(siguiente);
 }
 
 // --- Events.

@@ -54,7 +54,6 @@ public:
 
 protected:
     bool event(QEvent* e) override;
-    bool focusNextPrevChild(bool siguiente) override;
     void paintEvent(QPaintEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;

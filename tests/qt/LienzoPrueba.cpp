@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include "PruebaQt.h"
@@ -100,12 +101,15 @@ TEST_F(Dentro, BeforeTheTableIsOnTheScreenAndOnOtherWindowSystemsItIsAWindow) {
 TEST_F(Dentro, ThePointerReachesTheMessageAndNothingBelow) {
     Anota(c, "mesa ");
     Anota(si, "si ");
+    mesa.MouseDown = mesa.MouseMove = [&](i16, i16, float, float) { diario += "fondo "; };
     int rueda = 0;
     c.MouseWheel = [&](i16, float, float) { return ++rueda > 0; };
     Con(aviso, [&] {
         Pulsa(mesa, IZQ + 7, ARR + 9);
         Pulsa(mesa, 30, 10);
         Pulsa(mesa, 60, 60, Qt::RightButton);
+        Pulsa(mesa, 700, 700);
+        Pulsa(mesa, IZQ + 60, ARR + 60);
         Rueda(30, 10);
         Rueda(IZQ + 7, ARR + 9);
         Eventos();
@@ -119,12 +123,11 @@ TEST_F(Dentro, ThePointerReachesTheMessageAndNothingBelow) {
 }
 
 TEST_F(Dentro, ThePointerOverWhatLiesBelowIsThePlainOne) {
-    c.MousePointer = 2;
-    P().MiraBajoElPuntero(true);
-    Eventos();
+    P().Entrega([&] { mesa.MousePointer = PUNTERO_RELOJ; });
     Con(aviso, [&] {
         QWidget* const w = QApplication::widgetAt(P().VistaDe(mesa)->mapToGlobal(QPoint(30, 10)));
         ASSERT_TRUE(w);
+        EXPECT_NE(P().VistaDe(mesa)->cursor().shape(), Qt::ArrowCursor);
         EXPECT_EQ(w->cursor().shape(), Qt::ArrowCursor);
         EXPECT_FALSE(dynamic_cast<Vista*>(w));
     });
@@ -249,10 +252,13 @@ TEST_F(Dentro, TheHelpLiesAboveAMessageAndKeepsItsKeysToItself) {
             QApplication::widgetAt(ayuda.window()->mapToGlobal(QPoint(IZQ + 10, ARR + 10)));
         EXPECT_TRUE(encima == &ayuda || ayuda.isAncestorOf(encima)) << "it covers the message";
         for (const Qt::Key k : {Qt::Key_F5, Qt::Key_A, Qt::Key_Right}) Tecla(mesa, k);
-        for (int i = 0; i < 12; ++i) {
-            Tecla(mesa, Qt::Key_Tab);
-            EXPECT_TRUE(ayuda.isAncestorOf(ayuda.window()->focusWidget()));
-        }
+        // From its last stop Tab goes to its first, and back.
+        for (QToolButton* const b : ayuda.findChildren<QToolButton*>())
+            for (const Qt::KeyboardModifiers m : {Qt::NoModifier, Qt::ShiftModifier}) {
+                b->setFocus(Qt::ActiveWindowFocusReason);
+                Tecla(mesa, Qt::Key_Tab, m);
+                EXPECT_TRUE(ayuda.isAncestorOf(ayuda.window()->focusWidget()));
+            }
         EXPECT_EQ(diario, "");
         // A press beside it gives the keyboard to the message.
         ayuda.move(400, 400);
