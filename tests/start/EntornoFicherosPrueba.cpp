@@ -126,7 +126,6 @@ std::string Dicho(Cosa cosa, const std::string& nombre, const std::string& carpe
     switch (cosa) {
         case Cosa::Tubo:
         case Cosa::Carpeta:
-            return global ? "IDC ERROR 75" : "CID ERROR 75";
         case Cosa::Enchufe:
             return global ? "IDC ERROR 75" : "CID ERROR 75";
         case Cosa::Circulo:
