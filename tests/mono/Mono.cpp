@@ -391,6 +391,9 @@ void Mono::Comprueba() {
 // ends where the next one of its piece begins. "V" may push a piece without a move.
 void Mono::CompruebaCadena() {
     if (Gbl.NumMovimientos == 0) volteada_ = false;
+    for (i32 i = 1; i <= Gbl.NumMovimientos;
+         ++i)  // a log that was loaded may hold turns of its own
+        volteada_ = volteada_ || Gbl.Movimientos[i].VolteoAntes != Gbl.Movimientos[i].VolteoDespues;
     if (volteada_) return;
     std::vector<Punto> lugar(static_cast<std::size_t>(Gbl.NumPiezas) + 1);
     for (i32 i = 1; i <= Gbl.NumPiezas; ++i)
