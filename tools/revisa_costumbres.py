@@ -73,10 +73,30 @@ def tipos_de_cabeceras():
     return hallados
 
 
-def va_sola(fuente, suyos, de_cabeceras):
-    """Does the source use for itself the name of a type of another unit?"""
-    return any(n in de_cabeceras and not any(fuente.stem.startswith(c) for c in de_cabeceras[n])
-               for n in suyos)
+class Cabeceras:
+    """What headers of the tree a source reads, directly or through others, by their stems."""
+
+    INCLUIDA = re.compile(r'^#include "([^"]+)"', re.M)
+    RAICES = [RAIZ / carpeta for carpeta in ("src", "tests", "fuzz", "tools/modelos", ".")]
+
+    def __init__(self):
+        self.conocidas = {}
+
+    def de(self, fichero):
+        if fichero not in self.conocidas:
+            self.conocidas[fichero] = set()  # a circle ends here
+            for nombre in self.INCLUIDA.findall(fichero.read_text(encoding="utf-8")):
+                for raiz in [fichero.parent, *self.RAICES]:
+                    if (raiz / nombre).is_file():
+                        cabecera = (raiz / nombre).resolve()
+                        self.conocidas[fichero] |= {cabecera.stem} | self.de(cabecera)
+                        break
+        return self.conocidas[fichero]
+
+
+def ajenas(fuente, suyos, de_cabeceras):
+    """Stems of the headers whose types the source has namesakes of: not to be read with it."""
+    return {c for n in suyos for c in de_cabeceras.get(n, ()) if not fuente.stem.startswith(c)}
 
 
 def opciones(orden):
@@ -104,22 +124,23 @@ def manojos(compilacion):
             continue
         vistos.add(fuente)
         iguales[opciones(entrada["command"])].append(fuente)
-    de_cabeceras = tipos_de_cabeceras()
+    de_cabeceras, cabeceras = tipos_de_cabeceras(), Cabeceras()
     for como, fuentes in sorted(iguales.items()):
-        abiertos = []
+        abiertos = []  # of each bunch: sources, their names, headers that they read, that they shun
         for fuente in sorted(fuentes):
             suyos = nombres(fuente.read_text(encoding="utf-8"))
-            if va_sola(fuente, suyos, de_cabeceras):
-                yield [fuente], como
-                continue
-            for ramo, dados in abiertos:
-                if len(ramo) < MANOJO and not dados & suyos:
+            leidas, huidas = cabeceras.de(fuente), ajenas(fuente, suyos, de_cabeceras)
+            for ramo, dados, vistas, temidas in abiertos:
+                if (len(ramo) < MANOJO and not dados & suyos and not vistas & huidas
+                        and not temidas & leidas):
                     ramo.append(fuente)
                     dados |= suyos
+                    vistas |= leidas
+                    temidas |= huidas
                     break
             else:
-                abiertos.append(([fuente], suyos))
-        yield from ((ramo, como) for ramo, _ in abiertos)
+                abiertos.append(([fuente], suyos, set(leidas), huidas))
+        yield from ((ramo, como) for ramo, *_ in abiertos)
 
 
 class Revision:
