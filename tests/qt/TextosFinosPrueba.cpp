@@ -53,7 +53,7 @@ protected:
     Cuadro c;
 };
 
-const QRect TODO(0, 0, ANCHO, ALTO);
+const QRect ENTERA(0, 0, ANCHO, ALTO);
 
 TEST_F(TextosFinos, ATextHasThePixelsOfTheScreenAndThePlainOnesStay) {
     Escribe(10, 20, "Tiempo 0:12");
@@ -101,17 +101,17 @@ TEST_F(TextosFinos, WhatIsDrawnOverItTakesItsPlace) {
     EXPECT_GT(Finos(doble, QRect(61, 20, 30, 16)), 10);
     c.Cls();
     EXPECT_TRUE(c.Finos().empty());
-    EXPECT_EQ(Finos(Mira(), TODO), 0);
+    EXPECT_EQ(Finos(Mira(), ENTERA), 0);
 }
 
 TEST_F(TextosFinos, AFrameTakesNoMoreThanItsLines) {
     Escribe(10, 20, "Tiempo 0:12");
-    const int antes = Finos(Mira(), TODO);
+    const int antes = Finos(Mira(), ENTERA);
     const auto marco = [&](i32 x, i32 y) {
         c.Line(pluma::Desde | pluma::Caja | pluma::ConColor, x, y, ANCHO - 1, ALTO - 1, 0x808080);
     };
     marco(0, 0);
-    EXPECT_EQ(Finos(Mira(), TODO), antes);
+    EXPECT_EQ(Finos(Mira(), ENTERA), antes);
     // One side goes through the letters.
     marco(0, 28);
     const QImage doble = Mira();
