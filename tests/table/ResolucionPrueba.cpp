@@ -75,19 +75,24 @@ TEST_F(Resolucion, TheLogLeadsToThePlaceToWhichAPieceWasBrought) {
     Moviles(3, 330, 250);
     Pon(4, 420, 100);
     Pon(5, 30, 300);
+    Pon(6, 420, 500);
+    Arrastra(6, 1300, 900);
     Arrastra(4, 1300, 300);
     Arrastra(5, 60, 310);
     Arrastra(4, 1400, 1100);
-    ASSERT_EQ(Gbl.NumMovimientos, 3);
-    const Movimiento primero = Gbl.Movimientos[1], segundo = Gbl.Movimientos[2];
-    const i16 xDesde = Gbl.Movimientos[3].XAntes;
+    ASSERT_EQ(Gbl.NumMovimientos, 4);
+    const Movimiento primero = Gbl.Movimientos[2], segundo = Gbl.Movimientos[3];
+    const i16 xDesde = Gbl.Movimientos[4].XAntes;
     Pantalla(800, 600);
     ASSERT_LT(Gbl.Piezas[4].X, 800);
-    EXPECT_EQ(Gbl.Movimientos[3].XDespues, Gbl.Piezas[4].X);
-    EXPECT_EQ(Gbl.Movimientos[3].YDespues, Gbl.Piezas[4].Y);
-    EXPECT_EQ(Gbl.Movimientos[3].XAntes, xDesde);
-    EXPECT_EQ(Gbl.Movimientos[1], primero) << "an earlier move of the same piece";
-    EXPECT_EQ(Gbl.Movimientos[2], segundo) << "a move of another piece";
+    ASSERT_LT(Gbl.Piezas[6].X, 800);
+    EXPECT_EQ(Gbl.Movimientos[4].XDespues, Gbl.Piezas[4].X);
+    EXPECT_EQ(Gbl.Movimientos[4].YDespues, Gbl.Piezas[4].Y);
+    EXPECT_EQ(Gbl.Movimientos[4].XAntes, xDesde);
+    EXPECT_EQ(Gbl.Movimientos[2], primero) << "an earlier move of the same piece";
+    EXPECT_EQ(Gbl.Movimientos[3], segundo) << "a move of another piece";
+    EXPECT_EQ(Gbl.Movimientos[1].XDespues, Gbl.Piezas[6].X) << "a piece moved once, the first";
+    EXPECT_EQ(Gbl.Movimientos[1].YDespues, Gbl.Piezas[6].Y);
 }
 
 TEST_F(Resolucion, ATableThatNoLongerFitsScrolls) {
