@@ -5,7 +5,7 @@
     revisa_costumbres.py COMPILE_COMMANDS [CLANG_TIDY]
 
 Most of what a run costs is reading the same library headers again for each source, so sources
-that compile alike are read together, two dozen at a time, as one translation unit. Two
+whose options do not contradict are read together, some thirty at a time, as one translation unit. Two
 sources that give the same name to different things do not go together; should a collision escape
 the eye of this script, the compiler sees it and the sources it complains of are read apart. The
 checks are those of .clang-tidy less the path-sensitive ones, which cost ten times the others
@@ -26,7 +26,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 RAIZ = Path(__file__).resolve().parent.parent
-MANOJO = 24
+MANOJO = 32
 CHECKS = ",".join("-" + c for c in (
     "clang-analyzer-*", "bugprone-suspicious-include", "bugprone-reserved-identifier",
     # Dear, and about what this code has none of: null string views, assertions, macros.
@@ -36,17 +36,22 @@ EN_PRUEBAS = ",-performance-*,-bugprone-integer-division,-bugprone-use-after-mov
 
 # What a compile command says about how the source is to be read; all else is about code or output.
 OPCION_CON_VALOR = ("-isystem", "-I", "-D")
+# Where a test was built: no source asks.
+SIN_INTERES = ("-DQT_TESTCASE_BUILDDIR", "-DQT_TESTCASE_SOURCEDIR")
 
 # Names that a source gives outside any class or function. They stand at the margin, as the settings
 # of .clang-format have it, and nothing else does but braces, labels and directives.
 AL_MARGEN = re.compile(r"^(?!return\b|using namespace|namespace|static_assert|[#/}){\s]).*$", re.M)
 HALLAZGO = re.compile(r"^(?=/\S+:\d+:\d+: (?:warning|error): )", re.M)
 PRUEBA = re.compile(r"^TEST(?:_F|_P)?\((\w+), *(\w+)")
-DEFINIDO = re.compile(r"^(?:struct|class|enum class) (\w+)[^;]*\{", re.M)
 USADO = re.compile(r"^using (?:\w+::)+(\w+);")
 TIPO = re.compile(r"^(?:template ?<[^>]*> )?(?:struct|class|enum class|enum|using|union) (\w+)")
 FUNCION = re.compile(r"^[^=({]*?[\s&*](\w+)\(")  # a member, Class::Name, is not the source's own
 VALORES = re.compile(r"\b([A-Za-z]\w*)(?:\[\w*\])*(?: =|\{|;|\()")
+
+
+def en_pruebas(fuente):
+    return fuente.is_relative_to(RAIZ / "tests")
 
 
 def nombres(texto):
@@ -64,12 +69,13 @@ def nombres(texto):
     return hallados
 
 
-def tipos_de_cabeceras():
-    """The types that the program's headers define, by name: the stems of the headers."""
+def nombres_de_cabeceras():
+    """What the tree's headers name, by name: the stems of the headers."""
     hallados = defaultdict(set)
-    for cabecera in (RAIZ / "src").rglob("*.h"):
-        for nombre in DEFINIDO.findall(cabecera.read_text(encoding="utf-8")):
-            hallados[nombre].add(cabecera.stem)
+    for carpeta in ("src", "tests", "fuzz", "tools"):
+        for cabecera in (RAIZ / carpeta).rglob("*.h"):
+            for nombre in nombres(cabecera.read_text(encoding="utf-8")):
+                hallados[nombre].add(cabecera.stem)
     return hallados
 
 
@@ -94,42 +100,62 @@ class Cabeceras:
         return self.conocidas[fichero]
 
 
-def ajenas(fuente, suyos, de_cabeceras):
-    """Stems of the headers whose types the source has namesakes of: not to be read with it."""
-    return {c for n in suyos for c in de_cabeceras.get(n, ()) if not fuente.stem.startswith(c)}
+def ajenas(suyos, leidas, de_cabeceras):
+    """Stems of the headers that have namesakes of what a source names and that it does not read
+    itself: it is not to be read with them."""
+    return {c for n in suyos for c in de_cabeceras.get(n, ())} - leidas
 
 
 def opciones(orden):
-    piezas = shlex.split(orden)
-    utiles = []
-    i = 1
-    while i < len(piezas):
-        p = piezas[i]
+    """The options of a command as {key: words}; two with one key and other words contradict."""
+    piezas = iter(shlex.split(orden)[1:])
+    utiles = {}
+    for p in piezas:
         if p in OPCION_CON_VALOR:
-            utiles += [p, piezas[i + 1]]
-            i += 1
+            p = (p, next(piezas))
         elif p.startswith(OPCION_CON_VALOR) or p.startswith("-std="):
-            utiles.append(p)
-        i += 1
-    return tuple(utiles)
+            p = (p,)
+        else:
+            continue
+        texto = "".join(p)
+        if not texto.startswith(SIN_INTERES):
+            utiles[texto.split("=")[0]] = p
+    return utiles
 
 
-def manojos(compilacion):
-    """Bunches of sources: ([paths], options)."""
-    iguales = defaultdict(list)
+def maneras(compilacion):
+    """The ways to read sources, few: [options, sources]. Options that do not contradict join; tests
+    and the rest stay apart (other checks), and so do the sources of the window library (what their
+    headers define is not for all)."""
+    abiertas = []
     vistos = set()
     for entrada in compilacion:
         fuente = Path(entrada["file"])
         if fuente in vistos or RAIZ not in fuente.parents or "build" in fuente.relative_to(RAIZ).parts:
             continue
         vistos.add(fuente)
-        iguales[opciones(entrada["command"])].append(fuente)
-    de_cabeceras, cabeceras = tipos_de_cabeceras(), Cabeceras()
-    for como, fuentes in sorted(iguales.items()):
+        suyas = opciones(entrada["command"])
+        clase = en_pruebas(fuente), any("-isystem" in palabras for palabras in suyas.values())
+        for otra, como, fuentes in abiertas:
+            if otra == clase and all(como.get(clave, p) == p for clave, p in suyas.items()):
+                como.update(suyas)
+                fuentes.append(fuente)
+                break
+        else:
+            abiertas.append((clase, suyas, [fuente]))
+    return [([p for palabras in como.values() for p in palabras], fuentes)
+            for _, como, fuentes in abiertas]
+
+
+def manojos(compilacion):
+    """Bunches of sources: ([paths], options)."""
+    de_cabeceras, cabeceras = nombres_de_cabeceras(), Cabeceras()
+    for como, fuentes in maneras(compilacion):
         abiertos = []  # of each bunch: sources, their names, headers that they read, that they shun
         for fuente in sorted(fuentes):
             suyos = nombres(fuente.read_text(encoding="utf-8"))
-            leidas, huidas = cabeceras.de(fuente), ajenas(fuente, suyos, de_cabeceras)
+            leidas = cabeceras.de(fuente)
+            huidas = ajenas(suyos, leidas, de_cabeceras)
             for ramo, dados, vistas, temidas in abiertos:
                 if (len(ramo) < MANOJO and not dados & suyos and not vistas & huidas
                         and not temidas & leidas):
@@ -154,7 +180,7 @@ class Revision:
 
     def lee(self, ramo, como):
         """Findings of clang-tidy, one for each line that names a check, with what follows it."""
-        checks = CHECKS + (EN_PRUEBAS if ramo[0].is_relative_to(RAIZ / "tests") else "")
+        checks = CHECKS + (EN_PRUEBAS if en_pruebas(ramo[0]) else "")
         conjunto = self.carpeta / f"manojo{next(self.numeros)}.cpp"
         conjunto.write_text("".join(f'#include "{f}"\n' for f in ramo), encoding="utf-8")
         self.lecturas += 1
