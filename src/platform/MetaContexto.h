@@ -56,6 +56,14 @@ struct EstadoMeta {
     double Inglete = 10;
     Objeto ObjPluma, ObjBrocha, ObjFuente, ObjPaleta;
     std::shared_ptr<const Region> Recorte, RecorteMeta;  // null: all
+
+    // Modes as records number them; what is none of them changes nothing or is the usual one.
+    void PonFondo(u32 modo) { Opaco = modo != 1; }
+    void PonRelleno(u32 modo) { Alterno = modo != 2; }
+    void PonMezcla(u32 modo) {
+        if (modo >= 1 && modo <= 16) Rop2 = static_cast<int>(modo);
+    }
+    void PonEstiramiento(u32 modo) { Estira = static_cast<int>(modo & 7U); }
 };
 
 class ContextoMeta {

@@ -18,6 +18,8 @@ constexpr long long GASTO_REGISTRO = 100;
 constexpr u32 EXISTENCIAS = 0x80000000U;
 constexpr std::size_t OBJETOS_MAXIMOS = 65536;
 constexpr std::size_t PARTES_MAXIMAS = 1'000'000;
+// Where the records of lines and polygons have the number of their points, and these.
+constexpr std::size_t CUENTA = 24, PUNTOS = 28;
 
 struct Cabecera {
     std::size_t Largo = 0;
@@ -70,94 +72,64 @@ Matriz Base(const Cabecera& c) {
 
 // --- Records that set a field.
 
-bool LectorEmf::Estado(u32 tipo, const Registro& r) {
-    EstadoMeta& e = c_.E;
-    switch (tipo) {
-        case 13:
-            e.OrigenBrocha = {r.I32(8), r.I32(12)};
-            return true;
-        case 18:
-            e.Opaco = r.U32(8) != 1;
-            return true;
-        case 19:
-            e.Alterno = r.U32(8) != 2;
-            return true;
-        case 20:
-            if (r.U32(8) >= 1 && r.U32(8) <= 16) e.Rop2 = r.I32(8);
-            return true;
-        case 21:
-            e.Estira = static_cast<int>(r.U32(8) & 7U);
-            return true;
-        case 22:
-            e.Alineacion = r.U32(8);
-            return true;
-        case 24:
-            e.Texto = {r.U32(8)};
-            return true;
-        case 25:
-            e.Fondo = {r.U32(8)};
-            return true;
-        case 33:
-            c_.Guarda();
-            return true;
-        case 34:
-            c_.Restaura(r.I32(8));
-            return true;
-        case 57:
-            e.ContraReloj = r.U32(8) != 2;
-            return true;
-        case 58:
-            // Some write a whole number there, which as a fraction is next to nothing.
-            e.Inglete = std::clamp(r.U32(8) < 0x10000 ? r.U32(8) : r.F32(8), 1.0, 1000.0);
-            return true;
-        case 120:
-            e.ExtraBlancos = r.I32(8);
-            e.Blancos = r.I32(12);
-            return true;
-        default:
-            return false;
-    }
+LectorEmf::Acciones::Tabla LectorEmf::Estado() {
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_SETBRUSHORGEX,
+         [](Yo l, Reg r) {
+             l.c_.E.OrigenBrocha = {r.I32(8), r.I32(12)};
+         }},
+        {EMR_SETBKMODE, [](Yo l, Reg r) { l.c_.E.PonFondo(r.U32(8)); }},
+        {EMR_SETPOLYFILLMODE, [](Yo l, Reg r) { l.c_.E.PonRelleno(r.U32(8)); }},
+        {EMR_SETROP2, [](Yo l, Reg r) { l.c_.E.PonMezcla(r.U32(8)); }},
+        {EMR_SETSTRETCHBLTMODE, [](Yo l, Reg r) { l.c_.E.PonEstiramiento(r.U32(8)); }},
+        {EMR_SETTEXTALIGN, [](Yo l, Reg r) { l.c_.E.Alineacion = r.U32(8); }},
+        {EMR_SETTEXTCOLOR, [](Yo l, Reg r) { l.c_.E.Texto = {r.U32(8)}; }},
+        {EMR_SETBKCOLOR, [](Yo l, Reg r) { l.c_.E.Fondo = {r.U32(8)}; }},
+        {EMR_SAVEDC, [](Yo l, Reg) { l.c_.Guarda(); }},
+        {EMR_RESTOREDC, [](Yo l, Reg r) { l.c_.Restaura(r.I32(8)); }},
+        {EMR_SETARCDIRECTION, [](Yo l, Reg r) { l.c_.E.ContraReloj = r.U32(8) != 2; }},
+        {EMR_SETMITERLIMIT,
+         [](Yo l, Reg r) {
+             // Some write a whole number there, which as a fraction is next to nothing.
+             l.c_.E.Inglete = std::clamp(r.U32(8) < 0x10000 ? r.U32(8) : r.F32(8), 1.0, 1000.0);
+         }},
+        {EMR_SETTEXTJUSTIFICATION,
+         [](Yo l, Reg r) {
+             l.c_.E.ExtraBlancos = r.I32(8);
+             l.c_.E.Blancos = r.I32(12);
+         }},
+    };
+    return filas;
 }
 
-bool LectorEmf::Coordenadas(u32 tipo, const Registro& r) {
-    EstadoMeta& e = c_.E;
-    switch (tipo) {
-        case 9:
-            c_.PonMedida(false, r.P32(8));
-            return true;
-        case 10:
-            e.VentanaOrigen = r.P32(8);
-            return true;
-        case 11:
-            c_.PonMedida(true, r.P32(8));
-            return true;
-        case 12:
-            e.VistaOrigen = r.P32(8);
-            return true;
-        case 17:
-            c_.PonMapeo(r.I32(8));
-            return true;
-        case 31:
-        case 32:
-            c_.EscalaMedida(tipo == 31, {double(r.I32(8)), double(r.I32(16))},
-                            {double(r.I32(12)), double(r.I32(20))});
-            return true;
-        case 35:
-            e.Mundo = r.M32(8);
-            return true;
-        case 36: {
-            constexpr u32 IDENTIDAD = 1, IZQUIERDA = 2, DERECHA = 3, PONE = 4;
-            const u32 modo = r.U32(32);
-            if (modo == IDENTIDAD) e.Mundo = {};
-            const Matriz m = r.M32(8);
-            if (modo == IZQUIERDA) e.Mundo = m.Luego(e.Mundo);
-            if (modo == DERECHA) e.Mundo = e.Mundo.Luego(m);
-            if (modo == PONE) e.Mundo = m;
-            return true;
-        }
-        default:
-            return false;
-    }
+void LectorEmf::CambiaMundo(const Registro& r) {
+    constexpr u32 IDENTIDAD = 1, IZQUIERDA = 2, DERECHA = 3, PONE = 4;
+    Matriz& mundo = c_.E.Mundo;
+    const u32 modo = r.U32(32);
+    if (modo == IDENTIDAD) mundo = {};
+    const Matriz m = r.M32(8);
+    if (modo == IZQUIERDA) mundo = m.Luego(mundo);
+    if (modo == DERECHA) mundo = mundo.Luego(m);
+    if (modo == PONE) mundo = m;
+}
+
+LectorEmf::Acciones::Tabla LectorEmf::Coordenadas() {
+    static constexpr auto escala = [](Yo l, Reg r, bool vista) {
+        l.c_.EscalaMedida(vista, {double(r.I32(8)), double(r.I32(16))},
+                          {double(r.I32(12)), double(r.I32(20))});
+    };
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_SETWINDOWEXTEX, [](Yo l, Reg r) { l.c_.PonMedida(false, r.P32(8)); }},
+        {EMR_SETWINDOWORGEX, [](Yo l, Reg r) { l.c_.E.VentanaOrigen = r.P32(8); }},
+        {EMR_SETVIEWPORTEXTEX, [](Yo l, Reg r) { l.c_.PonMedida(true, r.P32(8)); }},
+        {EMR_SETVIEWPORTORGEX, [](Yo l, Reg r) { l.c_.E.VistaOrigen = r.P32(8); }},
+        {EMR_SETMAPMODE, [](Yo l, Reg r) { l.c_.PonMapeo(r.I32(8)); }},
+        {EMR_SCALEVIEWPORTEXTEX, [](Yo l, Reg r) { escala(l, r, true); }},
+        {EMR_SCALEWINDOWEXTEX, [](Yo l, Reg r) { escala(l, r, false); }},
+        {EMR_SETWORLDTRANSFORM, [](Yo l, Reg r) { l.c_.E.Mundo = r.M32(8); }},
+        {EMR_MODIFYWORLDTRANSFORM, [](Yo l, Reg r) { l.CambiaMundo(r); }},
+    };
+    return filas;
 }
 
 // --- Objects.
@@ -230,185 +202,129 @@ Objeto LectorEmf::DibujoDe(const Registro& r, std::size_t i, bool unBit) {
     return BrochaDeDibujo(c_, Bitmap(r, i + 4, r.U32(i)), unBit);
 }
 
-bool LectorEmf::Objetos(u32 tipo, const Registro& r) {
-    switch (tipo) {
-        case 37:
-            c_.Elige(Busca(r.U32(8)));
-            return true;
-        case 38:
-            Pluma(r);
-            return true;
-        case 39: {
-            constexpr u32 NULA = 1, TRAMADA = 2;
-            Objeto o = BrochaLisa(r.U32(16));
-            if (r.U32(12) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-            if (r.U32(12) == TRAMADA) {
-                o->Brocha.Tipo = BrochaMeta::Clase::Trama;
-                o->Brocha.Trama = r.I32(20);
-            }
-            Pon(r.U32(8), std::move(o));
-            return true;
-        }
-        case 40:
-            if (!(r.U32(8) & EXISTENCIAS)) Pon(r.U32(8), nullptr);
-            return true;
-        case 48:
-            c_.PonPaleta(Busca(r.U32(8)));
-            return true;
-        case 49:
-            Paleta(r);
-            return true;
-        case 50:
-            CambiaPaleta(r);
-            return true;
-        case 51:
-            if (const Objeto o = Busca(r.U32(8)); o && o->Tipo == ObjetoMeta::Clase::Paleta)
-                c_.CambiaMedida(*o, r.U32(12));
-            return true;
-        case 82:
-            Fuente(r);
-            return true;
-        case 93:
-        case 94:
-            Pon(r.U32(8), DibujoDe(r, 12, tipo == 93));
-            return true;
-        case 95:
-            PlumaExtendida(r);
-            return true;
-        default:
-            return false;
+void LectorEmf::Brocha(const Registro& r) {
+    constexpr u32 NULA = 1, TRAMADA = 2;
+    Objeto o = BrochaLisa(r.U32(16));
+    if (r.U32(12) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
+    if (r.U32(12) == TRAMADA) {
+        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
+        o->Brocha.Trama = r.I32(20);
     }
+    Pon(r.U32(8), std::move(o));
+}
+
+LectorEmf::Acciones::Tabla LectorEmf::Objetos() {
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_SELECTOBJECT, [](Yo l, Reg r) { l.c_.Elige(l.Busca(r.U32(8))); }},
+        {EMR_CREATEPEN, [](Yo l, Reg r) { l.Pluma(r); }},
+        {EMR_CREATEBRUSHINDIRECT, [](Yo l, Reg r) { l.Brocha(r); }},
+        {EMR_DELETEOBJECT, [](Yo l, Reg r) { l.Pon(r.U32(8), nullptr); }},
+        {EMR_SELECTPALETTE, [](Yo l, Reg r) { l.c_.PonPaleta(l.Busca(r.U32(8))); }},
+        {EMR_CREATEPALETTE, [](Yo l, Reg r) { l.Paleta(r); }},
+        {EMR_SETPALETTEENTRIES, [](Yo l, Reg r) { l.CambiaPaleta(r); }},
+        {EMR_RESIZEPALETTE,
+         [](Yo l, Reg r) {
+             if (const Objeto o = l.Busca(r.U32(8)); o && o->Tipo == ObjetoMeta::Clase::Paleta)
+                 l.c_.CambiaMedida(*o, r.U32(12));
+         }},
+        {EMR_EXTCREATEFONTINDIRECTW, [](Yo l, Reg r) { l.Fuente(r); }},
+        {EMR_CREATEMONOBRUSH, [](Yo l, Reg r) { l.Pon(r.U32(8), l.DibujoDe(r, 12, true)); }},
+        {EMR_CREATEDIBPATTERNBRUSHPT,
+         [](Yo l, Reg r) { l.Pon(r.U32(8), l.DibujoDe(r, 12, false)); }},
+        {EMR_EXTCREATEPEN, [](Yo l, Reg r) { l.PlumaExtendida(r); }},
+    };
+    return filas;
 }
 
 // --- Figures.
 
-bool LectorEmf::Figuras(u32 tipo, const Registro& r) {
-    switch (tipo) {
-        case 15:
-            c_.PonPunto(r.P32(8), {r.U32(16)});
-            return true;
-        case 27:
-            c_.MueveA(r.P32(8));
-            return true;
-        case 41:
-            c_.ArcoAngulo(r.P32(8), r.U32(16), r.F32(20), r.F32(24));
-            return true;
-        case 42:
-            c_.Elipse(r.P32(8), r.P32(16));
-            return true;
-        case 43:
-            c_.Rectangulo(r.P32(8), r.P32(16));
-            return true;
-        case 44:
-            c_.Redondeado(r.P32(8), r.P32(16), r.P32(24));
-            return true;
-        case 45:
-            c_.DibujaArco(ContextoMeta::Arco::Suelto, r.P32(8), r.P32(16), r.P32(24), r.P32(32));
-            return true;
-        case 46:
-            c_.DibujaArco(ContextoMeta::Arco::Cuerda, r.P32(8), r.P32(16), r.P32(24), r.P32(32));
-            return true;
-        case 47:
-            c_.DibujaArco(ContextoMeta::Arco::Tarta, r.P32(8), r.P32(16), r.P32(24), r.P32(32));
-            return true;
-        case 53:
-            c_.Inunda(r.P32(8), {r.U32(16)}, r.U32(20) == 0);
-            return true;
-        case 54:
-            c_.LineaA(r.P32(8));
-            return true;
-        case 55:
-            c_.DibujaArco(ContextoMeta::Arco::Sigue, r.P32(8), r.P32(16), r.P32(24), r.P32(32));
-            return true;
-        default:
-            return false;
-    }
+LectorEmf::Acciones::Tabla LectorEmf::Figuras() {
+    using Arco = ContextoMeta::Arco;
+    static constexpr auto arco = [](Yo l, Reg r, Arco clase) {
+        l.c_.DibujaArco(clase, r.P32(8), r.P32(16), r.P32(24), r.P32(32));
+    };
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_SETPIXELV, [](Yo l, Reg r) { l.c_.PonPunto(r.P32(8), {r.U32(16)}); }},
+        {EMR_MOVETOEX, [](Yo l, Reg r) { l.c_.MueveA(r.P32(8)); }},
+        {EMR_LINETO, [](Yo l, Reg r) { l.c_.LineaA(r.P32(8)); }},
+        {EMR_ANGLEARC,
+         [](Yo l, Reg r) { l.c_.ArcoAngulo(r.P32(8), r.U32(16), r.F32(20), r.F32(24)); }},
+        {EMR_ELLIPSE, [](Yo l, Reg r) { l.c_.Elipse(r.P32(8), r.P32(16)); }},
+        {EMR_RECTANGLE, [](Yo l, Reg r) { l.c_.Rectangulo(r.P32(8), r.P32(16)); }},
+        {EMR_ROUNDRECT, [](Yo l, Reg r) { l.c_.Redondeado(r.P32(8), r.P32(16), r.P32(24)); }},
+        {EMR_ARC, [](Yo l, Reg r) { arco(l, r, Arco::Suelto); }},
+        {EMR_CHORD, [](Yo l, Reg r) { arco(l, r, Arco::Cuerda); }},
+        {EMR_PIE, [](Yo l, Reg r) { arco(l, r, Arco::Tarta); }},
+        {EMR_ARCTO, [](Yo l, Reg r) { arco(l, r, Arco::Sigue); }},
+        {EMR_EXTFLOODFILL, [](Yo l, Reg r) { l.c_.Inunda(r.P32(8), {r.U32(16)}, r.U32(20) == 0); }},
+    };
+    return filas;
 }
 
-bool LectorEmf::Poligonos(u32 tipo, const Registro& r) {
-    constexpr std::size_t CUENTA = 24, PUNTOS = 28;
-    const bool cortos = tipo >= 85 && tipo <= 92;
-    // The forms with 16-bit points follow the others in the same order.
-    const u32 clase = cortos ? (tipo == 92 ? 56 : tipo - 83) : tipo;
-    switch (clase) {
-        case 2:
-            c_.Bezier(r.Puntos(PUNTOS, r.U32(CUENTA), cortos), false);
-            return true;
-        case 3:
-            c_.Poligonos({r.Puntos(PUNTOS, r.U32(CUENTA), cortos)}, true);
-            return true;
-        case 4:
-            c_.Polilinea(r.Puntos(PUNTOS, r.U32(CUENTA), cortos), false);
-            return true;
-        case 5:
-            c_.Bezier(r.Puntos(PUNTOS, r.U32(CUENTA), cortos), true);
-            return true;
-        case 6:
-            c_.Polilinea(r.Puntos(PUNTOS, r.U32(CUENTA), cortos), true);
-            return true;
-        case 7:
-        case 8: {
-            const std::size_t n = r.U32(24), total = r.U32(28);
-            if (n > PARTES_MAXIMAS) throw RegistroCorto{};
-            const std::vector<PuntoD> p =
-                r.Puntos(r.Parte(32, n * std::size_t{4}).size() + 32, total, cortos);
-            std::vector<std::vector<PuntoD>> partes;
-            std::size_t i = 0;
-            for (std::size_t k = 0; k < n; ++k) {
-                const std::size_t cuantos = r.U32(32 + 4 * k);
-                if (cuantos > p.size() - i) return true;
-                partes.emplace_back(p.begin() + static_cast<std::ptrdiff_t>(i),
-                                    p.begin() + static_cast<std::ptrdiff_t>(i + cuantos));
-                i += cuantos;
-            }
-            c_.Poligonos(partes, clase == 8);
-            return true;
-        }
-        case 56: {
-            const std::size_t n = r.U32(CUENTA);
-            const std::vector<PuntoD> p = r.Puntos(PUNTOS, n, cortos);
-            c_.PoliDibujo(p, r.Parte(PUNTOS + n * (cortos ? 4 : 8), n));
-            return true;
-        }
-        default:
-            return false;
+// Several lines or polygons: how many, how many points in all, the points of each, the points.
+void LectorEmf::VariosPoligonos(const Registro& r, bool cortos, bool cerrados) {
+    constexpr std::size_t CUANTOS = 24, TOTAL = 28, CUENTAS = 32;
+    const std::size_t n = r.U32(CUANTOS), total = r.U32(TOTAL);
+    if (n > PARTES_MAXIMAS) throw RegistroCorto{};
+    const std::vector<PuntoD> p =
+        r.Puntos(r.Parte(CUENTAS, n * std::size_t{4}).size() + CUENTAS, total, cortos);
+    std::vector<std::vector<PuntoD>> partes;
+    std::size_t i = 0;
+    for (std::size_t k = 0; k < n; ++k) {
+        const std::size_t cuantos = r.U32(CUENTAS + 4 * k);
+        if (cuantos > p.size() - i) return;
+        partes.emplace_back(p.begin() + static_cast<std::ptrdiff_t>(i),
+                            p.begin() + static_cast<std::ptrdiff_t>(i + cuantos));
+        i += cuantos;
     }
+    c_.Poligonos(partes, cerrados);
 }
 
-bool LectorEmf::Caminos(u32 tipo, const Registro& r) {
-    switch (tipo) {
-        case 59:
-            c_.EmpiezaCamino();
-            return true;
-        case 60:
-            c_.TerminaCamino();
-            return true;
-        case 61:
-            c_.CierraFigura();
-            return true;
-        case 62:
-            c_.PintaCamino(true, false);
-            return true;
-        case 63:
-            c_.PintaCamino(true, true);
-            return true;
-        case 64:
-            c_.PintaCamino(false, true);
-            return true;
-        case 65:  // curves are lines already
-            return true;
-        case 66:
-            c_.EnsanchaCamino();
-            return true;
-        case 67:
-            c_.RecortaConCamino(r.I32(8));
-            return true;
-        case 68:
-            c_.AbandonaCamino();
-            return true;
-        default:
-            return false;
-    }
+void LectorEmf::PoliDibujo(const Registro& r, bool cortos) {
+    const std::size_t n = r.U32(CUENTA);
+    const std::vector<PuntoD> p = r.Puntos(PUNTOS, n, cortos);
+    c_.PoliDibujo(p, r.Parte(PUNTOS + n * (cortos ? 4 : 8), n));
+}
+
+// Each in two forms, with points of 32 and of 16 bits.
+LectorEmf::Acciones::Tabla LectorEmf::Poligonos() {
+    static constexpr auto largos = [](Reg r) { return r.Puntos(PUNTOS, r.U32(CUENTA), false); };
+    static constexpr auto cortos = [](Reg r) { return r.Puntos(PUNTOS, r.U32(CUENTA), true); };
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_POLYBEZIER, [](Yo l, Reg r) { l.c_.Bezier(largos(r), false); }},
+        {EMR_POLYBEZIER16, [](Yo l, Reg r) { l.c_.Bezier(cortos(r), false); }},
+        {EMR_POLYGON, [](Yo l, Reg r) { l.c_.Poligonos({largos(r)}, true); }},
+        {EMR_POLYGON16, [](Yo l, Reg r) { l.c_.Poligonos({cortos(r)}, true); }},
+        {EMR_POLYLINE, [](Yo l, Reg r) { l.c_.Polilinea(largos(r), false); }},
+        {EMR_POLYLINE16, [](Yo l, Reg r) { l.c_.Polilinea(cortos(r), false); }},
+        {EMR_POLYBEZIERTO, [](Yo l, Reg r) { l.c_.Bezier(largos(r), true); }},
+        {EMR_POLYBEZIERTO16, [](Yo l, Reg r) { l.c_.Bezier(cortos(r), true); }},
+        {EMR_POLYLINETO, [](Yo l, Reg r) { l.c_.Polilinea(largos(r), true); }},
+        {EMR_POLYLINETO16, [](Yo l, Reg r) { l.c_.Polilinea(cortos(r), true); }},
+        {EMR_POLYPOLYLINE, [](Yo l, Reg r) { l.VariosPoligonos(r, false, false); }},
+        {EMR_POLYPOLYLINE16, [](Yo l, Reg r) { l.VariosPoligonos(r, true, false); }},
+        {EMR_POLYPOLYGON, [](Yo l, Reg r) { l.VariosPoligonos(r, false, true); }},
+        {EMR_POLYPOLYGON16, [](Yo l, Reg r) { l.VariosPoligonos(r, true, true); }},
+        {EMR_POLYDRAW, [](Yo l, Reg r) { l.PoliDibujo(r, false); }},
+        {EMR_POLYDRAW16, [](Yo l, Reg r) { l.PoliDibujo(r, true); }},
+    };
+    return filas;
+}
+
+// To flatten a path changes nothing: curves are lines already.
+LectorEmf::Acciones::Tabla LectorEmf::Caminos() {
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_BEGINPATH, [](Yo l, Reg) { l.c_.EmpiezaCamino(); }},
+        {EMR_ENDPATH, [](Yo l, Reg) { l.c_.TerminaCamino(); }},
+        {EMR_CLOSEFIGURE, [](Yo l, Reg) { l.c_.CierraFigura(); }},
+        {EMR_FILLPATH, [](Yo l, Reg) { l.c_.PintaCamino(true, false); }},
+        {EMR_STROKEANDFILLPATH, [](Yo l, Reg) { l.c_.PintaCamino(true, true); }},
+        {EMR_STROKEPATH, [](Yo l, Reg) { l.c_.PintaCamino(false, true); }},
+        {EMR_WIDENPATH, [](Yo l, Reg) { l.c_.EnsanchaCamino(); }},
+        {EMR_SELECTCLIPPATH, [](Yo l, Reg r) { l.c_.RecortaConCamino(r.I32(8)); }},
+        {EMR_ABORTPATH, [](Yo l, Reg) { l.c_.AbandonaCamino(); }},
+    };
+    return filas;
 }
 
 // --- Regions.
@@ -421,62 +337,50 @@ Region LectorEmf::LeeRegion(const Registro& r, std::size_t i, std::size_t n, con
     return c_.RegionDe(d.Puntos(CABECERA, cajas * 2, false), m);
 }
 
-bool LectorEmf::Regiones(u32 tipo, const Registro& r) {
-    const auto logica = [&](std::size_t n, std::size_t desde) {
-        return LeeRegion(r, desde, r.U32(n), c_.AlDispositivo());
-    };
-    switch (tipo) {
-        case 26:
-            c_.DesplazaRecorte(r.P32(8));
-            return true;
-        case 28:
-            c_.FijaMetaRegion();
-            return true;
-        case 29:
-            c_.RecortaCaja(r.P32(8), r.P32(16), RGN_DIFF);
-            return true;
-        case 30:
-            c_.RecortaCaja(r.P32(8), r.P32(16), RGN_AND);
-            return true;
-        case 71:
-            c_.RellenaRegion(logica(24, 32), Busca(r.U32(28)));
-            return true;
-        case 72:
-            c_.MarcoRegion(logica(24, 40), Busca(r.U32(28)), r.P32(32));
-            return true;
-        case 73:
-            c_.InvierteRegion(logica(24, 28));
-            return true;
-        case 74:
-            c_.RellenaRegion(logica(24, 28), nullptr);
-            return true;
-        case 75: {
-            const std::size_t n = r.U32(8);
-            const i32 modo = r.I32(12);
-            if (n == 0 && modo == RGN_COPY)
-                c_.QuitaRecorte();
-            else if (modo >= RGN_AND && modo <= RGN_COPY)
-                c_.RecortaRegion(LeeRegion(r, 16, n, c_.Base()), modo);
-            return true;
-        }
-        default:
-            return false;
-    }
+// A region in logical coordinates that begins at an offset.
+Region LectorEmf::RegionLogica(const Registro& r, std::size_t desde) {
+    constexpr std::size_t LARGO = 24;
+    return LeeRegion(r, desde, r.U32(LARGO), c_.AlDispositivo());
 }
 
-// Records of other kinds, comments among them, draw nothing here.
+void LectorEmf::RecortaRegion(const Registro& r) {
+    const std::size_t n = r.U32(8);
+    const i32 modo = r.I32(12);
+    if (n == 0 && modo == RGN_COPY)
+        c_.QuitaRecorte();
+    else if (modo >= RGN_AND && modo <= RGN_COPY)
+        c_.RecortaRegion(LeeRegion(r, 16, n, c_.Base()), modo);
+}
+
+LectorEmf::Acciones::Tabla LectorEmf::Regiones() {
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_OFFSETCLIPRGN, [](Yo l, Reg r) { l.c_.DesplazaRecorte(r.P32(8)); }},
+        {EMR_SETMETARGN, [](Yo l, Reg) { l.c_.FijaMetaRegion(); }},
+        {EMR_EXCLUDECLIPRECT, [](Yo l, Reg r) { l.c_.RecortaCaja(r.P32(8), r.P32(16), RGN_DIFF); }},
+        {EMR_INTERSECTCLIPRECT,
+         [](Yo l, Reg r) { l.c_.RecortaCaja(r.P32(8), r.P32(16), RGN_AND); }},
+        {EMR_FILLRGN,
+         [](Yo l, Reg r) { l.c_.RellenaRegion(l.RegionLogica(r, 32), l.Busca(r.U32(28))); }},
+        {EMR_FRAMERGN,
+         [](Yo l, Reg r) {
+             l.c_.MarcoRegion(l.RegionLogica(r, 40), l.Busca(r.U32(28)), r.P32(32));
+         }},
+        {EMR_INVERTRGN, [](Yo l, Reg r) { l.c_.InvierteRegion(l.RegionLogica(r, 28)); }},
+        {EMR_PAINTRGN, [](Yo l, Reg r) { l.c_.RellenaRegion(l.RegionLogica(r, 28), nullptr); }},
+        {EMR_EXTSELECTCLIPRGN, [](Yo l, Reg r) { l.RecortaRegion(r); }},
+    };
+    return filas;
+}
+
+// Comments draw nothing here.
 void LectorEmf::Lee(u32 tipo, const Registro& r) {
-    try {
-        static_cast<void>(Figuras(tipo, r) || Poligonos(tipo, r) || Estado(tipo, r) ||
-                          Coordenadas(tipo, r) || Objetos(tipo, r) || Caminos(tipo, r) ||
-                          Regiones(tipo, r) || Copias(tipo, r) || Textos(tipo, r));
-    } catch (const RegistroCorto&) {
-        c_.Gasto().Gasta(GASTO_REGISTRO * 20);
-    }
+    static const Acciones acciones{Estado(),  Coordenadas(), Objetos(), Figuras(), Poligonos(),
+                                   Caminos(), Regiones(),    Copias(),  Textos()};
+    acciones.Haz(*this, tipo, r, c_.Gasto());
 }
 
 bool EsEmf(Bytes f) {
-    return f.size() >= CABECERA_MINIMA && Lee32(f, 0) == 1 && Lee32(f, 40) == FIRMA;
+    return f.size() >= CABECERA_MINIMA && Lee32(f, 0) == EMR_HEADER && Lee32(f, 40) == FIRMA;
 }
 
 Lectura MideEmf(Bytes f, i32& ancho, i32& alto) {
@@ -490,7 +394,6 @@ Lectura MideEmf(Bytes f, i32& ancho, i32& alto) {
 }
 
 Lectura PintaEmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
-    constexpr u32 FIN = 14;
     Cabecera cab;
     if (const Lectura l = LeeCabecera(f, cab); l != Lectura::Bien) return l;
     pintor.Abre(cab.Ancho, cab.Alto, esfuerzo);
@@ -503,7 +406,7 @@ Lectura PintaEmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
         const u32 tipo = Lee32(f, i);
         const std::size_t largo = Lee32(f, i + 4);
         if (largo < 8 || largo > f.size() - i) return Lectura::Imposible;
-        if (tipo == FIN) break;
+        if (tipo == EMR_EOF) break;
         if (++registros > REGISTROS_MAXIMOS) return Lectura::Imposible;
         esfuerzo.Gasta(GASTO_REGISTRO);
         lector.Lee(tipo, Registro(f.subspan(i, largo)));

@@ -21,14 +21,13 @@ std::optional<Mapa> LectorEmf::Bitmap(const Registro& r, std::size_t i, u32 uso,
 }
 
 void LectorEmf::Bloque(u32 tipo, const Registro& r) {
-    constexpr u32 STRETCHBLT = 77, MASKBLT = 78, ALPHABLEND = 114;
     CopiaMeta c;
     const PuntoD lugar = r.P32(24), medida = r.P32(32);
     const u32 codigo = r.U32(40);
-    const bool estira = tipo == STRETCHBLT || tipo >= ALPHABLEND;
+    const bool estira = tipo == EMR_STRETCHBLT || tipo >= EMR_ALPHABLEND;
     std::optional<Mapa> origen, mascara;
     if (r.U32(84) != 0 || r.U32(88) != 0) {
-        origen = Bitmap(r, 84, r.U32(80), tipo == ALPHABLEND);
+        origen = Bitmap(r, 84, r.U32(80), tipo == EMR_ALPHABLEND);
         if (!origen) return;
         c.Origen = &*origen;
         const Matriz m = r.M32(52);
@@ -38,22 +37,22 @@ void LectorEmf::Bloque(u32 tipo, const Registro& r) {
         c.Arr = desde.y;
         c.Ancho = cuanto.x;
         c.Alto = cuanto.y;
-    } else if (tipo >= ALPHABLEND) {
+    } else if (tipo >= EMR_ALPHABLEND) {
         return;
     }
     c.Operacion = (codigo >> 16) & 0xFFU;
-    if (tipo == MASKBLT) {
+    if (tipo == EMR_MASKBLT) {
         c.OperacionFuera = codigo >> 24;
         if (r.U32(112) != 0) mascara = Bitmap(r, 112, r.U32(108));
         if (mascara) c.Mascara = &*mascara;
         c.MascaraX = r.I32(100);
         c.MascaraY = r.I32(104);
     }
-    if (tipo == ALPHABLEND) {
+    if (tipo == EMR_ALPHABLEND) {
         c.Tipo = CopiaMeta::Clase::Mezcla;
         c.Constante = (codigo >> 16) & 0xFFU;
         c.AlfaPropia = (codigo >> 24) & 1U;
-    } else if (tipo > ALPHABLEND) {
+    } else if (tipo > EMR_ALPHABLEND) {
         c.Tipo = CopiaMeta::Clase::Clave;
         c.Clave = c_.Color({codigo});
     }
@@ -160,30 +159,19 @@ void LectorEmf::Degradado(const Registro& r) {
     }
 }
 
-bool LectorEmf::Copias(u32 tipo, const Registro& r) {
-    switch (tipo) {
-        case 76:
-        case 77:
-        case 78:
-        case 114:
-        case 116:
-            Bloque(tipo, r);
-            return true;
-        case 79:
-            Paralelogramo(r);
-            return true;
-        case 80:
-            AlDispositivo(r);
-            return true;
-        case 81:
-            Estirado(r);
-            return true;
-        case 118:
-            Degradado(r);
-            return true;
-        default:
-            return false;
-    }
+LectorEmf::Acciones::Tabla LectorEmf::Copias() {
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_BITBLT, [](Yo l, Reg r) { l.Bloque(EMR_BITBLT, r); }},
+        {EMR_STRETCHBLT, [](Yo l, Reg r) { l.Bloque(EMR_STRETCHBLT, r); }},
+        {EMR_MASKBLT, [](Yo l, Reg r) { l.Bloque(EMR_MASKBLT, r); }},
+        {EMR_ALPHABLEND, [](Yo l, Reg r) { l.Bloque(EMR_ALPHABLEND, r); }},
+        {EMR_TRANSPARENTBLT, [](Yo l, Reg r) { l.Bloque(EMR_TRANSPARENTBLT, r); }},
+        {EMR_PLGBLT, [](Yo l, Reg r) { l.Paralelogramo(r); }},
+        {EMR_SETDIBITSTODEVICE, [](Yo l, Reg r) { l.AlDispositivo(r); }},
+        {EMR_STRETCHDIBITS, [](Yo l, Reg r) { l.Estirado(r); }},
+        {EMR_GRADIENTFILL, [](Yo l, Reg r) { l.Degradado(r); }},
+    };
+    return filas;
 }
 
 // --- Text.
@@ -239,26 +227,23 @@ void LectorEmf::TextoBreve(const Registro& r) {
     c_.Escribe(t);
 }
 
-bool LectorEmf::Textos(u32 tipo, const Registro& r) {
-    constexpr std::size_t TEXTO = 36, VARIOS = 40, PASO = 40;
-    switch (tipo) {
-        case 83:
-        case 84:
-            Texto(r, TEXTO, tipo == 84);
-            return true;
-        case 96:
-        case 97: {
-            const std::size_t n = r.U32(36);
-            if (n > r.Largo() / PASO) throw RegistroCorto{};
-            for (std::size_t k = 0; k < n; ++k) Texto(r, VARIOS + k * PASO, tipo == 97);
-            return true;
-        }
-        case 108:
-            TextoBreve(r);
-            return true;
-        default:
-            return false;
-    }
+void LectorEmf::Textos(const Registro& r, bool ancho) {
+    constexpr std::size_t CUANTOS = 36, PRIMERO = 40, PASO = 40;
+    const std::size_t n = r.U32(CUANTOS);
+    if (n > r.Largo() / PASO) throw RegistroCorto{};
+    for (std::size_t k = 0; k < n; ++k) Texto(r, PRIMERO + k * PASO, ancho);
+}
+
+LectorEmf::Acciones::Tabla LectorEmf::Textos() {
+    static constexpr std::size_t TEXTO = 36;
+    static constexpr Acciones::Fila filas[] = {
+        {EMR_EXTTEXTOUTA, [](Yo l, Reg r) { l.Texto(r, TEXTO, false); }},
+        {EMR_EXTTEXTOUTW, [](Yo l, Reg r) { l.Texto(r, TEXTO, true); }},
+        {EMR_POLYTEXTOUTA, [](Yo l, Reg r) { l.Textos(r, false); }},
+        {EMR_POLYTEXTOUTW, [](Yo l, Reg r) { l.Textos(r, true); }},
+        {EMR_SMALLTEXTOUT, [](Yo l, Reg r) { l.TextoBreve(r); }},
+    };
+    return filas;
 }
 
 }  // namespace tessario

@@ -3,7 +3,10 @@
 // letters by the character sets of old. Only for the walks.
 #pragma once
 
+#include <initializer_list>
 #include <optional>
+#include <span>
+#include <unordered_map>
 
 #include "platform/MetaContexto.h"
 
@@ -36,6 +39,36 @@ public:
 
 private:
     Bytes b_;
+};
+
+// What each kind of record does to the reader of a file, by its number.
+template <class Lector>
+class AccionesMeta {
+public:
+    struct Fila {
+        u32 Numero;
+        void (*Hace)(Lector&, const Registro&);
+    };
+    using Tabla = std::span<const Fila>;
+
+    AccionesMeta(std::initializer_list<Tabla> tablas) {
+        for (const Tabla& t : tablas)
+            for (const Fila& f : t) porNumero_.emplace(f.Numero, f.Hace);
+    }
+    // Records of other kinds, and those that are too short for what they say, do nothing.
+    void Haz(Lector& l, u32 numero, const Registro& r, Esfuerzo& esfuerzo) const {
+        constexpr long long GASTO_CORTO = 2000;
+        const auto i = porNumero_.find(numero);
+        if (i == porNumero_.end()) return;
+        try {
+            i->second(l, r);
+        } catch (const RegistroCorto&) {
+            esfuerzo.Gasta(GASTO_CORTO);
+        }
+    }
+
+private:
+    std::unordered_map<u32, void (*)(Lector&, const Registro&)> porNumero_;
 };
 
 // How the entries of a bitmap's colour table are meant.

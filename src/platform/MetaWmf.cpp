@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "platform/MetaNumeros.h"
 #include "platform/MetaRegistro.h"
 
 namespace tessario {
@@ -13,6 +14,7 @@ namespace {
 
 constexpr u32 CLAVE = 0x9AC6CDD7;  // of the header that gives the size
 constexpr std::size_t CABECERA_MEDIDA = 22, CABECERA = 18;
+constexpr std::size_t LARGO_MINIMO = 6;  // of a record
 constexpr double PIXELES_POR_PULGADA = 96, MM_POR_PULGADA = 25.4;
 constexpr i32 ANCHO_SIN_MEDIDA = 320, ALTO_SIN_MEDIDA = 240;
 constexpr u32 REGISTROS_MAXIMOS = 4'000'000;
@@ -60,13 +62,16 @@ public:
     void Lee(u32 funcion, const Registro& r);
 
 private:
-    bool Estado(u32 funcion, const Registro& r);
-    bool Coordenadas(u32 funcion, const Registro& r);
-    bool Objetos(u32 funcion, const Registro& r);
-    bool Figuras(u32 funcion, const Registro& r);
-    bool Regiones(u32 funcion, const Registro& r);
-    bool Copias(u32 funcion, const Registro& r);
-    bool Textos(u32 funcion, const Registro& r);
+    using Acciones = AccionesMeta<LectorWmf>;
+    using Yo = LectorWmf&;
+    using Reg = const Registro&;
+    static Acciones::Tabla Estado();
+    static Acciones::Tabla Coordenadas();
+    static Acciones::Tabla Objetos();
+    static Acciones::Tabla Figuras();
+    static Acciones::Tabla Regiones();
+    static Acciones::Tabla Copias();
+    static Acciones::Tabla Textos();
 
     // A point whose y stands before its x.
     static PuntoD Yx(const Registro& r, std::size_t i) {
@@ -81,9 +86,14 @@ private:
     void CambiaPaleta(const Registro& r);
     Objeto BrochaDeDib(const Registro& r);
     std::optional<Mapa> Bitmap16(const Registro& r, std::size_t i, std::size_t cabecera);
-    void Bloque(const Registro& r, bool estira, bool dib, bool sinOrigen);
+    void Brocha(const Registro& r);
+    void Poligonos(const Registro& r);
+    void PintaRegion(const Registro& r, bool marco);
+    void Bloque(u32 funcion, const Registro& r);
     void Filas(const Registro& r);
     void Estirado(const Registro& r);
+    void Texto(const Registro& r);
+    void TextoConCaja(const Registro& r);
 
     ContextoMeta& c_;
     std::vector<Objeto> objetos_;
@@ -92,81 +102,45 @@ private:
 
 // --- Records that set a field.
 
-bool LectorWmf::Estado(u32 funcion, const Registro& r) {
-    EstadoMeta& e = c_.E;
-    switch (funcion) {
-        case 0x001E:
-            c_.Guarda();
-            return true;
-        case 0x0127:
-            c_.Restaura(r.I16(0));
-            return true;
-        case 0x0102:
-            e.Opaco = r.U16(0) != 1;
-            return true;
-        case 0x0104:
-            if (r.U16(0) >= 1 && r.U16(0) <= 16) e.Rop2 = r.I16(0);
-            return true;
-        case 0x0106:
-            e.Alterno = r.U16(0) != 2;
-            return true;
-        case 0x0107:
-            e.Estira = static_cast<int>(r.U16(0) & 7U);
-            return true;
-        case 0x0108:
-            e.ExtraLetra = r.I16(0);
-            return true;
-        case 0x012E:
-            e.Alineacion = r.U16(0);
-            return true;
-        case 0x0201:
-            e.Fondo = {r.U32(0)};
-            return true;
-        case 0x0209:
-            e.Texto = {r.U32(0)};
-            return true;
-        case 0x020A:
-            e.Blancos = r.I16(0);
-            e.ExtraBlancos = r.I16(2);
-            return true;
-        default:
-            return false;
-    }
+LectorWmf::Acciones::Tabla LectorWmf::Estado() {
+    static constexpr Acciones::Fila filas[] = {
+        {META_SAVEDC, [](Yo l, Reg) { l.c_.Guarda(); }},
+        {META_RESTOREDC, [](Yo l, Reg r) { l.c_.Restaura(r.I16(0)); }},
+        {META_SETBKMODE, [](Yo l, Reg r) { l.c_.E.PonFondo(r.U16(0)); }},
+        {META_SETROP2, [](Yo l, Reg r) { l.c_.E.PonMezcla(r.U16(0)); }},
+        {META_SETPOLYFILLMODE, [](Yo l, Reg r) { l.c_.E.PonRelleno(r.U16(0)); }},
+        {META_SETSTRETCHBLTMODE, [](Yo l, Reg r) { l.c_.E.PonEstiramiento(r.U16(0)); }},
+        {META_SETTEXTCHAREXTRA, [](Yo l, Reg r) { l.c_.E.ExtraLetra = r.I16(0); }},
+        {META_SETTEXTALIGN, [](Yo l, Reg r) { l.c_.E.Alineacion = r.U16(0); }},
+        {META_SETBKCOLOR, [](Yo l, Reg r) { l.c_.E.Fondo = {r.U32(0)}; }},
+        {META_SETTEXTCOLOR, [](Yo l, Reg r) { l.c_.E.Texto = {r.U32(0)}; }},
+        {META_SETTEXTJUSTIFICATION,
+         [](Yo l, Reg r) {
+             l.c_.E.Blancos = r.I16(0);
+             l.c_.E.ExtraBlancos = r.I16(2);
+         }},
+    };
+    return filas;
 }
 
-bool LectorWmf::Coordenadas(u32 funcion, const Registro& r) {
-    EstadoMeta& e = c_.E;
-    const auto suma = [](PuntoD& p, PuntoD d) { p = {p.x + d.x, p.y + d.y}; };
-    switch (funcion) {
-        case 0x0103:
-            c_.PonMapeo(r.I16(0));
-            return true;
-        case 0x020B:
-            e.VentanaOrigen = Yx(r, 0);
-            return true;
-        case 0x020C:
-            c_.PonMedida(false, Yx(r, 0));
-            return true;
-        case 0x020D:
-            e.VistaOrigen = Yx(r, 0);
-            return true;
-        case 0x020E:
-            c_.PonMedida(true, Yx(r, 0));
-            return true;
-        case 0x020F:
-            suma(e.VentanaOrigen, Yx(r, 0));
-            return true;
-        case 0x0211:
-            suma(e.VistaOrigen, Yx(r, 0));
-            return true;
-        case 0x0410:
-        case 0x0412:
-            c_.EscalaMedida(funcion == 0x0412, {double(r.I16(6)), double(r.I16(2))},
-                            {double(r.I16(4)), double(r.I16(0))});
-            return true;
-        default:
-            return false;
-    }
+LectorWmf::Acciones::Tabla LectorWmf::Coordenadas() {
+    static constexpr auto escala = [](Yo l, Reg r, bool vista) {
+        l.c_.EscalaMedida(vista, {double(r.I16(6)), double(r.I16(2))},
+                          {double(r.I16(4)), double(r.I16(0))});
+    };
+    static constexpr auto suma = [](PuntoD& p, PuntoD d) { p = {p.x + d.x, p.y + d.y}; };
+    static constexpr Acciones::Fila filas[] = {
+        {META_SETMAPMODE, [](Yo l, Reg r) { l.c_.PonMapeo(r.I16(0)); }},
+        {META_SETWINDOWORG, [](Yo l, Reg r) { l.c_.E.VentanaOrigen = Yx(r, 0); }},
+        {META_SETWINDOWEXT, [](Yo l, Reg r) { l.c_.PonMedida(false, Yx(r, 0)); }},
+        {META_SETVIEWPORTORG, [](Yo l, Reg r) { l.c_.E.VistaOrigen = Yx(r, 0); }},
+        {META_SETVIEWPORTEXT, [](Yo l, Reg r) { l.c_.PonMedida(true, Yx(r, 0)); }},
+        {META_OFFSETWINDOWORG, [](Yo l, Reg r) { suma(l.c_.E.VentanaOrigen, Yx(r, 0)); }},
+        {META_OFFSETVIEWPORTORG, [](Yo l, Reg r) { suma(l.c_.E.VistaOrigen, Yx(r, 0)); }},
+        {META_SCALEWINDOWEXT, [](Yo l, Reg r) { escala(l, r, false); }},
+        {META_SCALEVIEWPORTEXT, [](Yo l, Reg r) { escala(l, r, true); }},
+    };
+    return filas;
 }
 
 // --- Objects.
@@ -260,123 +234,88 @@ Objeto LectorWmf::BrochaDeDib(const Registro& r) {
     return BrochaDeDibujo(c_, std::move(m), r.U16(0) == DE_MAPA && d.Bits == 1);
 }
 
-bool LectorWmf::Objetos(u32 funcion, const Registro& r) {
-    switch (funcion) {
-        case 0x00F7:
-            Paleta(r);
-            return true;
-        case 0x0037:
-        case 0x0436:
-            CambiaPaleta(r);
-            return true;
-        case 0x0139:
-            c_.CambiaMedida(*c_.E.ObjPaleta, r.U16(0));
-            return true;
-        case 0x0234:
-            c_.PonPaleta(Busca(r.U16(0)));
-            return true;
-        case 0x012D:
-            c_.Elige(Busca(r.U16(0)));
-            return true;
-        case 0x01F0:
-            if (const u32 n = r.U16(0); n < objetos_.size()) objetos_[n].reset();
-            return true;
-        case 0x02FA:
-            Pon(PlumaLisa(r.U16(0), std::abs(static_cast<double>(r.I16(2))), r.U32(6)));
-            return true;
-        case 0x02FB:
-            Fuente(r);
-            return true;
-        case 0x02FC: {
-            constexpr u32 NULA = 1, TRAMADA = 2;
-            Objeto o = BrochaLisa(r.U32(2));
-            if (r.U16(0) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-            if (r.U16(0) == TRAMADA) {
-                o->Brocha.Tipo = BrochaMeta::Clase::Trama;
-                o->Brocha.Trama = r.I16(6);
-            }
-            Pon(std::move(o));
-            return true;
-        }
-        case 0x0142:
-            Pon(BrochaDeDib(r));
-            return true;
-        case 0x01F9: {
-            constexpr std::size_t CABECERA_MAPA = 32;
-            const bool unBit = r.Byte(9) == 1;
-            Pon(BrochaDeDibujo(c_, Bitmap16(r, 0, CABECERA_MAPA), unBit));
-            return true;
-        }
-        case 0x06FF:
-            CreaRegion(r);
-            return true;
-        case 0x00F8:  // of old kinds that nothing draws with
-        case 0x02FD:
-        case 0x06FE:
-            Pon(nullptr);
-            return true;
-        default:
-            return false;
+void LectorWmf::Brocha(const Registro& r) {
+    constexpr u32 NULA = 1, TRAMADA = 2;
+    Objeto o = BrochaLisa(r.U32(2));
+    if (r.U16(0) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
+    if (r.U16(0) == TRAMADA) {
+        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
+        o->Brocha.Trama = r.I16(6);
     }
+    Pon(std::move(o));
+}
+
+LectorWmf::Acciones::Tabla LectorWmf::Objetos() {
+    static constexpr std::size_t CABECERA_MAPA = 32;
+    // Of old kinds that nothing draws with: they only take a place.
+    static constexpr auto toma = [](Yo l, Reg) { l.Pon(nullptr); };
+    static constexpr Acciones::Fila filas[] = {
+        {META_CREATEPALETTE, [](Yo l, Reg r) { l.Paleta(r); }},
+        {META_SETPALENTRIES, [](Yo l, Reg r) { l.CambiaPaleta(r); }},
+        {META_ANIMATEPALETTE, [](Yo l, Reg r) { l.CambiaPaleta(r); }},
+        {META_RESIZEPALETTE, [](Yo l, Reg r) { l.c_.CambiaMedida(*l.c_.E.ObjPaleta, r.U16(0)); }},
+        {META_SELECTPALETTE, [](Yo l, Reg r) { l.c_.PonPaleta(l.Busca(r.U16(0))); }},
+        {META_SELECTOBJECT, [](Yo l, Reg r) { l.c_.Elige(l.Busca(r.U16(0))); }},
+        {META_DELETEOBJECT,
+         [](Yo l, Reg r) {
+             if (const u32 n = r.U16(0); n < l.objetos_.size()) l.objetos_[n].reset();
+         }},
+        {META_CREATEPENINDIRECT,
+         [](Yo l, Reg r) {
+             l.Pon(PlumaLisa(r.U16(0), std::abs(static_cast<double>(r.I16(2))), r.U32(6)));
+         }},
+        {META_CREATEFONTINDIRECT, [](Yo l, Reg r) { l.Fuente(r); }},
+        {META_CREATEBRUSHINDIRECT, [](Yo l, Reg r) { l.Brocha(r); }},
+        {META_DIBCREATEPATTERNBRUSH, [](Yo l, Reg r) { l.Pon(l.BrochaDeDib(r)); }},
+        {META_CREATEPATTERNBRUSH,
+         [](Yo l, Reg r) {
+             const bool unBit = r.Byte(9) == 1;
+             l.Pon(BrochaDeDibujo(l.c_, l.Bitmap16(r, 0, CABECERA_MAPA), unBit));
+         }},
+        {META_CREATEREGION, [](Yo l, Reg r) { l.CreaRegion(r); }},
+        {META_CREATEBRUSH, toma},
+        {META_CREATEBITMAPINDIRECT, toma},
+        {META_CREATEBITMAP, toma},
+    };
+    return filas;
 }
 
 // --- Figures.
 
-bool LectorWmf::Figuras(u32 funcion, const Registro& r) {
-    using Arco = ContextoMeta::Arco;
-    switch (funcion) {
-        case 0x0213:
-            c_.LineaA(Yx(r, 0));
-            return true;
-        case 0x0214:
-            c_.MueveA(Yx(r, 0));
-            return true;
-        case 0x0324:
-            c_.Poligonos({r.Puntos(2, r.U16(0), true)}, true);
-            return true;
-        case 0x0325:
-            c_.Polilinea(r.Puntos(2, r.U16(0), true), false);
-            return true;
-        case 0x0538: {
-            const std::size_t n = r.U16(0);
-            std::vector<std::vector<PuntoD>> partes;
-            std::size_t i = 2 + 2 * n;
-            for (std::size_t k = 0; k < n; ++k) {
-                partes.push_back(r.Puntos(i, r.U16(2 + 2 * k), true));
-                i += 4 * partes.back().size();
-            }
-            c_.Poligonos(partes, true);
-            return true;
-        }
-        case 0x0418:
-            c_.Elipse(Yx(r, 4), Yx(r, 0));
-            return true;
-        case 0x041B:
-            c_.Rectangulo(Yx(r, 4), Yx(r, 0));
-            return true;
-        case 0x061C:
-            c_.Redondeado(Yx(r, 8), Yx(r, 4), Yx(r, 0));
-            return true;
-        case 0x0817:
-        case 0x081A:
-        case 0x0830:
-            c_.DibujaArco(funcion == 0x0817   ? Arco::Suelto
-                          : funcion == 0x081A ? Arco::Tarta
-                                              : Arco::Cuerda,
-                          Yx(r, 12), Yx(r, 8), Yx(r, 4), Yx(r, 0));
-            return true;
-        case 0x0419:
-            c_.Inunda(Yx(r, 4), {r.U32(0)}, true);
-            return true;
-        case 0x0548:
-            c_.Inunda(Yx(r, 6), {r.U32(2)}, r.U16(0) == 0);
-            return true;
-        case 0x041F:
-            c_.PonPunto(Yx(r, 4), {r.U32(0)});
-            return true;
-        default:
-            return false;
+void LectorWmf::Poligonos(const Registro& r) {
+    const std::size_t n = r.U16(0);
+    std::vector<std::vector<PuntoD>> partes;
+    std::size_t i = 2 + 2 * n;
+    for (std::size_t k = 0; k < n; ++k) {
+        partes.push_back(r.Puntos(i, r.U16(2 + 2 * k), true));
+        i += 4 * partes.back().size();
     }
+    c_.Poligonos(partes, true);
+}
+
+LectorWmf::Acciones::Tabla LectorWmf::Figuras() {
+    using Arco = ContextoMeta::Arco;
+    static constexpr auto puntos = [](Reg r) { return r.Puntos(2, r.U16(0), true); };
+    static constexpr auto arco = [](Yo l, Reg r, Arco clase) {
+        l.c_.DibujaArco(clase, Yx(r, 12), Yx(r, 8), Yx(r, 4), Yx(r, 0));
+    };
+    static constexpr Acciones::Fila filas[] = {
+        {META_LINETO, [](Yo l, Reg r) { l.c_.LineaA(Yx(r, 0)); }},
+        {META_MOVETO, [](Yo l, Reg r) { l.c_.MueveA(Yx(r, 0)); }},
+        {META_POLYGON, [](Yo l, Reg r) { l.c_.Poligonos({puntos(r)}, true); }},
+        {META_POLYLINE, [](Yo l, Reg r) { l.c_.Polilinea(puntos(r), false); }},
+        {META_POLYPOLYGON, [](Yo l, Reg r) { l.Poligonos(r); }},
+        {META_ELLIPSE, [](Yo l, Reg r) { l.c_.Elipse(Yx(r, 4), Yx(r, 0)); }},
+        {META_RECTANGLE, [](Yo l, Reg r) { l.c_.Rectangulo(Yx(r, 4), Yx(r, 0)); }},
+        {META_ROUNDRECT, [](Yo l, Reg r) { l.c_.Redondeado(Yx(r, 8), Yx(r, 4), Yx(r, 0)); }},
+        {META_ARC, [](Yo l, Reg r) { arco(l, r, Arco::Suelto); }},
+        {META_PIE, [](Yo l, Reg r) { arco(l, r, Arco::Tarta); }},
+        {META_CHORD, [](Yo l, Reg r) { arco(l, r, Arco::Cuerda); }},
+        {META_FLOODFILL, [](Yo l, Reg r) { l.c_.Inunda(Yx(r, 4), {r.U32(0)}, true); }},
+        {META_EXTFLOODFILL, [](Yo l, Reg r) { l.c_.Inunda(Yx(r, 6), {r.U32(2)}, r.U16(0) == 0); }},
+        {META_SETPIXEL, [](Yo l, Reg r) { l.c_.PonPunto(Yx(r, 4), {r.U32(0)}); }},
+    };
+    return filas;
 }
 
 // --- Regions.
@@ -418,51 +357,54 @@ const Region* LectorWmf::Rgn(u32 n, const Matriz& m) {
     return &rgn_;
 }
 
-bool LectorWmf::Regiones(u32 funcion, const Registro& r) {
-    switch (funcion) {
-        case 0x0220:
-            c_.DesplazaRecorte(Yx(r, 0));
-            return true;
-        case 0x0415:
-            c_.RecortaCaja(Yx(r, 4), Yx(r, 0), RGN_DIFF);
-            return true;
-        case 0x0416:
-            c_.RecortaCaja(Yx(r, 4), Yx(r, 0), RGN_AND);
-            return true;
-        case 0x012C:
-            // The first object's number stands for no region at all.
-            if (const Region* q = r.U16(0) ? Rgn(r.U16(0), Matriz{}) : nullptr)
-                c_.RecortaRegion(*q, RGN_COPY);
-            else
-                c_.QuitaRecorte();
-            return true;
-        case 0x0228:
-        case 0x0429: {
-            // The brush stands before the region; what was written the other way is understood.
-            const std::size_t i = funcion == 0x0228 ? 0 : 4;
-            u32 brocha = r.U16(i), region = r.U16(i + 2);
-            if (const Objeto o = Busca(brocha); o && o->Tipo == ObjetoMeta::Clase::Region)
-                std::swap(brocha, region);
-            const Region* const q = Rgn(region, c_.AlDispositivo());
-            if (q && funcion == 0x0228) c_.RellenaRegion(*q, Busca(brocha));
-            if (q && funcion == 0x0429) c_.MarcoRegion(*q, Busca(brocha), Yx(r, 0));
-            return true;
-        }
-        case 0x012A:
-            if (const Region* q = Rgn(r.U16(0), c_.AlDispositivo())) c_.InvierteRegion(*q);
-            return true;
-        case 0x012B:
-            if (const Region* q = Rgn(r.U16(0), c_.AlDispositivo())) c_.RellenaRegion(*q, nullptr);
-            return true;
-        default:
-            return false;
-    }
+// The brush stands before the region; what was written the other way is understood.
+void LectorWmf::PintaRegion(const Registro& r, bool marco) {
+    const std::size_t i = marco ? 4 : 0;
+    u32 brocha = r.U16(i), region = r.U16(i + 2);
+    if (const Objeto o = Busca(brocha); o && o->Tipo == ObjetoMeta::Clase::Region)
+        std::swap(brocha, region);
+    const Region* const q = Rgn(region, c_.AlDispositivo());
+    if (q && marco) c_.MarcoRegion(*q, Busca(brocha), Yx(r, 0));
+    if (q && !marco) c_.RellenaRegion(*q, Busca(brocha));
+}
+
+LectorWmf::Acciones::Tabla LectorWmf::Regiones() {
+    static constexpr Acciones::Fila filas[] = {
+        {META_OFFSETCLIPRGN, [](Yo l, Reg r) { l.c_.DesplazaRecorte(Yx(r, 0)); }},
+        {META_EXCLUDECLIPRECT, [](Yo l, Reg r) { l.c_.RecortaCaja(Yx(r, 4), Yx(r, 0), RGN_DIFF); }},
+        {META_INTERSECTCLIPRECT,
+         [](Yo l, Reg r) { l.c_.RecortaCaja(Yx(r, 4), Yx(r, 0), RGN_AND); }},
+        {META_SELECTCLIPREGION,
+         [](Yo l, Reg r) {
+             // The first object's number stands for no region at all.
+             if (const Region* q = r.U16(0) ? l.Rgn(r.U16(0), Matriz{}) : nullptr)
+                 l.c_.RecortaRegion(*q, RGN_COPY);
+             else
+                 l.c_.QuitaRecorte();
+         }},
+        {META_FILLREGION, [](Yo l, Reg r) { l.PintaRegion(r, false); }},
+        {META_FRAMEREGION, [](Yo l, Reg r) { l.PintaRegion(r, true); }},
+        {META_INVERTREGION,
+         [](Yo l, Reg r) {
+             if (const Region* q = l.Rgn(r.U16(0), l.c_.AlDispositivo())) l.c_.InvierteRegion(*q);
+         }},
+        {META_PAINTREGION,
+         [](Yo l, Reg r) {
+             if (const Region* q = l.Rgn(r.U16(0), l.c_.AlDispositivo()))
+                 l.c_.RellenaRegion(*q, nullptr);
+         }},
+    };
+    return filas;
 }
 
 // --- Pictures.
 
-void LectorWmf::Bloque(const Registro& r, bool estira, bool dib, bool sinOrigen) {
+void LectorWmf::Bloque(u32 funcion, const Registro& r) {
     constexpr std::size_t CABECERA_MAPA = 10;
+    const bool estira = funcion == META_STRETCHBLT || funcion == META_DIBSTRETCHBLT;
+    const bool dib = funcion == META_DIBBITBLT || funcion == META_DIBSTRETCHBLT;
+    // A record of the least length that its number tells, in words, has no bitmap.
+    const bool sinOrigen = (r.Largo() + LARGO_MINIMO) / 2 == (funcion >> 8) + 3;
     CopiaMeta c;
     c.Operacion = (r.U32(0) >> 16) & 0xFFU;
     // Without a source one empty word stands before the place.
@@ -520,79 +462,66 @@ void LectorWmf::Estirado(const Registro& r) {
     c_.Copia(c, Yx(r, 18), Yx(r, 14));
 }
 
-bool LectorWmf::Copias(u32 funcion, const Registro& r) {
-    // A record of the least length that its number tells has no bitmap.
-    const bool sinOrigen = (r.Largo() + 6) / 2 == (funcion >> 8) + 3;
-    switch (funcion) {
-        case 0x061D: {
-            CopiaMeta c;
-            c.Operacion = (r.U32(0) >> 16) & 0xFFU;
-            c_.Copia(c, Yx(r, 8), Yx(r, 4));
-            return true;
-        }
-        case 0x0922:
-            Bloque(r, false, false, sinOrigen);
-            return true;
-        case 0x0940:
-            Bloque(r, false, true, sinOrigen);
-            return true;
-        case 0x0B23:
-            Bloque(r, true, false, sinOrigen);
-            return true;
-        case 0x0B41:
-            Bloque(r, true, true, sinOrigen);
-            return true;
-        case 0x0D33:
-            Filas(r);
-            return true;
-        case 0x0F43:
-            Estirado(r);
-            return true;
-        default:
-            return false;
-    }
+LectorWmf::Acciones::Tabla LectorWmf::Copias() {
+    static constexpr Acciones::Fila filas[] = {
+        {META_PATBLT,
+         [](Yo l, Reg r) {
+             CopiaMeta c;
+             c.Operacion = (r.U32(0) >> 16) & 0xFFU;
+             l.c_.Copia(c, Yx(r, 8), Yx(r, 4));
+         }},
+        {META_BITBLT, [](Yo l, Reg r) { l.Bloque(META_BITBLT, r); }},
+        {META_DIBBITBLT, [](Yo l, Reg r) { l.Bloque(META_DIBBITBLT, r); }},
+        {META_STRETCHBLT, [](Yo l, Reg r) { l.Bloque(META_STRETCHBLT, r); }},
+        {META_DIBSTRETCHBLT, [](Yo l, Reg r) { l.Bloque(META_DIBSTRETCHBLT, r); }},
+        {META_SETDIBTODEV, [](Yo l, Reg r) { l.Filas(r); }},
+        {META_STRETCHDIB, [](Yo l, Reg r) { l.Estirado(r); }},
+    };
+    return filas;
 }
 
 // --- Text.
 
-bool LectorWmf::Textos(u32 funcion, const Registro& r) {
-    constexpr unsigned CON_CAJA = 6;
-    const int juego = c_.E.ObjFuente->Fuente.Juego;
+void LectorWmf::Texto(const Registro& r) {
     ContextoMeta::Escrito t;
-    if (funcion == 0x0521) {
-        const std::size_t n = r.U16(0), lugar = 2 + (n + 1) / 2 * 2;
-        t.Letras = LetrasDe(r.Parte(2, n), juego);
-        t.Lugar = Yx(r, lugar);
-    } else if (funcion == 0x0A32) {
-        t.Lugar = Yx(r, 0);
-        const std::size_t n = r.U16(4);
-        t.Opciones = r.U16(6);
-        std::size_t i = 8;
-        if (t.Opciones & CON_CAJA) {
-            t.CajaA = r.P16(8);
-            t.CajaB = r.P16(12);
-            i += 8;
-        }
-        t.Letras = LetrasDe(r.Parte(i, n), juego);
-        i += (n + 1) / 2 * 2;
-        if (n > 0 && i + 2 * n <= r.Largo())
-            for (std::size_t k = 0; k < n; ++k) t.Avances.push_back({double(r.I16(i + 2 * k)), 0});
-    } else {
-        return false;
-    }
+    const std::size_t n = r.U16(0), lugar = 2 + (n + 1) / 2 * 2;
+    t.Letras = LetrasDe(r.Parte(2, n), c_.E.ObjFuente->Fuente.Juego);
+    t.Lugar = Yx(r, lugar);
     c_.Escribe(t);
-    return true;
 }
 
-// Records of other kinds draw nothing here; nor does what asks the device for something of its own.
-void LectorWmf::Lee(u32 funcion, const Registro& r) {
-    try {
-        static_cast<void>(Figuras(funcion, r) || Objetos(funcion, r) || Estado(funcion, r) ||
-                          Coordenadas(funcion, r) || Regiones(funcion, r) || Copias(funcion, r) ||
-                          Textos(funcion, r));
-    } catch (const RegistroCorto&) {
-        c_.Gasto().Gasta(GASTO_REGISTRO * 20);
+void LectorWmf::TextoConCaja(const Registro& r) {
+    constexpr unsigned CON_CAJA = 6;
+    ContextoMeta::Escrito t;
+    t.Lugar = Yx(r, 0);
+    const std::size_t n = r.U16(4);
+    t.Opciones = r.U16(6);
+    std::size_t i = 8;
+    if (t.Opciones & CON_CAJA) {
+        t.CajaA = r.P16(8);
+        t.CajaB = r.P16(12);
+        i += 8;
     }
+    t.Letras = LetrasDe(r.Parte(i, n), c_.E.ObjFuente->Fuente.Juego);
+    i += (n + 1) / 2 * 2;
+    if (n > 0 && i + 2 * n <= r.Largo())
+        for (std::size_t k = 0; k < n; ++k) t.Avances.push_back({double(r.I16(i + 2 * k)), 0});
+    c_.Escribe(t);
+}
+
+LectorWmf::Acciones::Tabla LectorWmf::Textos() {
+    static constexpr Acciones::Fila filas[] = {
+        {META_TEXTOUT, [](Yo l, Reg r) { l.Texto(r); }},
+        {META_EXTTEXTOUT, [](Yo l, Reg r) { l.TextoConCaja(r); }},
+    };
+    return filas;
+}
+
+// What asks the device for something of its own draws nothing here.
+void LectorWmf::Lee(u32 funcion, const Registro& r) {
+    static const Acciones acciones{Estado(),   Coordenadas(), Objetos(), Figuras(),
+                                   Regiones(), Copias(),      Textos()};
+    acciones.Haz(*this, funcion, r, c_.Gasto());
 }
 
 }  // namespace
@@ -612,7 +541,6 @@ Lectura MideWmf(Bytes f, i32& ancho, i32& alto) {
 }
 
 Lectura PintaWmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
-    constexpr std::size_t LARGO_MINIMO = 6;
     Cabecera cab;
     if (const Lectura l = LeeCabecera(f, cab); l != Lectura::Bien) return l;
     pintor.Abre(cab.Ancho, cab.Alto, esfuerzo);
@@ -630,7 +558,7 @@ Lectura PintaWmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
         const std::size_t largo = static_cast<std::size_t>(Lee32(f, i)) * 2;
         const u32 funcion = Lee16(f, i + 4);
         if (largo < LARGO_MINIMO || largo > f.size() - i) return Lectura::Imposible;
-        if (funcion == 0) break;
+        if (funcion == META_EOF) break;
         if (++registros > REGISTROS_MAXIMOS) return Lectura::Imposible;
         esfuerzo.Gasta(GASTO_REGISTRO);
         lector.Lee(funcion, Registro(f.subspan(i + LARGO_MINIMO, largo - LARGO_MINIMO)));
