@@ -37,23 +37,48 @@ double Largo(PuntoD p) {
     return std::hypot(p.x, p.y);
 }
 
-// Pixels to the unit of the fixed mapping modes, by mode, in millimetres.
+// The unit of the fixed mapping modes in millimetres; 0 for the others.
 double MilimetrosPorUnidad(int modo) {
     constexpr double PULGADA = 25.4;
+    constexpr int TWIPS_POR_PULGADA = 1440;
     switch (modo) {
-        case 2:
+        case MM_LOMETRIC:
             return 0.1;
-        case 3:
+        case MM_HIMETRIC:
             return 0.01;
-        case 4:
+        case MM_LOENGLISH:
             return PULGADA / 100;
-        case 5:
+        case MM_HIENGLISH:
             return PULGADA / 1000;
-        case 6:
-            return PULGADA / 1440;
+        case MM_TWIPS:
+            return PULGADA / TWIPS_POR_PULGADA;
         default:
             return 0;
     }
+}
+
+Objeto BrochaNula() {
+    Objeto o = BrochaLisa(0);
+    o->Brocha.Tipo = BrochaMeta::Clase::Nula;
+    return o;
+}
+
+Objeto PaletaUsual() {
+    auto o = std::make_shared<ObjetoMeta>();
+    o->Tipo = ObjetoMeta::Clase::Paleta;
+    o->Paleta = {0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080,
+                 0xC0C0C0, 0xC0DCC0, 0xA6CAF0, 0xFFFBF0, 0xA0A0A4, 0x808080, 0xFF0000,
+                 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
+    return o;
+}
+
+Objeto FuenteUsual(bool fija, int peso) {
+    auto o = std::make_shared<ObjetoMeta>();
+    o->Tipo = ObjetoMeta::Clase::Fuente;
+    o->Fuente.Alto = fija ? 12 : 16;
+    o->Fuente.Peso = peso;
+    o->Fuente.Cara = fija ? u"Courier New" : u"Arial";
+    return o;
 }
 
 }  // namespace
@@ -77,42 +102,43 @@ Objeto PlumaLisa(u32 estilo, double ancho, u32 color) {
 }
 
 Objeto DeExistencias(u32 numero) {
-    constexpr u32 GRISES[] = {0xFFFFFF, 0xC0C0C0, 0x808080, 0x404040, 0x000000};
-    if (numero < std::size(GRISES)) return BrochaLisa(GRISES[numero]);
+    constexpr int NORMAL = 400, NEGRITA = 700;
     switch (numero) {
-        case 5: {
-            Objeto o = BrochaLisa(0);
-            o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-            return o;
-        }
-        case 6:
-            return PlumaLisa(0, 0, 0xFFFFFF);
-        case 7:
-        case 19:
-            return PlumaLisa(0, 0, 0);
-        case 8:
-            return PlumaLisa(PLUMA_NULA, 0, 0);
-        case 18:
+        case WHITE_BRUSH:
+        case DC_BRUSH:
             return BrochaLisa(0xFFFFFF);
-        case 15: {
-            auto o = std::make_shared<ObjetoMeta>();
-            o->Tipo = ObjetoMeta::Clase::Paleta;
-            o->Paleta = {0x000000, 0x800000, 0x008000, 0x808000, 0x000080, 0x800080, 0x008080,
-                         0xC0C0C0, 0xC0DCC0, 0xA6CAF0, 0xFFFBF0, 0xA0A0A4, 0x808080, 0xFF0000,
-                         0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF};
-            return o;
-        }
+        case LTGRAY_BRUSH:
+            return BrochaLisa(0xC0C0C0);
+        case GRAY_BRUSH:
+            return BrochaLisa(0x808080);
+        case DKGRAY_BRUSH:
+            return BrochaLisa(0x404040);
+        case BLACK_BRUSH:
+            return BrochaLisa(0x000000);
+        case NULL_BRUSH:
+            return BrochaNula();
+        case WHITE_PEN:
+            return PlumaLisa(0, 0, 0xFFFFFF);
+        case BLACK_PEN:
+        case DC_PEN:
+            return PlumaLisa(0, 0, 0);
+        case NULL_PEN:
+            return PlumaLisa(PLUMA_NULA, 0, 0);
+        case OEM_FIXED_FONT:
+        case ANSI_FIXED_FONT:
+        case SYSTEM_FIXED_FONT:
+            return FuenteUsual(true, NORMAL);
+        case ANSI_VAR_FONT:
+        case DEFAULT_GUI_FONT:
+            return FuenteUsual(false, NORMAL);
+        case SYSTEM_FONT:
+        case DEVICE_DEFAULT_FONT:
+            return FuenteUsual(false, NEGRITA);
+        case DEFAULT_PALETTE:
+            return PaletaUsual();
         default:
-            break;
+            return nullptr;
     }
-    if (numero < 10 || numero > 17) return nullptr;
-    auto o = std::make_shared<ObjetoMeta>();
-    o->Tipo = ObjetoMeta::Clase::Fuente;
-    const bool fija = numero <= 11 || numero == 16;
-    o->Fuente.Alto = fija ? 12 : 16;
-    o->Fuente.Peso = numero == 13 || numero == 14 ? 700 : 400;
-    o->Fuente.Cara = fija ? u"Courier New" : u"Arial";
-    return o;
 }
 
 void ContextoMeta::Elige(const Objeto& o) {
@@ -246,9 +272,9 @@ ModosMeta ContextoMeta::Modos() {
 // --- Coordinates.
 
 void ContextoMeta::PonMapeo(int modo) {
-    if (modo < 1 || modo > 8) return;
+    if (modo < MM_TEXT || modo > MM_ANISOTROPIC) return;
     E.Modo = modo;
-    if (modo == 7) {
+    if (modo == MM_ISOTROPIC) {
         // A tenth of a millimetre to the unit until extents are set.
         E.VentanaMedida = {1, 1};
         E.VistaMedida = {pixelesPorMm_.x / 10, -pixelesPorMm_.y / 10};
@@ -256,7 +282,7 @@ void ContextoMeta::PonMapeo(int modo) {
 }
 
 void ContextoMeta::PonMedida(bool vista, PuntoD m) {
-    if (E.Modo < 7 || m.x == 0 || m.y == 0) return;
+    if (E.Modo < MM_ISOTROPIC || m.x == 0 || m.y == 0) return;
     (vista ? E.VistaMedida : E.VentanaMedida) = m;
 }
 
@@ -272,10 +298,10 @@ Matriz ContextoMeta::AlPapel() const {
     if (const double mm = MilimetrosPorUnidad(E.Modo); mm > 0) {
         sx = mm * pixelesPorMm_.x;
         sy = -mm * pixelesPorMm_.y;
-    } else if (E.Modo >= 7) {
+    } else if (E.Modo >= MM_ISOTROPIC) {
         sx = E.VistaMedida.x / E.VentanaMedida.x;
         sy = E.VistaMedida.y / E.VentanaMedida.y;
-        if (E.Modo == 7 && sx != 0 && sy != 0) {
+        if (E.Modo == MM_ISOTROPIC && sx != 0 && sy != 0) {
             const double aspecto = pixelesPorMm_.y / pixelesPorMm_.x;
             const double menor = std::min(std::abs(sx), std::abs(sy) / aspecto);
             sx = std::copysign(menor, sx);

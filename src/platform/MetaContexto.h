@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 
+#include "platform/MetaNumeros.h"
 #include "platform/PintorMetafichero.h"
 
 namespace tessario {
@@ -38,7 +39,7 @@ Objeto PlumaLisa(u32 estilo, double ancho, u32 color);
 Objeto DeExistencias(u32 numero);  // the ready-made objects by number; null: none of that number
 
 struct EstadoMeta {
-    int Modo = 1;  // of mapping
+    int Modo = MM_TEXT;  // of mapping
     PuntoD VentanaOrigen, VistaOrigen;
     PuntoD VentanaMedida{1, 1}, VistaMedida{1, 1};
     Matriz Mundo;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The numbers of the records of WMF and EMF, under the names that the public formats give them:
-// those that draw or set something. Only for the walks.
+// The numbers of the records of WMF and EMF that draw or set something, under the names that the
+// public formats give them; and those of mapping modes and of ready-made objects. Only for
+// what reads metafiles.
 #pragma once
 
 #include "platform/Tipos.h"
@@ -175,6 +176,39 @@ enum NumeroEmf : u32 {
     EMR_TRANSPARENTBLT = 116,
     EMR_GRADIENTFILL = 118,
     EMR_SETTEXTJUSTIFICATION = 120,
+};
+
+enum ModoMapeo : int {
+    MM_TEXT = 1,
+    MM_LOMETRIC = 2,
+    MM_HIMETRIC = 3,
+    MM_LOENGLISH = 4,
+    MM_HIENGLISH = 5,
+    MM_TWIPS = 6,
+    MM_ISOTROPIC = 7,
+    MM_ANISOTROPIC = 8,
+};
+
+enum DeExistenciasMeta : u32 {
+    WHITE_BRUSH = 0,
+    LTGRAY_BRUSH = 1,
+    GRAY_BRUSH = 2,
+    DKGRAY_BRUSH = 3,
+    BLACK_BRUSH = 4,
+    NULL_BRUSH = 5,
+    WHITE_PEN = 6,
+    BLACK_PEN = 7,
+    NULL_PEN = 8,
+    OEM_FIXED_FONT = 10,
+    ANSI_FIXED_FONT = 11,
+    ANSI_VAR_FONT = 12,
+    SYSTEM_FONT = 13,
+    DEVICE_DEFAULT_FONT = 14,
+    DEFAULT_PALETTE = 15,
+    SYSTEM_FIXED_FONT = 16,
+    DEFAULT_GUI_FONT = 17,
+    DC_BRUSH = 18,
+    DC_PEN = 19,
 };
 
 }  // namespace tessario

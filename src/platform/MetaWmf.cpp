@@ -19,7 +19,6 @@ constexpr double PIXELES_POR_PULGADA = 96, MM_POR_PULGADA = 25.4;
 constexpr i32 ANCHO_SIN_MEDIDA = 320, ALTO_SIN_MEDIDA = 240;
 constexpr u32 REGISTROS_MAXIMOS = 4'000'000;
 constexpr long long GASTO_REGISTRO = 100;
-constexpr int ANISOTROPICO = 8;
 constexpr std::size_t OBJETOS_MAXIMOS = 65536;
 
 struct Cabecera {
@@ -547,7 +546,7 @@ Lectura PintaWmf(Bytes f, PintorMetafichero& pintor, Esfuerzo& esfuerzo) {
     constexpr double POR_MM = PIXELES_POR_PULGADA / MM_POR_PULGADA;
     ContextoMeta contexto(pintor, esfuerzo, cab.Ancho, cab.Alto, Matriz{}, {POR_MM, POR_MM});
     EstadoMeta& e = contexto.E;
-    e.Modo = ANISOTROPICO;
+    e.Modo = MM_ANISOTROPIC;
     e.VistaMedida = {double(cab.Ancho), double(cab.Alto)};
     e.VentanaOrigen = cab.Origen;
     e.VentanaMedida = cab.Medida;

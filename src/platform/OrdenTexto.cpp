@@ -34,16 +34,16 @@ char32_t Lee(std::string_view s, std::size_t& i) {
 // Letters of Windows-1252 that stand beyond U+00FF.
 Letra Extendida(char32_t c) {
     switch (c) {
-        case 0x160:
-        case 0x161:
+        case U'Š':
+        case U'š':
             return {U's' * 2, ACENTO_EXTENDIDO};
-        case 0x17D:
-        case 0x17E:
+        case U'Ž':
+        case U'ž':
             return {U'z' * 2, ACENTO_EXTENDIDO};
-        case 0x178:
+        case U'Ÿ':
             return {U'y' * 2, ACENTO_EXTENDIDO};
-        case 0x152:
-            return {0x153 * 2, 0};
+        case U'Œ':
+            return {U'œ' * 2, 0};
         default:
             return {c * 2, 0};
     }
