@@ -12,6 +12,7 @@
 #include <clocale>
 #include <csignal>
 #include <filesystem>
+#include <thread>
 
 #include "apoyo/PlataformaPrueba.h"
 #include "records/Historial.h"
@@ -208,6 +209,22 @@ TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForEverIsNotWaitedFor) {
     const std::string nueva = Contenido("TESSA33.his");
     EXPECT_TRUE(nueva.starts_with(vieja));
     EXPECT_EQ(std::count(nueva.begin(), nueva.end(), '\n'), 2);
+}
+
+TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForAMomentWritesFirst) {
+    const std::string ruta = Crea("TESSA33.his", ""), suya = "\"f\",\"h\",22\r\n";
+    const int otro = ::open(ruta.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(otro, LOCK_EX), 0);
+    std::jthread programa([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        EXPECT_EQ(::write(otro, suya.data(), suya.size()), static_cast<ssize_t>(suya.size()));
+        ::close(otro);
+    });
+    EXPECT_EQ(EntraEnHistorico(), 0);
+    programa.join();
+    const std::string todo = Contenido("TESSA33.his");
+    EXPECT_TRUE(todo.starts_with(suya)) << todo;
+    EXPECT_EQ(std::count(todo.begin(), todo.end(), '\n'), 2);
 }
 
 // Who opens a pipe both ways can write, and what he has written is gone.
