@@ -106,10 +106,11 @@ std::string CarpetaPersonal() {
     return yo && yo->pw_dir && yo->pw_dir[0] == '/' ? ConBarra(yo->pw_dir) : std::string();
 }
 
-// A small file's content; nothing of what is no file, so that nothing is waited for.
+// A small file's content; nothing of what is no file, so that nothing is waited for: that has the
+// largest size there is.
 std::string Texto(const std::string& ruta) {
     std::error_code e;
-    if (!fs::is_regular_file(ruta, e) || fs::file_size(ruta, e) > LISTA_MAXIMA || e) return {};
+    if (fs::file_size(ruta, e) > LISTA_MAXIMA) return {};
     std::ifstream f(ruta, std::ios::binary);
     return {std::istreambuf_iterator<char>(f), {}};
 }

@@ -79,7 +79,7 @@ TEST_F(Ficheros, PicturesStandWhereTheListSaysElseUnderAUsualName) {
     EXPECT_EQ(Fotos(), Casa() + "Fotos/");
     PonLista("XDG_PICTURES_DIR=\"$HOME/no hay\"\n");
     EXPECT_EQ(Fotos(), Casa() + "Imágenes/");
-    PonLista("#XDG_PICTURES_DIR=\"$HOME/Fotos\"\nXDG_PICTURES_DIR=\"Fotos\"\n");
+    PonLista("#XDG_PICTURES_DIR=\"$HOME/Fotos\"\nXDG_PICTURES_DIR=\".\"\n");
     EXPECT_EQ(Fotos(), Casa() + "Imágenes/") << "neither a comment nor a relative path counts";
 }
 
@@ -117,17 +117,17 @@ TEST_F(Ficheros, AHugeListIsNotRead) {
 TEST_F(Ficheros, WhoHasNoFolderOfHisOwnHasNoRowsForIt) {
     for (const char* casa : {"/", "nada", "relativa/casa"}) {
         casaDePrueba = casa;
-        EXPECT_EQ(Unidades().front().Ruta, "/") << casa;
+        EXPECT_EQ(Unidades().front().Nombre, "Equipo ( / )") << casa;
     }
 }
 
 TEST_F(Ficheros, FoldersComeWithoutFilesAndWithoutHiddenOnes) {
     const std::string donde = P().carpeta + "lista/";
-    for (const char* nombre : {"b", "A", ".oculta", "Ñu", "a"})
+    for (const char* nombre : {"B", "A", ".oculta", "Ñu", "a"})
         fs::create_directories(donde + nombre);
     std::ofstream(donde + "fichero") << "x";
-    fs::create_directory_symlink(donde + "b", donde + "enlace");
-    EXPECT_EQ(CarpetasDe(donde), (std::vector<std::string>{"A", "a", "b", "enlace", "Ñu"}));
+    fs::create_directory_symlink(donde + "B", donde + "enlace");
+    EXPECT_EQ(CarpetasDe(donde), (std::vector<std::string>{"A", "a", "B", "enlace", "Ñu"}));
     EXPECT_TRUE(CarpetasDe(donde + "no hay/").empty());
     EXPECT_TRUE(CarpetasDe(donde + "fichero").empty());
 }
@@ -143,6 +143,7 @@ TEST_F(Ficheros, FilesAreThoseThatOneOfThePatternsMatchesWhole) {
     EXPECT_EQ(FicherosDe(donde, "a?.gif"), (Nombres{"a1.gif"}));
     EXPECT_EQ(FicherosDe(donde, "a*.gif"), (Nombres{"a1.gif", "a12.gif"}));
     EXPECT_EQ(FicherosDe(donde, "*.b*.*"), (Nombres{"cinco.bmp.txt"}));
+    EXPECT_EQ(FicherosDe(donde, "uno.bmp**"), (Nombres{"uno.bmp"}));
     EXPECT_EQ(FicherosDe(donde, ".*"), (Nombres{".gif", ".punto.bmp"}));
     EXPECT_EQ(FicherosDe(donde, "").size(), 8U) << "all but the hidden ones";
     EXPECT_EQ(FicherosDe(donde, ";"), FicherosDe(donde, ""));

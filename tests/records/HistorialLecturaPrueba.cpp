@@ -213,7 +213,7 @@ TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForEverIsNotWaitedFor) {
 
 TEST_F(LecturaHistorial, ProgramThatHoldsTheFileForAMomentWritesFirst) {
     const std::string ruta = Crea("TESSA33.his", ""), suya = "\"f\",\"h\",22\r\n";
-    const int otro = ::open(ruta.c_str(), O_RDWR | O_CLOEXEC);
+    const int otro = ::open(ruta.c_str(), O_RDWR | O_APPEND | O_CLOEXEC);
     ASSERT_EQ(flock(otro, LOCK_EX), 0);
     std::jthread programa([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(150));
