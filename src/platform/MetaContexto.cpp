@@ -521,8 +521,7 @@ void ContextoMeta::Escribe(const Escrito& t) {
     m.Lugar = {Medido(lugar.x), Medido(lugar.y)};
     m.CajaOpaca = (t.Opciones & OPACA) != 0;
     m.CajaRecorta = (t.Opciones & RECORTADA) != 0;
-    m.Caja = m.CajaOpaca || m.CajaRecorta;
-    if (m.Caja) {
+    if (m.CajaOpaca || m.CajaRecorta) {
         Contorno c;
         c.Cerrado = true;
         for (const PuntoD& p :

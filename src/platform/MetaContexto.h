@@ -44,7 +44,7 @@ struct EstadoMeta {
     PuntoD VentanaMedida{1, 1}, VistaMedida{1, 1};
     Matriz Mundo;
     bool Opaco = true;
-    int Rop2 = 13;
+    int Rop2 = MODO_COPIA;
     bool Alterno = true;
     int Estira = 1;
     unsigned Alineacion = 0;

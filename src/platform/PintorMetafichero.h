@@ -74,7 +74,7 @@ struct FuenteMeta {
 };
 
 struct ModosMeta {
-    int Rop2 = 13;
+    int Rop2 = MODO_COPIA;
     bool Opaco = true;  // gaps of hatches, dashes and letters show Fondo
     Pixel Fondo = 0xFFFFFF, Texto = 0;
     Punto OrigenBrocha;
@@ -110,8 +110,7 @@ struct TextoMeta {
     double ExtraBlanco = 0;       // added to a blank's
     bool PorIndice = false;       // letters are numbers of glyphs
     unsigned Alineacion = 0;
-    bool Caja = false;  // Opaca and Recortada refer to it
-    Trazado Rectangulo;
+    Trazado Rectangulo;  // that is filled behind the letters, or outside which none of them shows
     bool CajaOpaca = false, CajaRecorta = false;
 };
 

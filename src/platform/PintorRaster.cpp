@@ -13,7 +13,6 @@ namespace {
 
 constexpr double APENAS = 1e-7;  // what counts as on the line
 constexpr Pixel BLANCO = 0xFFFFFF;
-constexpr int COPIA = 13;
 
 // Rows of the hatches' cells, from the left bit on.
 constexpr std::array<std::array<u8, 8>, 6> TRAMAS{{
@@ -166,7 +165,7 @@ bool PintorRaster::Tinta(i32 x, i32 y, const BrochaMeta& b, const ModosMeta& m, 
 
 // A run of pixels of the picture that the clip lets through.
 void PintorRaster::Pinta(i32 y, i32 izq, i32 der, const BrochaMeta& b, const ModosMeta& m) {
-    const bool lisa = b.Tipo == BrochaMeta::Clase::Lisa && m.Rop2 == COPIA;
+    const bool lisa = b.Tipo == BrochaMeta::Clase::Lisa && m.Rop2 == MODO_COPIA;
     esfuerzo_->Gasta(10 + (der - izq) * (lisa ? 1LL : 8LL));
     Pixel* const fila = m_.Fila(y);
     if (lisa) {
@@ -270,117 +269,6 @@ void PintorRaster::Degrada(const PuntoD (&p)[3], const Pixel (&color)[3], const 
             }
         });
     });
-}
-
-// --- Text.
-
-void PintorRaster::Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios, double cuerpo,
-                          double estrecha, const Matriz& forma, const ModosMeta& m) {
-    BrochaMeta tinta;
-    tinta.Tinta = m.Texto;
-    for (std::size_t i = 0; i < t.Letras.size(); ++i) {
-        const LetrasMeta::Letra& l = letras_.De(t.Fuente, cuerpo, t.Letras[i], t.PorIndice);
-        Trazado figura = l.Figura;
-        for (Contorno& c : figura)
-            for (PuntoD& p : c.Puntos) {
-                p = forma.De({sitios[i].x + p.x * estrecha, sitios[i].y + p.y});
-                // A letter's pixel is told by its middle.
-                p = {p.x - 0.5, p.y - 0.5};
-            }
-        Rellena(figura, false, tinta, m);
-    }
-}
-
-// A font that has not been used before has to be found and opened, and of each of its letters the
-// outline has to be asked for once.
-void PintorRaster::PagaFuente(const TextoMeta& t, double cuerpo) {
-    constexpr long long GASTO_FUENTE = 3'000'000, GASTO_LETRA = 30'000;
-    constexpr std::size_t FUENTES_RECORDADAS = 64, LETRAS = 65536;
-    const FuenteMeta& f = t.Fuente;
-    if (fuentes_.size() > FUENTES_RECORDADAS) fuentes_.clear();
-    std::vector<bool>& vistas = fuentes_[{f.Cara, f.Peso, f.Cursiva, std::lround(cuerpo)}];
-    if (vistas.empty()) {
-        esfuerzo_->Gasta(GASTO_FUENTE);
-        vistas.resize(LETRAS);
-    }
-    for (const char16_t letra : t.Letras) {
-        if (vistas[letra]) continue;
-        esfuerzo_->Gasta(GASTO_LETRA);
-        vistas[letra] = true;
-    }
-}
-
-PuntoD PintorRaster::Escribe(const TextoMeta& t, const ModosMeta& modos) {
-    constexpr double USUAL = 16, GRADOS = 3.14159265358979323846 / 1800;
-    constexpr unsigned HORIZONTAL = 6, DERECHA = 2, CENTRO = 6;
-    constexpr unsigned VERTICAL = 24, ABAJO = 8, BASE = 24;
-    constexpr double SUBRAYA = 0.11, TACHA = -0.26, GRUESO = 0.07;
-    constexpr long long GASTO_TEXTO = 20'000, GASTO_LETRA = 2'000;
-    esfuerzo_->Gasta(GASTO_TEXTO + GASTO_LETRA * static_cast<long long>(t.Letras.size()));
-    const LetrasMeta::Medidas med = letras_.Mide(t.Fuente);
-    const double celda = med.Ascenso + med.Descenso;
-    const double alto = t.Fuente.Alto == 0 ? USUAL : t.Fuente.Alto;
-    const double cuerpo = std::min(alto < 0 ? -alto : alto / celda, 4000.0);
-    if (cuerpo < 0.5) return {};
-    PagaFuente(t, cuerpo);
-    const double asc = std::round(cuerpo * med.Ascenso), desc = std::round(cuerpo * med.Descenso);
-    const double estrecha =
-        t.Fuente.Ancho > 0 ? std::min(t.Fuente.Ancho / (med.Media * cuerpo), 100.0) : 1;
-    ModosMeta m = modos;
-    Region recorte;
-    BrochaMeta fondo;
-    fondo.Tinta = m.Fondo;
-    m.Rop2 = COPIA;
-    if (t.CajaOpaca) Rellena(t.Rectangulo, true, fondo, m);
-    if (t.CajaRecorta) {
-        CombinaConTino(recorte, RegionDe(t.Rectangulo, true), *m.Recorte, RGN_AND, *esfuerzo_);
-        m.Recorte = &recorte;
-        m.Caja = recorte.Caja();
-    }
-    if (t.Letras.empty()) return {};
-
-    std::vector<PuntoD> sitios;
-    PuntoD fin;
-    for (std::size_t i = 0; i < t.Letras.size(); ++i) {
-        sitios.push_back(fin);
-        if (i < t.Avances.size()) {
-            fin = {fin.x + t.Avances[i].x, fin.y - t.Avances[i].y};
-        } else {
-            const double propio = letras_.De(t.Fuente, cuerpo, t.Letras[i], t.PorIndice).Avance;
-            fin.x += std::round(propio * estrecha);
-        }
-        fin.x += t.Extra + (t.Letras[i] == u' ' ? t.ExtraBlanco : 0);
-    }
-    const unsigned h = t.Alineacion & HORIZONTAL, v = t.Alineacion & VERTICAL;
-    const double x = h == CENTRO ? -fin.x / 2 : h == DERECHA ? -fin.x : 0;
-    const double y = v == BASE ? 0 : v == ABAJO ? -desc : asc;
-    const double giro = t.Fuente.Giro * GRADOS, c = std::cos(giro), s = std::sin(giro);
-    Matriz forma = Matriz{1, 0, 0, 1, x, y}.Luego({c, -s, s, c, 0, 0}).Luego(t.Forma);
-    forma.e += t.Lugar.x;
-    forma.f += t.Lugar.y;
-    const auto barra = [&](double arr, double aba, Pixel color) {
-        BrochaMeta b;
-        b.Tinta = color;
-        Contorno k;
-        k.Cerrado = true;
-        for (const PuntoD& p :
-             {PuntoD{0, arr}, PuntoD{fin.x, arr}, PuntoD{fin.x, aba}, PuntoD{0, aba}})
-            k.Puntos.push_back(forma.De(p));
-        Rellena({k}, true, b, m);
-    };
-    if (m.Opaco) barra(-asc, desc, m.Fondo);
-    Letras(t, sitios, cuerpo, estrecha, forma, m);
-    const double grueso = std::max(1.0, std::round(cuerpo * GRUESO));
-    for (const auto& [hay, donde] :
-         {std::pair{t.Fuente.Subrayada, SUBRAYA}, std::pair{t.Fuente.Tachada, TACHA}}) {
-        const double arr = std::round(cuerpo * donde);
-        if (hay) barra(arr, arr + grueso, m.Texto);
-    }
-    const PuntoD final = forma.De(h == CENTRO ? PuntoD{fin.x / 2, 0} : fin);
-    const PuntoD inicio = forma.De(h == DERECHA ? fin : PuntoD{});
-    if (h == CENTRO) return {};
-    return h == DERECHA ? PuntoD{forma.De({}).x - inicio.x, forma.De({}).y - inicio.y}
-                        : PuntoD{final.x - inicio.x, final.y - inicio.y};
 }
 
 }  // namespace tessario

@@ -66,9 +66,19 @@ private:
                   bool& hay) const;
     Pixel Combina(const CopiaMeta& c, Pixel s, Pixel d, i32 x, i32 y, bool dentro,
                   const BrochaMeta& b, const ModosMeta& m) const;
-    void Letras(const TextoMeta& t, const std::vector<PuntoD>& sitios, double cuerpo,
-                double estrecha, const Matriz& forma, const ModosMeta& m);
 
+    // How the letters of a text stand: measures in pixels upright, before they are turned.
+    struct Renglon {
+        double Cuerpo = 0, Ascenso = 0, Descenso = 0, Estrecha = 1;
+        std::vector<PuntoD> Sitios;
+        PuntoD Fin;
+        Matriz Forma;  // to the picture's pixels
+    };
+    bool MideLetras(const TextoMeta& t, Renglon& g);
+    void SituaLetras(const TextoMeta& t, Renglon& g);
+    void Letras(const TextoMeta& t, const Renglon& g, const ModosMeta& m);
+    void Barra(const Renglon& g, double arr, double aba, Pixel color, const ModosMeta& m);
+    void Rayas(const FuenteMeta& f, const Renglon& g, const ModosMeta& m);
     void PagaFuente(const TextoMeta& t, double cuerpo);
 
     LetrasMeta& letras_;

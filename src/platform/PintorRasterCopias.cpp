@@ -105,7 +105,7 @@ void PintorRaster::Copia(const CopiaMeta& c, const BrochaMeta& b, const ModosMet
     const Trazado t{{{e, d, {d.x + a.x - e.x, d.y + a.y - e.y}, a}, true}};
     if (!lleva && c.Operacion == DIBUJO && !c.Mascara) {
         ModosMeta copia = m;
-        copia.Rop2 = 13;
+        copia.Rop2 = MODO_COPIA;
         Rellena(t, true, b, copia);
         return;
     }

@@ -168,7 +168,7 @@ TEST_F(Pixeles, TheSixteenModesOfAPen) {
     const Pixel esperado[] = {0,     ~(P | D), ~P & D, ~P,     P & ~D, ~D,     P ^ D, ~(P & D),
                               P & D, ~(P ^ D), D,      ~P | D, P,      P | ~D, P | D, BLANCO};
     for (int modo = 1; modo <= 16; ++modo) {
-        modos.Rop2 = 13;
+        modos.Rop2 = MODO_COPIA;
         r.Rellena(Rectangulo(0, 0, 4, 4), true, Lisa(D), modos);
         modos.Rop2 = modo;
         r.Rellena(Rectangulo(0, 0, 4, 4), true, Lisa(P), modos);
@@ -446,7 +446,7 @@ TEST_F(Pixeles, TheGroundOfLettersTheirLinesAndTheirBox) {
     r.Abre(ANCHO, ALTO, esfuerzo);
     t.Letras = u"  ";
     t.Fuente.Subrayada = true;
-    t.Caja = t.CajaOpaca = t.CajaRecorta = true;
+    t.CajaOpaca = t.CajaRecorta = true;
     t.Rectangulo = Rectangulo(0, 0, 9, 30);
     modos.Opaco = false;
     r.Escribe(t, modos);
