@@ -169,6 +169,30 @@ TEST_F(Barajado, HintPanelKeepsPiecesAway) {
     EXPECT_GT(abajo, 0);  // the room beside the panel is used
 }
 
+// Strip and hint panel refuse a piece whose centre lies beyond their edge: one that has it exactly
+// on the edge is dealt there.
+TEST_F(Barajado, PieceIsDealtWithItsCentreExactlyOnTheEdgeOfStripAndHintPanel) {
+    Gbl.PermitirGiro = false;
+    Gbl.VentanaInformacion = true;
+    Moviles(8, 480, 352);  // cells of 60 x 44; strip from 659 down to 463, panel 423 wide at 536
+    i32 ladoTira = 0, fondoTira = 0, ladoPanel = 0, topePanel = 0;
+    for (int n = 0; n < 400; ++n) {
+        P().horaDelDia = n;
+        BarajaMoviles();
+        for (i16 i = 1; i <= Gbl.NumPiezas; ++i) {
+            const Pieza& p = Gbl.Piezas[i];
+            ladoTira += p.X == 659 - 30 && p.Y < 463 - 22;
+            fondoTira += p.X > 659 - 30 && p.Y == 463 - 22;
+            ladoPanel += p.X == 423 - 30 && p.Y > 536 - 22;
+            topePanel += p.X < 423 - 30 && p.Y == 536 - 22;
+        }
+    }
+    EXPECT_GT(ladoTira, 0);
+    EXPECT_GT(fondoTira, 0);
+    EXPECT_GT(ladoPanel, 0);
+    EXPECT_GT(topePanel, 0);
+}
+
 TEST_F(Barajado, WithoutRotationNoPieceIsTurned) {
     Gbl.PermitirGiro = false;
     Moviles(5, 400, 300);
