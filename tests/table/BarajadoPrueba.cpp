@@ -322,6 +322,25 @@ TEST_F(Barajado, PieceThatFindsColumnAndRowFullSharesItsPlaceWithTheNext) {
     EXPECT_EQ(Gbl.Piezas[18].Y, 13);
 }
 
+TEST_F(Barajado, PlaceThatJustHoldsThePieceIsStillOfItsColumnOrRow) {
+    Moviles(4, 200, 200);  // cells of 50, step 50
+    Apila(560, 200);
+    MuestraColocadas();
+    Pic_Botonera.Left = 350;
+    Gbl.VentanaInformacion = true;
+    Pic_Sugerencia.Top = 400;
+    Gbl.OrdenandoPiezas = true;
+    OrdenaLaterales();
+    // 16 loose: c = 7, f = 350 / 7 / 50 = 1. The column at 300 ends exactly at 400, the row at 350
+    // exactly at the table's edge; the next column, at 250, would end above the row.
+    for (i16 i = 1; i <= 16; ++i) {
+        const Punto esperado = i <= 8    ? Punto{300, 50 * (i - 1)}
+                               : i <= 14 ? Punto{300 - 50 * (i - 8), 350}
+                                         : Punto{250, 50 * (i - 15)};
+        EXPECT_EQ((Punto{Gbl.Piezas[i].X, Gbl.Piezas[i].Y}), esperado) << i;
+    }
+}
+
 TEST_F(Barajado, ArrangementStaysAboveTheHintPanel) {
     Gbl.VentanaInformacion = true;
     Moviles(3, 300, 300);
