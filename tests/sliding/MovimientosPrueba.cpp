@@ -253,6 +253,16 @@ TEST_F(Movimientos, ShuffleMakesFourMovesAPieceNeverLosingSolvabilityNorUndoingT
     }
 }
 
+TEST_F(Movimientos, ShuffleRestsAfterEachMove) {
+    MesaCon(3, TableroResuelto(3));
+    Gbl.VelocidadJuego = 50;
+    const double antes = P().dormido;
+    BarajaConMovimientos();
+    // 32 moves of a cell of 107 pixels: eight steps of 14 and a rest of 6 after each, then one of
+    // 15.
+    EXPECT_DOUBLE_EQ(P().dormido - antes, 32 * (8 * 6 + 15));
+}
+
 TEST_F(Movimientos, ShuffleFromACornerIsForcedOnTheNextMove) {
     // On two a side the hole always stands in a corner: after the first draw every piece is forced,
     // so the three pieces go round in turn.

@@ -326,6 +326,22 @@ TEST_F(Solucion, BusyCursorFlagIsOnDuringTheRun) {
     EXPECT_FALSE(Gbl.TareaAutomatica);
 }
 
+TEST_F(Solucion, BetweenTwoMovesNoPieceIsInHandAndTheLastMovedIsTheCurrentOne) {
+    std::mt19937 azar(12);
+    MesaCon(3, TableroSoluble(3, azar, true));
+    ReiniciaPartida();
+    Gbl.ResolviendoPuzzle = true;
+    i16 vistas = 0;
+    P().alDejarPasar = [&vistas] {
+        EXPECT_FALSE(Gbl.ArrastrandoPieza);
+        if (Gbl.NumMovimientos == vistas) return;
+        vistas = Gbl.NumMovimientos;
+        EXPECT_EQ(Gbl.PiezaActual, Gbl.Movimientos[vistas].Pieza);
+    };
+    ResuelveDeslizantes();
+    EXPECT_GT(vistas, 1);
+}
+
 TEST_F(Solucion, RunStopsWhenEventsTakeThePiecesAwayBetweenMoves) {
     std::mt19937 azar(8);
     MesaCon(4, TableroSoluble(4, azar, true));
