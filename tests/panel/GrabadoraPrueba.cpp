@@ -168,6 +168,55 @@ TEST_F(PanelGrabadora, RestoreIsHoveredOver25PixelsAndPressedOnlyIn21) {
     EXPECT_FALSE(Gbl.GrabadoraEncendida);
 }
 
+TEST_F(PanelGrabadora, KeysReachFromTheirFirstPixelToTheirLast) {
+    Juega(1, 10, 20);
+    Juega(2, 30, 40);
+    Juega(3, 60, 70);
+    Pulsa(MANDO);
+    Pulsa(ATRAS);  // now every key can be pressed
+    // As the hover finds them: the last key is wider there than for a press.
+    const struct {
+        i32 x, y, ancho;
+        const char* letrero;
+    } teclas[] = {{6, 6, 38, " Apagar mando "},           {4, 25, 21, " Retroceder 1 movimiento "},
+                  {25, 25, 21, " Avanzar 1 movimiento "}, {4, 41, 21, " Retroceso automático "},
+                  {25, 41, 21, " Avance automático "},    {14, 57, 25, " Restaurar puzzle "}};
+    for (i32 y = 0; y < 75; ++y)
+        for (i32 x = 0; x < 50; ++x) {
+            std::string letrero;
+            for (const auto& t : teclas)
+                if (RectDe(t.x, t.y, t.ancho, 13).Contiene(x, y)) letrero = t.letrero;
+            Pic_Grabadora_MouseMove(0, 0, static_cast<float>(x), static_cast<float>(y));
+            ASSERT_EQ(Pic_Grabadora.ToolTipText, letrero) << x << ", " << y;
+        }
+}
+
+TEST_F(PanelGrabadora, KeyThatCanNoLongerActIsDeadThoughThePointerHasNotMoved) {
+    Juega(1, 10, 20);
+    Juega(2, 30, 40);
+    Pulsa(MANDO);
+    Pulsa(ATRAS);
+    Pulsa(ADELANTE);
+    ASSERT_EQ(Gbl.NumMovimientos, 2);
+    Pic_Grabadora_MouseDown(1, 0, ADELANTE[0], ADELANTE[1]);
+    EXPECT_EQ(Gbl.NumMovimientos, 2);
+    EXPECT_EQ(Gbl.FinMovimientos, 2);
+}
+
+TEST_F(PanelGrabadora, WithTheSwitchOffNoOtherKeyActsWhereverTheLogStands) {
+    Juega(1, 10, 20);
+    Juega(2, 30, 40);
+    Pulsa(MANDO);
+    Pulsa(AUTO_ATRAS);
+    Pulsa(RESTAURAR);  // the end of the log lies ahead still
+    ASSERT_LT(Gbl.NumMovimientos, Gbl.FinMovimientos);
+    for (const auto* tecla : {&ATRAS, &ADELANTE, &AUTO_ATRAS, &AUTO_ADELANTE, &RESTAURAR}) {
+        EXPECT_EQ(LetreroEn(*tecla), "");
+        Pulsa(*tecla);
+        EXPECT_EQ(Gbl.NumMovimientos, 0);
+    }
+}
+
 TEST_F(PanelGrabadora, TurnIsReplayedWithoutAnimation) {
     Juega(1, 10, 20, 3);
     Pulsa(MANDO);
@@ -176,6 +225,7 @@ TEST_F(PanelGrabadora, TurnIsReplayedWithoutAnimation) {
     Pulsa(AUTO_ATRAS);
     EXPECT_EQ(Gbl.Piezas[1].Giro, 0);
     EXPECT_EQ(Gbl.Piezas[1].X, 200);
+    EXPECT_EQ(Gbl.Piezas[1].Y, 200);
     EXPECT_DOUBLE_EQ(P().dormido - antes, 60) << "only the pause between steps";
 }
 
@@ -263,7 +313,12 @@ TEST_F(PanelGrabadora, PressWithoutHoverDoesNothingButHidesTheOptions) {
 }
 
 TEST_F(PanelGrabadora, HundredAndOneMovesGrowTheLogWithoutLoss) {
-    for (i16 i = 1; i <= 101; ++i) Juega(1, i, static_cast<i16>(2 * i));
+    for (i16 i = 1; i <= 99; ++i) Juega(1, i, static_cast<i16>(2 * i));
+    EXPECT_EQ(Gbl.Movimientos.Superior(), 100);
+    for (i16 i = 100; i <= 101; ++i) {
+        Juega(1, i, static_cast<i16>(2 * i));
+        EXPECT_EQ(Gbl.Movimientos.Superior(), 200) << "it grows when the bound is reached";
+    }
     EXPECT_EQ(Gbl.NumMovimientos, 101);
     EXPECT_EQ(Gbl.Movimientos.Superior(), 200);
     for (i16 i = 1; i <= 101; ++i) {
@@ -299,11 +354,24 @@ TEST_F(PanelGrabadora, KeysShowPressedWhileTheyAct) {
     Juega(1, 40, 20);
     Pulsa(MANDO);
     Gbl.VelocidadJuego = 75;  // with pauses, at which the screen is looked at
-    bool pulsada = false;
-    P().alDormir = [&] { pulsada = pulsada || Muestra(14, 57, 65, 57); };
+    int atras = 0, adelante = 0, restaura = 0;
+    P().alDormir = [&] {
+        atras += Muestra(4, 25, 55, 25);
+        adelante += Muestra(25, 25, 76, 25);
+        EXPECT_EQ(Mesa.MousePointer, PUNTERO_NORMAL);
+    };
     Pulsa(ATRAS);
+    EXPECT_GT(atras, 0);
+    Pulsa(ADELANTE);
+    EXPECT_GT(adelante, 0);
+    Pulsa(ATRAS);
+    P().alDormir = [&] {
+        restaura += Muestra(14, 57, 65, 57);
+        EXPECT_EQ(Mesa.MousePointer, PUNTERO_RELOJ);
+    };
     Pulsa(RESTAURAR);
-    EXPECT_TRUE(pulsada);
+    EXPECT_GT(restaura, 0);
+    EXPECT_EQ(Mesa.MousePointer, PUNTERO_NORMAL);
     EXPECT_TRUE(Muestra(14, 57, 14, 57));
     EXPECT_TRUE(Muestra(4, 25, 4, 25));
 }

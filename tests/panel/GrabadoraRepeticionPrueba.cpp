@@ -66,6 +66,42 @@ TEST_F(Repeticion, ReplayedPieceComesToTheTopOfTheStackBothWays) {
     EXPECT_EQ(Gbl.OrdenPiezas[4], 4) << "4 was raised before 2, 7 and 1";
 }
 
+TEST_F(Repeticion, ReplayedTurnsAreSeenOnTheTableBothWays) {
+    Tangram(MODO_RESOLVER);
+    Pic_Grabadora.Visible = true;
+    // The parallelogram: carried, turned over, turned; each with the table as it then was.
+    std::vector<Pieza> lugares{Gbl.Piezas[7]};
+    const Pieza pasos[] = {{300, 200, 0, 0}, {300, 240, 0, 1}, {310, 260, 3, 1}};
+    std::vector<std::vector<Pixel>> vistas;
+    const auto vista = [&] {
+        ColocaPiezas(1);
+        vistas.push_back(Pic_Trabajo.Dibujo().Pixeles);
+    };
+    SubePieza(PosicionEnOrden(7));
+    vista();
+    for (const Pieza& paso : pasos) {
+        Pieza& p = Gbl.Piezas[7];
+        const Pieza antes = p;
+        p.X = paso.X;
+        p.Y = paso.Y;
+        p.Giro = paso.Giro;
+        p.Volteo = paso.Volteo;
+        RegistraMovimiento(antes, p);
+        lugares.push_back(p);
+        vista();
+    }
+    for (std::size_t i = 3; i-- > 0;) {
+        ReproduceMovimiento(1);
+        EXPECT_EQ(Gbl.Piezas[7], lugares[i]) << i;
+        EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, vistas[i]) << i;
+    }
+    for (std::size_t i = 1; i <= 3; ++i) {
+        ReproduceMovimiento(0);
+        EXPECT_EQ(Gbl.Piezas[7], lugares[i]) << i;
+        EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, vistas[i]) << i;
+    }
+}
+
 TEST_F(Repeticion, EveryKeyHasItsTwoSounds) {
     Rompecabezas();
     using V = std::vector<int>;

@@ -3,6 +3,9 @@
 #include <filesystem>
 
 #include "apoyo/ImagenVentana.h"
+#include "apoyo/MesaMoviles.h"
+#include "rules/Despacho.h"
+#include "session/Ampliacion.h"
 #include "session/Configuracion.h"
 #include "session/Montaje.h"
 #include "settings/Cambios.h"
@@ -24,6 +27,12 @@ std::vector<std::string> Filas(const Lista& lista) {
     std::vector<std::string> filas;
     for (const Lista::Elemento& e : lista.Elementos) filas.push_back(e.Texto);
     return filas;
+}
+
+// A picture whose pixels tell their own place.
+void PonDeMuestra(Superficie& s, i32 ancho, i32 alto) {
+    s.TamanoLibre(ancho, alto);
+    s.PonPicture(ImagenDeMuestra(ancho, alto));
 }
 
 std::string FilaElegida() {
@@ -72,6 +81,7 @@ TEST_F(ImagenVentana, AMissingFolderOpensTheProgramsOwn) {
 TEST_F(ImagenVentana, WithItsFileGoneAPuzzleCanStillBeCutAnew) {
     fs::remove(P().carpeta + "Imagenes/a.bmp");
     P().imagenes.clear();
+    OlvidaImagen();  // a game that is laid keeps its picture in the zoomed size only
     Visita([&] {
         EXPECT_EQ(FicheroElegido(), "");
         Lis_NroPiezas.Selecciona(3);
@@ -80,6 +90,47 @@ TEST_F(ImagenVentana, WithItsFileGoneAPuzzleCanStillBeCutAnew) {
     EXPECT_EQ(Gbl.PiezasPorLado, 8);
     EXPECT_EQ(Pic_FonTamModi.Width(), 640);
     EXPECT_EQ(PixelDe(Pic_FonTamModi.Point(100, 50)), 0x400000U | (100U << 10) | 50U);
+}
+
+TEST_F(ImagenVentana, WithItsFileGoneTheBoardsPictureIsTheOneThatLiesOnTheTable) {
+    PonDeslizantes(4, FONDO_IMAGEN);
+    Gbl.RutaImagen = P().carpeta + "Imagenes/gone.bmp";
+    Gbl.FicheroImagen = "gone.bmp";
+    Gbl.AnchoImagen = 500;
+    Gbl.AltoImagen = 400;
+    PonDeMuestra(Pic_FonTamReal, 500, 400);
+    CalculaTamanos();
+    AmpliaImagen();
+    PreparaJuego(true);
+    OlvidaImagen();
+    ASSERT_GT(Gbl.MargenX, 0);
+    Visita([&] {
+        EXPECT_EQ(FicheroElegido(), "");
+        EXPECT_EQ(Pic_FonTamReal.Width(), 500);
+        EXPECT_EQ(Pic_FonTamReal.Height(), 400);
+        for (const Punto p : {Punto{0, 0}, Punto{499, 0}, Punto{123, 321}, Punto{499, 399}})
+            EXPECT_EQ(PixelDe(Pic_FonTamReal.Point(p.x, p.y)), PixelDeMuestra(p.x, p.y)) << p.x;
+        EXPECT_EQ(Gbl.AnchoImagen, 500);
+        Sal();
+        EXPECT_FALSE(Personal.Abierta);
+    });
+    EXPECT_TRUE(P().avisos.empty());
+}
+
+TEST_F(ImagenVentana, WithoutAnyPictureThereIsAnEmptyOneOfTheSmallestSize) {
+    fs::remove(P().carpeta + "Imagenes/a.bmp");
+    OlvidaImagen();
+    Gbl.RutaImagen = " ";
+    Gbl.FicheroImagen.clear();
+    Gbl.ImagenValida = false;
+    Visita([&] {
+        EXPECT_EQ(File1.ListCount(), 0);
+        EXPECT_EQ(Gbl.AnchoImagen, 320);
+        EXPECT_EQ(Gbl.AltoImagen, 240);
+        EXPECT_EQ(Pic_FonTamReal.Width(), 320);
+        EXPECT_EQ(Pic_FonTamModi.Height(), 240);
+        EXPECT_EQ(Pic_InfoTamBmp.NombreAccesible, "Tamaño: 320 por 240 píxels");
+    });
 }
 
 TEST_F(ImagenVentana, AFirstStartTakesThePictureThatIsChosen) {
@@ -166,6 +217,45 @@ TEST_F(ImagenVentana, ZoomAdaptsAPictureToTheLimits) {
         EXPECT_EQ(Pic_FonTamModi.Width(), 328);
         EXPECT_EQ(Pic_FonTamModi.Height(), 246);
     });
+}
+
+TEST_F(ImagenVentana, LimitsAreThoseOfTheSizeWithItsFractions) {
+    // Little over the limits on both sides, and each of the two percentages as the smaller one.
+    EXPECT_EQ(ZoomPara(1025, 800), 95);
+    EXPECT_EQ(ZoomPara(1100, 769), 90);
+    EXPECT_TRUE(ZoomValido(9846, 7384, ZoomPara(9846, 7384)));  // 5 percent
+    EXPECT_EQ(ZoomPara(9846, 7384), 5);
+    EXPECT_TRUE(ZoomValido(33, 25, ZoomPara(33, 25)));
+    EXPECT_FALSE(ZoomValido(32, 25, ZoomPara(32, 25)));
+    EXPECT_TRUE(ZoomValido(34, 25, 995));
+    EXPECT_FALSE(ZoomValido(34, 25, 996));
+    EXPECT_FALSE(ZoomValido(8000, 6000, 4));
+    // 1024.1 and 768.6 pixels are above 1024 and 768.
+    EXPECT_EQ(ZoomPara(418, 100), 245);
+    EXPECT_FALSE(ZoomValido(418, 100, 245));
+    EXPECT_EQ(ZoomPara(107, 252), 305);
+    EXPECT_FALSE(ZoomValido(107, 252, 305));
+    // 319.8 and 239.4 are below 320 and 240.
+    EXPECT_FALSE(ZoomValido(123, 200, 260));
+    EXPECT_FALSE(ZoomValido(300, 114, 210));
+    EXPECT_TRUE(ZoomValido(128, 96, 250));   // 320 x 240
+    EXPECT_TRUE(ZoomValido(512, 384, 200));  // 1024 x 768
+}
+
+TEST_F(ImagenVentana, ARefusedPictureLeavesTheZoomOfThePuzzleInPlay) {
+    Gbl.ZoomImagen = 120;
+    Visita([&] {
+        for (const Punto& t : {Punto{2000, 700}, Punto{100, 1000}}) {
+            Elige(t.x, t.y);
+            EXPECT_FALSE(Gbl.ImagenValida) << t.x;
+            EXPECT_EQ(Gbl.ZoomImagen, 120) << t.x;
+            EXPECT_EQ(Spin1.Value, 120) << t.x;
+        }
+        Elige(640, 480);
+        EXPECT_EQ(Spin1.Value, 100);
+        Sal({false});
+    });
+    EXPECT_EQ(Gbl.ZoomImagen, 120);
 }
 
 TEST_F(ImagenVentana, PicturesThatNoZoomFitsAreRefused) {
@@ -368,6 +458,8 @@ TEST_F(ImagenVentana, AFolderChosenListsItsPicturesAndTakesTheFirst) {
         EXPECT_EQ(FicheroElegido(), "k.BMP");
         EXPECT_EQ(Gbl.RutaImagen, P().carpeta + "Otra/k.BMP");
         EXPECT_EQ(Gbl.CarpetaImagen, P().carpeta + "Otra/");
+        EXPECT_EQ(Gbl.UnidadImagen, Drive1.Drive);
+        EXPECT_FALSE(Gbl.UnidadImagen.empty());
         EXPECT_EQ(fs::current_path().string() + "/", P().carpeta + "Otra/");
         // Back through the list of places.
         Drive1.Drive = P().carpeta + "Imagenes/";
@@ -436,7 +528,9 @@ TEST_F(ImagenVentana, ThePictureIsShownAgainstTheScreen) {
         EXPECT_EQ(Pic_TamRelIma.Point(39, 29), 0xFF0000U);
         EXPECT_EQ(Pic_TamRelIma.Point(40, 29), RESTO);
         EXPECT_EQ(Pic_TamRelIma.Point(39, 30), RESTO);
-        EXPECT_EQ(Pic_TamRelIma.Point(79, 59), RESTO);
+        for (const Punto p :
+             {Punto{40, 0}, Punto{79, 0}, Punto{0, 30}, Punto{0, 59}, Punto{79, 59}})
+            EXPECT_EQ(Pic_TamRelIma.Point(p.x, p.y), RESTO) << p.x << ", " << p.y;
         Sal({false});
     });
 }
@@ -460,6 +554,9 @@ TEST_F(ImagenVentana, ProportionsForbidShapes) {
             EXPECT_EQ(Pic_TipPuz[2].Enabled, c.irregulares) << c.ancho;
             EXPECT_EQ(Pic_TipPuz[3].Enabled, c.triangulos) << c.ancho;
             for (const i32 siempre : {0, 4, 5, 6}) EXPECT_TRUE(Pic_TipPuz[siempre].Enabled);
+            // The hand over what can be chosen and is not the one in force.
+            for (const i32 f : {1, 2, 3, 7})
+                EXPECT_EQ(Pic_TipPuz[f].MousePointer == PUNTERO_PROPIO, Pic_TipPuz[f].Enabled) << f;
         }
         Sal({false});
     });
@@ -476,6 +573,9 @@ TEST_F(ImagenVentana, AShapeThatThePictureForbidsGivesWayInSilence) {
             EXPECT_EQ(Sonidos(), std::vector<int>{6});  // the list's own
             Pulsa(Pic_TipPuz[3]);                       // disabled: nothing happens
             EXPECT_NE(Gbl.FormaPiezas, 3);
+            P().sonidos.clear();
+            Pulsa(Pic_TipPuz[6]);  // the player's own choice sounds again
+            EXPECT_EQ(Sonidos(), std::vector<int>{6});
             Sal({false});
         });
     }
@@ -512,6 +612,8 @@ TEST_F(ImagenVentana, TheNearestGridIsChosenAndOfTwoTheFiner) {
         Elige(1024, 768);  // from 8 on
         EXPECT_EQ(FilaElegida(), " 8 x  8 ->  64");
         EXPECT_EQ(Gbl.PiezasPorLado, 8);
+        EXPECT_EQ(Gbl.AnchoCelda, 128);
+        EXPECT_EQ(Gbl.NumPiezas, 64);
         Lis_NroPiezas.Selecciona(Lis_NroPiezas.ListCount() - 1);
         EXPECT_EQ(Gbl.PiezasPorLado, 20);
         Elige(400, 300);  // 3 to 12
@@ -534,9 +636,13 @@ TEST_F(ImagenVentana, WithoutAnyGridThreeIsLeft) {
         Pulsa(Pic_TipPuz[3]);
         Elige(1020, 400);  // triangles: 8 columns at least, 8 rows at most
         EXPECT_EQ(Filas(Lis_NroPiezas), std::vector<std::string>{" 8 x  8 x 4 -> 256"});
+        EXPECT_EQ(FilaElegida(), " 8 x  8 x 4 -> 256");
+        EXPECT_EQ(Lis_NroPiezas.MouseIcon, "ManoIndice");
+        EXPECT_EQ(Lis_NroPiezas.MousePointer, PUNTERO_PROPIO);
         Elige(1020, 390);
         EXPECT_EQ(Lis_NroPiezas.ListCount(), 0);
         EXPECT_EQ(Lis_NroPiezas.ListIndex, -1);
+        EXPECT_EQ(Lis_NroPiezas.MousePointer, PUNTERO_NORMAL);
         EXPECT_EQ(Gbl.PiezasPorLado, 3);
         Sal({false});
     });
@@ -548,6 +654,10 @@ TEST_F(ImagenVentana, ANumberOfPiecesIsTakenWithItsSound) {
         Lis_NroPiezas.Selecciona(1);
         EXPECT_EQ(Gbl.PiezasPorLado, 6);
         EXPECT_EQ(Gbl.AnchoCelda, 106);
+        EXPECT_EQ(Sonidos(), std::vector<int>{6});
+        Elige(800, 600);
+        P().sonidos.clear();
+        Lis_NroPiezas.Selecciona(3);  // behind a picture's choice as well
         EXPECT_EQ(Sonidos(), std::vector<int>{6});
         Sal({false});
     });

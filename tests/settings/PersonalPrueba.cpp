@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opening and leaving the settings window, in the three games.
+#include <algorithm>
 #include <filesystem>
 
 #include "apoyo/PersonalMontada.h"
 #include "core/Avisos.h"
 #include "core/Cadenas.h"
 #include "core/Errores.h"
+#include "panel/Grabadora.h"
 #include "rules/Despacho.h"
 #include "rules/PuzzBas.h"
 #include "session/Configuracion.h"
@@ -188,6 +190,23 @@ TEST_F(PersonalVentana, ColoursAreAppliedWithoutAQuestionOrAShuffle) {
     EXPECT_EQ(Gbl.ColorContraste, 0U);
     EXPECT_EQ(Piezas(), antes);
     EXPECT_EQ(Pic_Imagen.Point(790, 590), 0x00FF00U);
+    EXPECT_FALSE(Gbl.ColoresCambiados) << "the next record that is read lays its pieces";
+}
+
+TEST_F(PersonalVentana, AFinishedPuzzleStaysFinishedInItsNewColours) {
+    MovilesDe("a.bmp", 640, 480);
+    for (i16 i = 1; i <= 25; ++i) Pon(i, Gbl.Piezas[i].XBien, Gbl.Piezas[i].YBien);
+    EntraEnCompleto();
+    Visita([&] {
+        ColFon.Seleccion.MouseDown(1, 0, 2, 2);  // white
+        Sal();
+    });
+    NiPreguntaNiCopia();
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+    EXPECT_EQ(Pic_Imagen.Point(790, 590), 0xFFFFFFU);
+    for (i32 y = 0; y < Gbl.AltoPuzzle; ++y)
+        for (i32 x = 0; x < Gbl.AnchoPuzzle; ++x)
+            ASSERT_EQ(Pic_Trabajo.Point(x, y), Pic_FonTamModi.Point(x, y)) << x << ", " << y;
 }
 
 TEST_F(PersonalVentana, FactorAloneNeitherEndsTheGameNorCostsTheHistory) {
@@ -327,8 +346,18 @@ TEST_F(PersonalVentana, WithoutTheCopyOnDiskACancelStillBringsEverythingBack) {
                 fs::remove(P().carpeta + "Archivo/TESSA33.CSE");
             Pulsa(Pic_TipPuz[5]);
             Spin1.Pon(110);
+            Bul(1).Pon(false);
+            Bul(5).Pon(true);
+            Pot(1).Pon(33);
             Sal({false});
         });
+        // What is the program's and not the game's stays as it was chosen.
+        EXPECT_FALSE(Gbl.Sonido);
+        EXPECT_TRUE(Gbl.VentanaInformacion);
+        EXPECT_EQ(Gbl.VelocidadJuego, 33);
+        Gbl.Sonido = true;
+        Gbl.VentanaInformacion = false;
+        Gbl.VelocidadJuego = 100;
         EXPECT_FALSE(Gbl.CargaCorrecta);
         EXPECT_EQ(EscribePuzzle(), registro);
         EXPECT_FALSE(HayCopia());
@@ -396,6 +425,18 @@ TEST_F(PersonalVentana, AnotherGameIsAskedForAndCancelledWithoutATrace) {
         EXPECT_EQ(Sonidos(), (std::vector<int>{6, 6}));
         EXPECT_TRUE(Personal.Abierta);
         ASSERT_EQ(P().avisos.size(), 1U);
+        int preguntas = 0;
+        P().ventanas["Mensajes"] = [&](Ventana&) {
+            ++preguntas;
+            EXPECT_FALSE(Bul(21).Value) << "while it is asked the new game's switch alone is on";
+            EXPECT_TRUE(Bul(22).Value);
+            Gbl.RespuestaMensaje = false;
+        };
+        Bul(22).Pon(true);
+        P().ventanas.erase("Mensajes");
+        EXPECT_EQ(preguntas, 1) << "asked anew each time";
+        EXPECT_TRUE(Bul(21).Value);
+        EXPECT_FALSE(Bul(22).Value);
         EXPECT_EQ(P().avisos[0].titulo, JUEGO);
         EXPECT_EQ(P().avisos[0].modo, 5);
         EXPECT_EQ(P().avisos[0].ayuda, 2112);
@@ -517,6 +558,24 @@ TEST_F(PersonalVentana, GroundOfTheSlidingPuzzleAsksAndEnablesTheLists) {
     EXPECT_EQ(Pic_FonTamModi.Width(), 900 + Gbl.MargenX);
 }
 
+TEST_F(PersonalVentana, ABoardThatNeverHadAPictureTakesTheFirstOfTheList) {
+    PonImagen("b.bmp", 700, 500);
+    PonImagen("c.bmp", 900, 900);
+    Deslizantes(4);
+    Gbl.RutaImagen = " ";
+    Gbl.FicheroImagen.clear();
+    Gbl.ImagenValida = true;  // numbers need no picture
+    Visita([&] {
+        Sel(2).Pon(1);
+        EXPECT_EQ(FicheroElegido(), "b.bmp");
+        EXPECT_EQ(Gbl.RutaImagen, P().carpeta + "Imagenes/b.bmp");
+        EXPECT_EQ(Gbl.FicheroImagen, "b.bmp");
+        EXPECT_TRUE(Gbl.ImagenValida);
+        Sal({true});
+    });
+    EXPECT_EQ(Gbl.RutaImagen, P().carpeta + "Imagenes/b.bmp");
+}
+
 TEST_F(PersonalVentana, ThereAndBackOfTheGroundChangesNothing) {
     PonImagen("a.bmp", 900, 900);
     Deslizantes(4);
@@ -526,6 +585,11 @@ TEST_F(PersonalVentana, ThereAndBackOfTheGroundChangesNothing) {
         EXPECT_EQ(Pic_MostrarImagen.Point(5, 5), 0x123456U) << "numbers have no picture";
         Sel(2).Pon(1);
         EXPECT_NE(Pic_MostrarImagen.Point(120, 90), 0x123456U);
+        Crea("Otra/m.bmp", "x");
+        P().imagenes[P().carpeta + "Otra/m.bmp"] = Mapa(320, 240);
+        Dir1.Path = P().carpeta + "Otra/";
+        Dir1.Change();
+        EXPECT_EQ(Gbl.FicheroImagen, "m.bmp");
         Sel(2).Pon(2);
         EXPECT_EQ(Pic_MostrarImagen.Point(120, 90), 0x123456U);
         EXPECT_FALSE(File1.Enabled);
@@ -569,6 +633,24 @@ TEST_F(PersonalVentana, LettersThatDoNotSufficeGiveWayToNumbers) {
 }
 
 // ---------------------------------------------------------------- Tangram
+
+TEST_F(PersonalVentana, WhatNeedsNoRestartStaysInTheTangramWithoutAQuestion) {
+    TangramDe({"Barco"});
+    const auto antes = Piezas();
+    Visita([&] {
+        Bul(4).Pon(false);
+        Bul(3).Pon(false);
+        Pot(2).Pon(65);
+        ColPza.Seleccion.MouseDown(1, 0, 2, 2);  // white
+        Sal();
+    });
+    NiPreguntaNiCopia();
+    EXPECT_FALSE(Gbl.AtraccionPiezas);
+    EXPECT_FALSE(Gbl.DibujarBorde);
+    EXPECT_EQ(Gbl.FactorAtraccion, 65);
+    EXPECT_EQ(Gbl.ColorPiezas, 0xFFFFFFU);
+    EXPECT_EQ(Piezas(), antes);
+}
 
 TEST_F(PersonalVentana, AnotherModelAsksAndBeginsAnew) {
     TangramDe({"Barco", "Casa", "Ave"});
@@ -615,14 +697,28 @@ TEST_F(PersonalVentana, TheModeDecidesWhatIsOffered) {
         EXPECT_FALSE(Lis_Modelos.Enabled || Pic_MostrarImagen.Enabled);
         EXPECT_FALSE(Pic_FactorPegado.Visible);
         EXPECT_EQ(Lis_Modelos.ListIndex, -1);
+        EXPECT_EQ(Lis_Modelos.MousePointer, PUNTERO_NORMAL);
+        EXPECT_EQ(Pic_MostrarImagen.Point(120, 90), 0xC0C0C0U);
         P().sonidos.clear();
         Sel(1).Pon(2);
         EXPECT_TRUE(Sonidos().empty());  // the control has its own click
         EXPECT_TRUE(Lis_Modelos.Enabled && Pic_MostrarImagen.Enabled);
         EXPECT_TRUE(Pic_FactorPegado.Visible);
         EXPECT_EQ(Lis_Modelos.ListIndex, 0);
+        EXPECT_EQ(Lis_Modelos.MouseIcon, "ManoIndice");
+        EXPECT_EQ(Lis_Modelos.MousePointer, PUNTERO_PROPIO);
         EXPECT_EQ(Gbl.Piezas[2].XBien, 90);
+        EXPECT_LT(Gbl.AnchoPuzzle, 800);
+        const auto barco = Pic_MostrarImagen.Dibujo().Pixeles;
+        Lis_Modelos.Selecciona(1);
+        EXPECT_EQ(Sonidos(), std::vector<int>{6});
+        EXPECT_NE(Pic_MostrarImagen.Dibujo().Pixeles, barco);
+        Lis_Modelos.Selecciona(0);
+        EXPECT_EQ(Pic_MostrarImagen.Dibujo().Pixeles, barco);
         Sel(1).Pon(1);
+        EXPECT_EQ(Lis_Modelos.MousePointer, PUNTERO_NORMAL);
+        EXPECT_EQ(Gbl.AnchoPuzzle, 800);
+        for (const Pixel p : Pic_MostrarImagen.Dibujo().Pixeles) ASSERT_EQ(p, 0xC0C0C0U);
         EXPECT_FALSE(Lis_Modelos.Enabled);
         EXPECT_EQ(Lis_Modelos.ListIndex, -1);
         EXPECT_FALSE(Pic_FactorPegado.Visible);
@@ -637,6 +733,16 @@ TEST_F(PersonalVentana, TheModeDecidesWhatIsOffered) {
     EXPECT_EQ(P().avisos[0].titulo, PARAMETROS);
     EXPECT_EQ(Gbl.ModoJuego, 2);
     EXPECT_EQ(Gbl.Piezas[2].XBien, 90);
+    // The window opens on the model of the table: its figure is shown, and another one sounds.
+    Visita([&] {
+        EXPECT_EQ(Lis_Modelos.ListIndex, 0);
+        const auto vista = Pic_MostrarImagen.Dibujo().Pixeles;
+        EXPECT_NE(std::count(vista.begin(), vista.end(), PixelDe(Gbl.ColorContraste)), 0);
+        P().sonidos.clear();
+        Lis_Modelos.Selecciona(1);
+        EXPECT_EQ(Sonidos(), std::vector<int>{6});
+        Sal({false});
+    });
 }
 
 TEST_F(PersonalVentana, AModelIsDeletedAfterAQuestion) {
@@ -706,6 +812,8 @@ TEST_F(PersonalVentana, DifficultyOfTheTangramIsThatOfItsOwnFigure) {
     EXPECT_GT(antes, 40.0F);  // half of 100 less the factor of 20, and the figure
     Visita([&] {
         Lis_Modelos.Selecciona(1);
+        EXPECT_EQ(Pic_FonTamReal.Width(), Gbl.AnchoPuzzle + 2 * Gbl.MargenX);
+        EXPECT_EQ(Pic_FonTamReal.Height(), Gbl.AltoPuzzle + 2 * Gbl.MargenY);
         ColFon.Seleccion.MouseDown(1, 0, 2, 2);  // white: the figure turns black
         Sal({false});
     });
@@ -731,8 +839,19 @@ TEST_F(PersonalVentana, ShapesAreChosenByMouseAndByKeys) {
         EXPECT_EQ(Sitio(Pic_TipPuzMarco), RectDe(130, 48, 35, 35));
         Pic_TipPuzSel.KeyDown(39, 0);  // none after the last
         EXPECT_EQ(Gbl.FormaPiezas, 7);
-        Pic_TipPuzSel.KeyDown(37, 0);
-        EXPECT_EQ(Gbl.FormaPiezas, 6);
+        for (const int llega : {6, 5}) {
+            Pic_TipPuzSel.KeyDown(37, 0);
+            EXPECT_EQ(Gbl.FormaPiezas, llega);
+        }
+        for (const int llega : {1, 1}) {
+            Pic_TipPuzSel.KeyDown(38, 0);
+            EXPECT_EQ(Gbl.FormaPiezas, llega);
+        }
+        for (const int llega : {0, 0}) {
+            Pic_TipPuzSel.KeyDown(37, 0);
+            EXPECT_EQ(Gbl.FormaPiezas, llega);
+        }
+        Pulsa(Pic_TipPuz[6]);
         EXPECT_EQ(Pic_TipPuzSel.NombreAccesible, "Forma de las piezas: Elipses en Rectángulos");
         EXPECT_EQ(Pic_TipPuz[5].MouseIcon, "ManoIndice");
         EXPECT_EQ(Pic_TipPuz[6].MousePointer, PUNTERO_NORMAL);
@@ -798,10 +917,13 @@ TEST_F(PersonalVentana, ColoursAreChosenByKeysToo) {
 TEST_F(PersonalVentana, EscapeLeavesAndF1Helps) {
     MovilesDe("a.bmp", 640, 480);
     Visita([&] {
+        P().sonidos.clear();
         Personal.KeyDown(112, 0);
         EXPECT_EQ(P().ayudas, std::vector<i32>{2111});
+        EXPECT_EQ(Sonidos(), std::vector<int>{9});
         EXPECT_TRUE(Personal.Abierta);
         Personal.KeyDown(27, 0);
+        EXPECT_EQ(Sonidos(), std::vector<int>{9});
         EXPECT_FALSE(Personal.Abierta);
     });
 }

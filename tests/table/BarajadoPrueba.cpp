@@ -237,6 +237,33 @@ TEST_F(Barajado, PiecesAreSeenToFallOneByOne) {
     const int antes = P().presentaciones;
     BarajaPiezas();
     EXPECT_GE(P().presentaciones - antes, 9);
+    // Each time one more, from the bottom of the stack up.
+    Pon(4, 330, 30);
+    std::vector<std::vector<Pixel>> vistas;
+    P().alPresentar = [&] { vistas.push_back(Pic_Trabajo.Dibujo().Pixeles); };
+    ColocaPiezas(0);
+    P().alPresentar = nullptr;
+    ASSERT_EQ(vistas.size(), 9U);
+    Pic_Imagen.Cls();
+    for (std::size_t i = 0; i < 9; ++i) {
+        PonPieza(Gbl.OrdenPiezas[9 - static_cast<i32>(i)]);
+        EXPECT_EQ(vistas[i], Pic_Imagen.Dibujo().Pixeles) << i;
+    }
+}
+
+TEST_F(Barajado, ATableLaidAtOnceIsSeenAtItsEndAndOneLaidUnseenNotAtAll) {
+    Moviles(3, 300, 300);
+    const auto antes = Pic_Trabajo.Dibujo().Pixeles;
+    for (i16 i = 1; i <= 9; ++i) {
+        Gbl.Piezas[i].X = static_cast<i16>(40 * i);
+        Gbl.Piezas[i].Y = 330;
+    }
+    P().alPresentar = [&] { EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, antes); };
+    ColocaPiezas(2);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, antes);
+    ColocaPiezas(1);
+    EXPECT_NE(Pic_Trabajo.Dibujo().Pixeles, antes);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, Pic_Imagen.Dibujo().Pixeles);
 }
 
 TEST_F(Barajado, SlidingShuffleRunsWithTheBusyCursorAndTheClockStopped) {

@@ -309,6 +309,15 @@ TEST_F(EntradaMesa, RecorderWalksATurnInHandBackExactly) {
     const Pieza despues = Gbl.Piezas[5];
     const i16 n = Gbl.NumMovimientos;
     ASSERT_EQ(n, 3);
+    // Turned by a quarter the box of 100 x 80 stands elsewhere; each entry begins where the one
+    // before it ends.
+    EXPECT_NE(Gbl.Movimientos[2].XDespues, Gbl.Movimientos[2].XAntes);
+    EXPECT_NE(Gbl.Movimientos[2].YDespues, Gbl.Movimientos[2].YAntes);
+    for (i32 i = 2; i <= n; ++i) {
+        EXPECT_EQ(Gbl.Movimientos[i].XAntes, Gbl.Movimientos[i - 1].XDespues) << i;
+        EXPECT_EQ(Gbl.Movimientos[i].YAntes, Gbl.Movimientos[i - 1].YDespues) << i;
+        EXPECT_EQ(Gbl.Movimientos[i].GiroAntes, Gbl.Movimientos[i - 1].GiroDespues) << i;
+    }
     for (int i = 0; i < n; ++i) ReproduceMovimiento(1);
     EXPECT_EQ(Gbl.Piezas[5], antes);
     for (int i = 0; i < n; ++i) ReproduceMovimiento(0);
@@ -402,6 +411,18 @@ TEST_F(EntradaMesa, WheelTurnsThePieceUnderThePointerOneStepForEachNotch) {
     EXPECT_FALSE(Rueda({350, 380}, 1)) << "the empty table scrolls";
     EXPECT_FALSE(Gbl.GirandoPieza || Gbl.GiroEnCurso);
     EXPECT_EQ(P().dormido, 0) << "nothing waits for a notch";
+}
+
+TEST_F(EntradaMesa, WheelThatTurnsAPieceFromUnderThePointerLooksAgain) {
+    Puesto(300, 180);
+    Pon(5, 400, 200, 0);  // 100 x 60, and 60 x 100 turned: its left part is gone then
+    const Punto p{405, 230};
+    Puntero.Mueve(p.x, p.y);
+    ASSERT_EQ(Gbl.PiezaActual, 5);
+    EXPECT_TRUE(Rueda(p, 1));
+    EXPECT_EQ(Gbl.Piezas[5].X, 420);
+    EXPECT_EQ(Gbl.PiezaActual, 0);
+    EXPECT_EQ(Pic_Trabajo.MousePointer, PUNTERO_NORMAL);
 }
 
 TEST_F(EntradaMesa, WheelTurnsThePieceInHandToo) {

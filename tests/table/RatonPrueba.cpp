@@ -186,10 +186,14 @@ TEST_F(RatonMesa, MoveOverTheTablePutsOutALitOption) {
     Rompecabezas();
     Puntero.Pulsa(350, 350, BOTON_DERECHO);
     ASSERT_TRUE(Pic_SelOpciones.Visible);
-    Gbl.OpcionResaltada = 2;
+    const auto apagado = Pic_SelOpciones.Dibujo().Pixeles;
+    Puntero.Mueve(370, 380);  // its second row
+    ASSERT_EQ(Gbl.OpcionResaltada, 2);
+    ASSERT_NE(Pic_SelOpciones.Dibujo().Pixeles, apagado);
     Puntero.Mueve(100, 100);
     EXPECT_EQ(Gbl.OpcionResaltada, 0);
     EXPECT_TRUE(Pic_SelOpciones.Visible);
+    EXPECT_EQ(Pic_SelOpciones.Dibujo().Pixeles, apagado);
 }
 
 // ---------------------------------------------------------------- pick-up and drag
@@ -491,7 +495,15 @@ TEST_F(RatonMesa, AutomaticRunTurnsThePieceInOneStepWithAnyButton) {
     Gbl.ResolviendoPuzzle = true;
     Gbl.PiezaActual = 2;
     P().botones = BOTON_DERECHO;  // even if the player holds a button
+    int pasos = 0;
+    P().alDejarPasar = [&] {
+        ++pasos;
+        EXPECT_FALSE(Gbl.GirandoPieza);
+        EXPECT_EQ(Gbl.Piezas[2].Giro, 0);
+    };
     Pic_Trabajo_MouseDown(BOTON_DERECHO, 0, 400, 100);
+    P().alDejarPasar = nullptr;
+    EXPECT_EQ(pasos, 1) << "what the player does meanwhile comes in after the step";
     EXPECT_EQ(Gbl.Piezas[2].Giro, 0);  // straight to where it is right
     EXPECT_FALSE(Gbl.GirandoPieza);
     EXPECT_EQ(Gbl.NumMovimientos, 1);
@@ -515,6 +527,57 @@ TEST_F(RatonMesa, PieceDroppedUnderTheStripIsPushedToItsEdge) {
     EXPECT_EQ(Gbl.Piezas[2].Y, 100);
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, Pic_Imagen.Dibujo().Pixeles);
     EXPECT_EQ(Gbl.Movimientos[1].XDespues, 609);
+}
+
+TEST_F(RatonMesa, TangramPiecePushedIntoViewLeavesNoTrace) {
+    Tangram(MODO_CREAR);
+    Pon(6, 300, 300);
+    Arrastra(6, 640, 500);  // in view
+    Arrastra(6, 300, 300);
+    Arrastra(6, 400, 580);  // its centre, 611.5, is below the table
+    EXPECT_LT(Gbl.Piezas[6].Y, 580);
+    const auto visto = Pic_Trabajo.Dibujo().Pixeles;
+    EXPECT_EQ(Pic_Imagen.Dibujo().Pixeles, visto);
+    ColocaPiezas(1);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, visto);
+}
+
+TEST_F(RatonMesa, PressWithAPieceStillInHandDropsThatFirst) {
+    Rompecabezas();
+    Pon(2, 400, 100);
+    Pon(3, 250, 350);
+    Puntero.Mueve(450, 150);
+    Puntero.Aprieta();
+    Puntero.Mueve(460, 170);
+    // The release was lost; the next press comes elsewhere.
+    Pic_Trabajo.MouseDown(BOTON_IZQUIERDO, 0, 300, 400);
+    EXPECT_EQ(Gbl.NumMovimientos, 1);
+    EXPECT_EQ(Gbl.Movimientos[1].XDespues, 410);
+    EXPECT_EQ(Gbl.Movimientos[1].YDespues, 120);
+    EXPECT_EQ(Gbl.PiezaActual, 3);
+    EXPECT_TRUE(Gbl.ArrastrandoPieza);
+    Pic_Trabajo.MouseUp(BOTON_IZQUIERDO, 0, 300, 400);
+    EXPECT_EQ(Gbl.Piezas[2].X, 410);
+}
+
+TEST_F(RatonMesa, WhileAPieceIsBeingDroppedTheTableDragsNothing) {
+    Rompecabezas();
+    for (i16 i = 1; i <= 9; ++i) Pon(i, Gbl.Piezas[i].XBien, Gbl.Piezas[i].YBien);
+    Pon(9, 400, 300);
+    int mensajes = 0;
+    P().ventanas["Mensajes"] = [&](Ventana&) {
+        ++mensajes;
+        EXPECT_TRUE(Gbl.SoltandoPieza);
+        const Pieza antes = Gbl.Piezas[9];
+        Pic_Trabajo_MouseMove(BOTON_IZQUIERDO, 0, 350, 350);
+        EXPECT_EQ(Gbl.Piezas[9], antes);
+        Gbl.RespuestaMensaje = false;
+    };
+    Arrastra(9, Gbl.Piezas[9].XBien, Gbl.Piezas[9].YBien);
+    EXPECT_EQ(mensajes, 2);
+    EXPECT_FALSE(Gbl.SoltandoPieza);
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
 }
 
 TEST_F(RatonMesa, BelowTheStripTheWholeWidthIsFree) {
@@ -543,7 +606,9 @@ TEST_F(RatonMesa, HintPanelPushesADroppedPieceUp) {
     Gbl.VentanaInformacion = true;
     Arrastra(2, 330, 520);
     EXPECT_EQ(Gbl.Piezas[2].Y, 486);  // centre at the panel's top, 536
-    Arrastra(2, 430, 520);            // beside the panel, which is 423 wide
+    Arrastra(2, 422, 520);            // the panel is 423 wide
+    EXPECT_EQ(Gbl.Piezas[2].Y, 486);
+    Arrastra(2, 423, 520);
     EXPECT_EQ(Gbl.Piezas[2].Y, 520);
 }
 
@@ -809,7 +874,7 @@ TEST_F(RatonMesa, ParallelogramTurnedOverInHandStaysInHandAndLeavesNoTrace) {
     const Punto p = PuntoDe(7);
     Puntero.Mueve(p.x, p.y);
     Puntero.Aprieta();
-    Puntero.Mueve(p.x + 60, p.y);
+    Puntero.Mueve(p.x + 60, p.y + 30);
     Mesa.KeyPress('v');
     EXPECT_TRUE(Gbl.ArrastrandoPieza);
     Puntero.Mueve(p.x + 100, p.y + 80);
@@ -818,8 +883,8 @@ TEST_F(RatonMesa, ParallelogramTurnedOverInHandStaysInHandAndLeavesNoTrace) {
     EXPECT_EQ(Gbl.Piezas[7].Y, 380);
     EXPECT_EQ(Gbl.Piezas[7].Volteo, 1);
     ASSERT_EQ(Gbl.NumMovimientos, 2);  // the two entries follow on each other
-    EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{7, 100, 300, 0, 0, 160, 300, 0, 1}));
-    EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{7, 160, 300, 0, 1, 200, 380, 0, 1}));
+    EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{7, 100, 300, 0, 0, 160, 330, 0, 1}));
+    EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{7, 160, 330, 0, 1, 200, 380, 0, 1}));
     const auto visto = Pic_Trabajo.Dibujo().Pixeles;
     ColocaPiezas(1);
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, visto);

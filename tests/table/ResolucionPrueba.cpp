@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "apoyo/MesaMontada.h"
+#include "panel/Alcance.h"
 #include "panel/Colocadas.h"
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
@@ -66,6 +67,36 @@ TEST_F(Resolucion, WhatLiesBeyondASmallerScreenComesIntoReach) {
     EXPECT_LT(Gbl.Piezas[4].Y, 600);
     EXPECT_TRUE(P().avisos.empty());
     ComoRecienPuesta();
+}
+
+TEST_F(Resolucion, LoosePiecesBeyondAnyEdgeComeIntoReachAndOthersStay) {
+    Moviles(3, 300, 300);
+    for (i16 i = 1; i <= 9; ++i) Pon(i, Gbl.Piezas[i].XBien, Gbl.Piezas[i].YBien);
+    const struct {
+        i16 pieza;
+        Punto antes, despues;  // of a box of 100 x 100
+    } casos[] = {
+        {1, {-51, 330}, {-50, 330}}, {2, {-50, 330}, {-50, 330}}, {3, {330, -51}, {330, -50}},
+        {4, {330, -50}, {330, -50}}, {5, {400, 551}, {400, 550}}, {6, {400, 550}, {400, 550}},
+        {7, {610, 200}, {609, 200}}, {8, {609, 200}, {609, 200}}, {9, {751, 480}, {750, 480}}};
+    for (const auto& c : casos) Pon(c.pieza, c.antes.x, c.antes.y);
+    TraeLoInalcanzable();
+    for (const auto& c : casos) {
+        EXPECT_EQ(Gbl.Piezas[c.pieza].X, c.despues.x) << c.pieza;
+        EXPECT_EQ(Gbl.Piezas[c.pieza].Y, c.despues.y) << c.pieza;
+    }
+    ComoRecienPuesta();
+    // What the hint panel covers can be got at, for that can be closed.
+    Gbl.VentanaInformacion = true;
+    Pon(5, 100, 520);
+    TraeLoInalcanzable();
+    EXPECT_EQ(Gbl.Piezas[5].Y, 520);
+    // Level with the strip's last row and below it, where the table reaches to its edge.
+    Pon(8, 700, 412);
+    Pon(9, 700, 413);
+    TraeLoInalcanzable();
+    EXPECT_EQ(Gbl.Piezas[8].X, 609);
+    EXPECT_EQ(Gbl.Piezas[9].X, 700);
 }
 
 TEST_F(Resolucion, TheLogLeadsToThePlaceToWhichAPieceWasBrought) {
