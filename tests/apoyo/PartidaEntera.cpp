@@ -2,10 +2,8 @@
 #include "apoyo/PartidaEntera.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 
-#include "apoyo/Datos.h"
 #include "core/Ventanas.h"
 #include "panel/Colocadas.h"
 #include "records/Historial.h"
@@ -21,8 +19,6 @@
 
 namespace tessario {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr std::size_t RESPUESTAS = 20;  // more than one step asks
@@ -32,12 +28,7 @@ constexpr i32 PASO = 40;                // pixels by which a piece is moved
 
 void PartidaEntera::SetUp() {
     MesaMontada::SetUp();
-    for (const auto& f : fs::directory_iterator(CARPETA_ESTRENO))
-        fs::copy_file(f.path(), P().carpeta + f.path().filename().string());
-    PonImagen("Puerto.jpg", 640, 480, 0x4080C0);
-    PonImagen("Peces.jpg", 640, 480, 0x2060A0);
-    fs::create_directories(P().carpeta + "Archivo");
-    fs::copy_file(FICHERO_SURTIDO, P().carpeta + "Archivo/Modelos.tpu");
+    PonEstreno();
     P().hayPortapapeles = true;
     P().portapapeles = Mapa(500, 400, 0x112233);
 }

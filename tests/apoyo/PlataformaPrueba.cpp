@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "apoyo/Datos.h"
 #include "core/Superficies.h"
 #include "core/Ventanas.h"
 #include "records/Archivo.h"
@@ -307,6 +308,16 @@ std::string PruebaBase::PonImagen(const std::string& nombre, i32 ancho, i32 alto
     const std::string ruta = Crea("Imagenes/" + nombre, "x");
     P().imagenes[ruta] = Mapa(ancho, alto, color);
     return ruta;
+}
+
+void PruebaBase::PonEstreno() {
+    for (const auto& f : fs::directory_iterator(CARPETA_ESTRENO))
+        fs::copy_file(f.path(), P().carpeta + f.path().filename().string());
+    for (const auto& [nombre, color] :
+         {std::pair{"Puerto.jpg", 0x4080C0U}, {"Peces.jpg", 0x2060A0U}})
+        PonImagen(nombre, 640, 480, color);
+    fs::create_directories(P().carpeta + "Archivo");
+    fs::copy_file(FICHERO_SURTIDO, P().carpeta + "Archivo/Modelos.tpu");
 }
 
 void PruebaBase::Pantalla800() {

@@ -153,6 +153,8 @@ protected:
     std::string Contenido(const std::string& nombre);  // all bytes; nothing when there is no file
     // A picture of one colour that the game finds in its folder of pictures and can load.
     std::string PonImagen(const std::string& nombre, i32 ancho, i32 alto, Pixel color = 0x0000FF);
+    // The first games with their pictures, and the supplied models, as a new player has them.
+    void PonEstreno();
     // The sizes that a screen of 800 x 600 without scroll bars gives the table and the strip.
     static void Pantalla800();
 

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <iterator>
 
-#include "apoyo/Datos.h"
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Cadenas.h"
 #include "core/Superficies.h"
@@ -36,12 +35,7 @@ class Estreno : public PruebaBase {
 protected:
     void SetUp() override {
         PruebaBase::SetUp();
-        for (const auto& f : fs::directory_iterator(CARPETA_ESTRENO))
-            fs::copy_file(f.path(), P().carpeta + f.path().filename().string());
-        PonImagen("Puerto.jpg", 640, 480, 0x4080C0);
-        PonImagen("Peces.jpg", 640, 480, 0x2060A0);
-        fs::create_directories(P().carpeta + "Archivo");
-        fs::copy_file(FICHERO_SURTIDO, P().carpeta + "Archivo/Modelos.tpu");
+        PonEstreno();
     }
     void Empieza(i16 juego) {
         std::string global = Contenido("TsR33.ini");

@@ -56,9 +56,7 @@ TEST_F(Resolucion, TheJigsawKeepsItsPiecesAndTheStripGoesToTheNewEdge) {
 }
 
 TEST_F(Resolucion, WhatLiesBeyondASmallerScreenComesIntoReach) {
-    P().ancho = 1600;
-    P().alto = 1200;
-    Mesa.Resize();
+    Pantalla(1600, 1200);
     Moviles(3, 330, 250);
     Pon(4, 1400, 1100);
     Pantalla(800, 600);
@@ -100,9 +98,7 @@ TEST_F(Resolucion, LoosePiecesBeyondAnyEdgeComeIntoReachAndOthersStay) {
 }
 
 TEST_F(Resolucion, TheLogLeadsToThePlaceToWhichAPieceWasBrought) {
-    P().ancho = 1600;
-    P().alto = 1200;
-    Mesa.Resize();
+    Pantalla(1600, 1200);
     Moviles(3, 330, 250);
     Pon(4, 420, 100);
     Pon(5, 30, 300);
@@ -127,9 +123,7 @@ TEST_F(Resolucion, TheLogLeadsToThePlaceToWhichAPieceWasBrought) {
 }
 
 TEST_F(Resolucion, ATableThatNoLongerFitsScrolls) {
-    P().ancho = 1600;
-    P().alto = 1200;
-    Mesa.Resize();
+    Pantalla(1600, 1200);
     Moviles(5, 1000, 700);
     ASSERT_FALSE(BarraHor.Visible);
     Pantalla(800, 600);

@@ -17,10 +17,8 @@ namespace tessario::ventana {
 
 namespace {
 
-void Responde(Display* d, const XSelectionRequestEvent& p, const std::string& tipo,
-              const std::string& bytes) {
-    const Atom tipos = XInternAtom(d, "TARGETS", False), dato = XInternAtom(d, tipo.c_str(), False);
-    const Atom propiedad = p.property ? p.property : p.target;
+// Tells who asked for the selection that the answer lies in a property; None: that there is none.
+void Avisa(Display* d, const XSelectionRequestEvent& p, Atom propiedad) {
     XEvent r{};
     r.xselection.type = SelectionNotify;
     r.xselection.requestor = p.requestor;
@@ -28,6 +26,14 @@ void Responde(Display* d, const XSelectionRequestEvent& p, const std::string& ti
     r.xselection.target = p.target;
     r.xselection.time = p.time;
     r.xselection.property = propiedad;
+    XSendEvent(d, p.requestor, False, NoEventMask, &r);
+    XFlush(d);
+}
+
+void Responde(Display* d, const XSelectionRequestEvent& p, const std::string& tipo,
+              const std::string& bytes) {
+    const Atom tipos = XInternAtom(d, "TARGETS", False), dato = XInternAtom(d, tipo.c_str(), False);
+    const Atom propiedad = p.property ? p.property : p.target;
     if (p.target == tipos) {
         const Atom lista[] = {tipos, dato};
         XChangeProperty(d, p.requestor, propiedad, XA_ATOM, 32, PropModeReplace,
@@ -36,11 +42,8 @@ void Responde(Display* d, const XSelectionRequestEvent& p, const std::string& ti
         XChangeProperty(d, p.requestor, propiedad, dato, 8, PropModeReplace,
                         reinterpret_cast<const unsigned char*>(bytes.data()),
                         static_cast<int>(bytes.size()));
-    } else {
-        r.xselection.property = None;
     }
-    XSendEvent(d, p.requestor, False, NoEventMask, &r);
-    XFlush(d);
+    Avisa(d, p, p.target == tipos || p.target == dato ? propiedad : None);
 }
 
 // --- Dragging, by the fifth version of the protocol that toolkits share.
@@ -189,15 +192,7 @@ void Oferta::Empieza(const XEvent& e) {
     const long largo = static_cast<long>(bytes_.size());
     XChangeProperty(d_, p.requestor, p.property, XInternAtom(d_, "INCR", False), 32,
                     PropModeReplace, reinterpret_cast<const unsigned char*>(&largo), 1);
-    XEvent r{};
-    r.xselection.type = SelectionNotify;
-    r.xselection.requestor = p.requestor;
-    r.xselection.selection = p.selection;
-    r.xselection.target = p.target;
-    r.xselection.time = p.time;
-    r.xselection.property = p.property;
-    XSendEvent(d_, p.requestor, False, NoEventMask, &r);
-    XFlush(d_);
+    Avisa(d_, p, p.property);
 }
 
 void Oferta::Sigue(Window quien, Atom propiedad) {
