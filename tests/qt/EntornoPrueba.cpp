@@ -18,6 +18,7 @@
 #include <QMimeData>
 #include <QUrl>
 #include <atomic>
+#include <chrono>
 #include <clocale>
 #include <filesystem>
 #include <fstream>
@@ -128,6 +129,8 @@ TEST_F(Entorno, APictureReplacedWhileItIsReadIsOneOrTheOtherOrNone) {
                     case 1:
                         Crea("nueva", b);
                         fs::rename(Ruta("nueva"), ruta);
+                        // Long enough that some reading meets it, however busy the machine is.
+                        std::this_thread::sleep_for(std::chrono::milliseconds(2));
                         break;
                     case 2:  // written over where it is
                         Crea("foto", b);

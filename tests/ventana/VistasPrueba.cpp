@@ -145,7 +145,8 @@ TEST(VistasVentana, QuickDoubleRightClicksTurnAndOpenNoPanel) {
         j.e.Aprieta(3);
         j.e.Suelta(3);
     }
-    j.e.EsperaQuieto();
+    // The second turn begins when the first one is done: on a busy machine there is a pause.
+    j.e.EsperaQuieto(1000);
     j.e.Mira().Guarda("vistas-doble");
     EXPECT_EQ(j.e.Mira().Cuenta(300, 560, 170, 70, 0xF4E9D2), 0) << "the panel's ground";
     ASSERT_TRUE(j.programa.Sale());
