@@ -214,6 +214,28 @@ TEST_F(VentanaEstadis, ButtonsSoundHelpAndCloseAndTheClockComesBack) {
     EXPECT_EQ(Mesa.MousePointer, PUNTERO_NORMAL);
 }
 
+TEST_F(VentanaEstadis, ButtonsStandBelowTheLinesWithinTheFrame) {
+    for (const bool modelo : {false, true}) {
+        modelo ? Tangram(MODO_RESOLVER) : Deslizantes(3);
+        En(Estadis, [&] {
+            const i32 bajoTexto = Tex_Estadis.Top + Tex_Estadis.Height();
+            EXPECT_EQ(Tex_Estadis.Left + Tex_Estadis.Width() / 2, Estadis.Width() / 2);
+            EXPECT_GT(Tex_Estadis.Top, 20) << "the title stands above";
+            for (const Cuadro* b : {&Pic_BotAyudaEstadis, &Pic_BotSalirEstadis}) {
+                EXPECT_EQ(b->Width(), 48);
+                EXPECT_EQ(b->Height(), 48);
+                EXPECT_GT(b->Top, bajoTexto);
+                EXPECT_EQ(b->Top + 48 + 17, Estadis.Height());
+            }
+            EXPECT_EQ(Pic_BotSalirEstadis.Left + 48, Tex_Estadis.Left + Tex_Estadis.Width());
+            EXPECT_LT(Pic_BotAyudaEstadis.Left + 48, Pic_BotSalirEstadis.Left);
+            EXPECT_EQ(Estadis.Top, (Gbl.AltoPantalla - Estadis.Height()) / 2);
+            const i32 nombreAba = Tex_NombreJugador.Top + Tex_NombreJugador.Height();
+            EXPECT_LT(nombreAba, Tex_Estadis.Height());
+        });
+    }
+}
+
 TEST_F(VentanaEstadis, DurationsAreTimesOfDayWithoutWholeDays) {
     EXPECT_EQ(TextoDuracion(0), "0:00:00");
     EXPECT_EQ(TextoDuracion(59.6), "0:01:00");

@@ -3,6 +3,7 @@
 #include <chrono>
 
 #include "apoyo/VentanaMontada.h"
+#include "records/Archivo.h"
 #include "records/Historial.h"
 #include "windows/Historic.h"
 #include "windows/HistoricBarras.h"
@@ -421,6 +422,46 @@ TEST_F(VentanaHistoric, SizeLabelGoesByTheZoomInForceNow) {
         EXPECT_EQ(Valor(Tex_Historic, "Ampliación del tamaño:"), "150%");
         EXPECT_EQ(Valor(Tex_Historic, "Tamaño reducido......:"), "510 x 380 píxeles");
     });
+}
+
+TEST_F(VentanaHistoric, SizeOfARecordAtFullSizeIsNotToldWhateverTheZoomInForce) {
+    Archiva({{.zoom = 100}, {.zoom = 101}, {.zoom = 99}});
+    Gbl.ZoomImagen = 150;
+    En(Historic, [&] {
+        EXPECT_EQ(Valor(Tex_Historic, "Zoom aplicado"), "Ninguno");
+        EXPECT_EQ(Valor(Tex_Historic, "Tamaño ampliado"), "(none)");
+        P().textos.clear();
+        Viaja(3);
+        EXPECT_EQ(Valor(Tex_Historic, "Zoom aplicado"), "(none)");
+        EXPECT_EQ(Valor(Tex_Historic, "Ampliación del tamaño:"), "101%");
+        P().textos.clear();
+        Viaja(3);
+        EXPECT_EQ(Valor(Tex_Historic, "Reducción del tamaño.:"), "99%");
+    });
+}
+
+// Such a zoom only a damaged line brings.
+TEST_F(VentanaHistoric, ZoomIsAMatterOfTheJigsawAlone) {
+    for (const i16 juego : {JuegoDeslizantes, JuegoTangram}) {
+        BorraFichero(FicheroHistorico());
+        Gbl.JuegoActual = juego;
+        Archiva({{.juego = juego, .fondo = 1, .total = 24, .zoom = 80},
+                 {.juego = juego, .fondo = 1, .total = 24, .zoom = 150},
+                 {.juego = juego, .fondo = 1, .total = 24, .zoom = 100}});
+        En(Historic, [&] {
+            for (i32 registro = 1; registro <= 3; ++registro) {
+                for (const bool ampliado : {false, true}) {
+                    Gbl.ZoomImagen = ampliado ? 150 : 100;
+                    P().textos.clear();
+                    MuestraRegistro();
+                    for (const char* etiqueta :
+                         {"Zoom", "Reducción", "Ampliación", "Tamaño reducido", "Tamaño ampliado"})
+                        EXPECT_EQ(Valor(Tex_Historic, etiqueta), "(none)") << registro;
+                }
+                Viaja(3);
+            }
+        });
+    }
 }
 
 TEST_F(VentanaHistoric, LongFolderIsCutAndTheClipboardHasNone) {
