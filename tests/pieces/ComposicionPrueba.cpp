@@ -50,9 +50,14 @@ TEST_F(Composicion, APaintedPieceBlendsWithWhatLiesBelow) {
     Coloca(1, 400, 300);
     PreparaPieza(1);
     PintaPieza(Pic_Imagen, 1);
-    // Outside the circle the table stays as it was.
-    EXPECT_EQ(Pic_Imagen.Fila(300)[400], antes.Fila(300)[400]);
-    EXPECT_EQ(Pic_Imagen.Fila(340)[453], PixelDeMuestra(53, 40));
+    // Outside the circle the table stays as it was, inside is the picture.
+    EXPECT_FALSE(Negro(0, 0));
+    EXPECT_TRUE(Negro(53, 40));
+    for (i32 y = 0; y < 80; ++y)
+        for (i32 x = 0; x < 106; ++x)
+            ASSERT_EQ(Pic_Imagen.Fila(300 + y)[400 + x],
+                      Negro(x, y) ? PixelDeMuestra(x, y) : antes.Fila(300 + y)[400 + x])
+                << x << ' ' << y;
 }
 
 TEST_F(Composicion, RemovingTheBottomPieceLeavesThePileAsItWasWithoutIt) {
@@ -102,6 +107,34 @@ TEST_F(Composicion, ATakenPieceStaysVisibleAndLeavesTheTable) {
     EXPECT_EQ(Gbl.XRaton, 360);
     EXPECT_EQ(Gbl.YRaton, 260);
     EXPECT_TRUE(Gbl.ArrastrandoPieza);
+}
+
+TEST_F(Composicion, APieceTakenFromBelowIsSeenAboveTheOthersAtOnce) {
+    Nueve();
+    Coloca(1, 350, 250);
+    Coloca(2, 380, 270);
+    PintaTodo();
+    ASSERT_EQ(Pic_Trabajo.Fila(280)[400], PixelDeMuestra(50, 30)) << "the first piece lies above";
+    SubePieza(2);
+    TomaPieza(390, 280, 2);
+    EXPECT_EQ(Pic_Trabajo.Fila(280)[400], PixelDeMuestra(120, 10));
+    EXPECT_EQ(Pic_Trabajo.Fila(260)[360], PixelDeMuestra(10, 10));
+    EXPECT_EQ(Pic_Imagen.Fila(280)[400], PixelDeMuestra(50, 30));
+}
+
+TEST_F(Composicion, EachStepOfADragCountsFromTheLastOne) {
+    Nueve();
+    Coloca(1, 350, 250);
+    PintaTodo();
+    TomaPieza(360, 260, 1);
+    MuevePieza(365, 257, 1);
+    MuevePieza(370, 270, 1);
+    EXPECT_EQ(Gbl.Piezas[1].X, 360);
+    EXPECT_EQ(Gbl.Piezas[1].Y, 260);
+    EXPECT_EQ(Gbl.XRaton, 370);
+    EXPECT_EQ(Gbl.YRaton, 270);
+    EXPECT_EQ(Gbl.XViejo, 355);
+    EXPECT_EQ(Gbl.YViejo, 247);
 }
 
 TEST_F(Composicion, ADragOfOnePixelRestoresAStripOfOnePixel) {
@@ -163,6 +196,11 @@ TEST_F(Composicion, ASlideOf20PixelsTakesTwoSteps) {
     P().alDormir = [&] { pasos.push_back(Gbl.Piezas[1].X); };
     DeslizaPieza(350, 250, 330, 250, 1);
     EXPECT_EQ(pasos, (std::vector<i16>{336, 330}));
+    pasos.clear();
+    const double antes = P().reloj;
+    DeslizaPieza(330, 250, 315, 250, 1);
+    EXPECT_EQ(pasos, (std::vector<i16>{316, 315})) << "one pixel more than a step";
+    EXPECT_NEAR(P().reloj - antes, 2 * 6, 0.01);
 }
 
 TEST_F(Composicion, PaintShowsTheWholeTableAlsoWhenItCopiesAPart) {

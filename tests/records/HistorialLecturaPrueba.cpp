@@ -125,6 +125,38 @@ TEST_F(LecturaHistorial, DamagedLinesLoseNothingOfTheOthers) {
     EXPECT_EQ(R(5).Segundos, 3723) << "the last line has no end";
 }
 
+TEST_F(LecturaHistorial, ShortLineTakesNothingFromTheForeignOneBeforeIt) {
+    const std::string otro =
+        "\"f\",\"h\",22,\"x\",\"y\",\"z\",1,2,3,4,5,4,1,6,15,7,8,50,9,20,2,3,\"B\"\r\n";
+    EXPECT_EQ(Lee(otro + "\"dc\",\"h\",21,\"a\"\r\n"), 0);
+    ASSERT_EQ(Gbl.UltimoHistorico, 0);
+    EXPECT_EQ(R(0).Fichero, "a");
+    EXPECT_EQ(R(0).Modelo, "");
+    for (const i16 n : {R(0).AnchoOriginal, R(0).Zoom, R(0).Lado, R(0).Forma, R(0).Total,
+                        R(0).Atraccion, R(0).Fondo, R(0).Reservado})
+        EXPECT_EQ(n, 0);
+    EXPECT_EQ(R(0).Nivel, 0);
+    EXPECT_EQ(R(0).Segundos, 0);
+}
+
+TEST_F(LecturaHistorial, NumbersBeyondTheirWidthAreNoneAndFractionsGoToTheNearest) {
+    RegistroHistorico r;
+    ASSERT_TRUE(
+        LeeLineaHistorico("\"d\",\"h\",21,\"a\" junk,\"b\",\"m\",-32768,-32769,32768,6.5,7.6,"
+                          "-0.6,1,0,9,5,6,12,-3000000000,20,1,0,\"J\"",
+                          r));
+    EXPECT_EQ(r.Fichero, "a");
+    EXPECT_EQ(r.Ubicacion, "b");
+    EXPECT_EQ(r.AnchoOriginal, -32768);
+    EXPECT_EQ(r.AltoOriginal, 0);
+    EXPECT_EQ(r.Zoom, 0);
+    EXPECT_EQ(r.AnchoFinal, 6) << "halves to even";
+    EXPECT_EQ(r.AltoFinal, 8);
+    EXPECT_EQ(r.Lado, -1);
+    EXPECT_EQ(r.Segundos, 0);
+    EXPECT_EQ(r.Jugador, "J        ");
+}
+
 TEST_F(LecturaHistorial, LineWithoutAGameIsNoRecord) {
     RegistroHistorico r;
     for (const char* linea : {"", "\"d\",\"h\"", "\"d\",\"h\",x,\"a\"", "\"d\",\"h\",99999"})

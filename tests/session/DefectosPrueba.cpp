@@ -121,6 +121,22 @@ TEST_F(Defectos, JigsawOfEachShapeComesBackInItsPieces) {
     }
 }
 
+TEST_F(Defectos, CountOfThreeDigitsTouchesNoneOfItsNeighbours) {
+    Moviles(5, 640, 480, 3);
+    Gbl.SegundosJuego = 98765432;
+    const std::string bytes = EscribePuzzle();
+    ASSERT_NE(bytes.find("0050310098765432"), std::string::npos);
+    Moviles(3, 300, 300);
+    BorraError();
+    Gbl.SoloLeerAjustes = true;
+    LeePuzzle(bytes);
+    EXPECT_EQ(ErrorPendiente(), 0);
+    EXPECT_EQ(Gbl.PiezasPorLado, 5);
+    EXPECT_EQ(Gbl.FormaPiezas, 3);
+    EXPECT_EQ(Gbl.NumPiezas, 100);
+    EXPECT_EQ(Gbl.SegundosJuego, 98765432);
+}
+
 TEST_F(Defectos, PictureOfTheBoardLiesBehindItsMargins) {
     PonImagen("f.bmp", 400, 300);
     P().imagenes[RutaDe("Imagenes/f.bmp")] = *ImagenDeMuestra(400, 300);
@@ -144,6 +160,42 @@ TEST_F(Defectos, PictureOfTheBoardLiesBehindItsMargins) {
     EXPECT_EQ(Pic_FonTamModi.Fila(my + 449)[mx + 599], PixelDeMuestra(399, 299));
     EXPECT_EQ(Pic_FonTamModi.Fila(my + 150)[mx + 300], PixelDeMuestra(200, 100));
     EXPECT_EQ(Pic_FonTamModi.Fila(my - 1)[mx - 1], 0xFFFFFFU) << "the margins are empty";
+}
+
+TEST_F(Defectos, WithoutAFileThePictureIsEmptyWhateverLayThereBefore) {
+    Moviles(3, 360, 270);
+    Gbl.RutaImagen = " ";
+    const std::string bytes = EscribePuzzle();
+    for (Superficie* s : {&Pic_FonTamReal, &Pic_FonTamModi}) {
+        s->Tamano(360, 270);
+        s->PonPicture(ImagenDeMuestra(360, 270));
+    }
+    LeePuzzle(bytes);
+    EXPECT_EQ(ErrorPendiente(), 0);
+    ASSERT_EQ(Pic_FonTamModi.Width(), 360);
+    for (const Pixel p : Pic_FonTamModi.Dibujo().Pixeles) ASSERT_EQ(p, 0xFFFFFFU);
+    Tangram(MODO_CREAR);
+    const std::string figura = EscribePuzzle();
+    Pic_FonTamModi.PonPicture(ImagenDeMuestra(360, 270));
+    LeePuzzle(figura);
+    for (const Pixel p : Pic_FonTamModi.Dibujo().Pixeles) ASSERT_EQ(p, 0xFFFFFFU);
+}
+
+TEST_F(Defectos, LoadedPuzzleIsSeenBeingLaidTheTangramIsNot) {
+    const auto muestras = [&] {
+        Gbl.RutaImagen = " ";
+        const std::string bytes = EscribePuzzle();
+        P().presentaciones = 0;
+        LeePuzzle(bytes);
+        EXPECT_EQ(ErrorPendiente(), 0);
+        return P().presentaciones;
+    };
+    Moviles(4, 360, 270);
+    EXPECT_GE(muestras(), 16);
+    Deslizantes(4);
+    EXPECT_GE(muestras(), 15);
+    Tangram(MODO_CREAR);
+    EXPECT_LT(muestras(), 7);
 }
 
 TEST_F(Defectos, FirstMoveAfterALoadGrowsTheLogByAHundred) {

@@ -418,6 +418,7 @@ TEST_F(VentanaCargua, TheTangramKeepsTheNameOfItsModel) {
         Aprieta(Pic_BotGuardar);
     });
     EXPECT_TRUE(Hay("a medias.puz"));
+    EXPECT_FALSE(Hay("Modelos.tpu"));
     EXPECT_EQ(Gbl.NombrePuzzle, "Pez");
 }
 
@@ -443,6 +444,19 @@ TEST_F(VentanaCargua, DeletingTheLastFileLeavesAnEmptyListAndBox) {
         EXPECT_TRUE(Cargua.Abierta);
     });
     EXPECT_TRUE(fs::is_empty(Gbl.CarpetaArchivo));
+}
+
+TEST_F(VentanaCargua, DeleteButtonIsActiveOnlyForAFileThatIsThere) {
+    Crea("Archivo/Uno.puz", "");
+    Abre(3, [&] {
+        EXPECT_FALSE(Activo(Pic_BotBorrar));
+        Escribe("uno");
+        EXPECT_TRUE(Activo(Pic_BotBorrar));
+        for (const char* sinFichero : {"un", "unos", "", "  "}) {
+            Escribe(sinFichero);
+            EXPECT_FALSE(Activo(Pic_BotBorrar)) << sinFichero;
+        }
+    });
 }
 
 TEST_F(VentanaCargua, NeitherEnterNorADoubleClickDeletes) {
@@ -479,6 +493,11 @@ TEST_F(VentanaCargua, ModelIsSavedFromTheTable) {
         Escribe("Una figura de nombre muy largo");
         Intro();
         EXPECT_FALSE(Cargua.Abierta);
+    });
+    EXPECT_EQ(Contenido("Archivo/Modelos.tpu").size(), 2U * 126U);
+    Abre(4, [&] {
+        DobleClic(0);
+        EXPECT_TRUE(Cargua.Abierta) << "a double click only takes the name";
     });
     EXPECT_EQ(Contenido("Archivo/Modelos.tpu").size(), 2U * 126U);
 }
