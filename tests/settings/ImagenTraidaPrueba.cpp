@@ -59,7 +59,22 @@ TEST_F(ImagenVentana, TheClipboardsPictureBecomesAFileAndIsChosen) {
         Gbl.VelocidadJuego = 100;
         P().sonidos.clear();
         P().dormido = 0;
+        // The tile's upper left pixel tells which of the two it is.
+        const auto fila = [] { return PixelDe(Pic_BotPortapapeles.Point(0, 0)) & 0xFFU; };
+        EXPECT_EQ(fila(), 30U);
+        P().anotaTextos = true;
+        bool apretado = false;
+        P().alDormir = [&] { apretado = fila() == 54U; };
         Pulsa(Pic_BotPortapapeles);
+        P().alDormir = nullptr;
+        P().anotaTextos = false;
+        EXPECT_TRUE(apretado);
+        EXPECT_EQ(fila(), 30U);
+        std::vector<Punto> rotulos;  // the white printing of each caption
+        for (const auto& t : P().textos)
+            if (t.donde == &Pic_BotPortapapeles && t.color == 0xFFFFFFU)
+                rotulos.push_back({t.x, t.y});
+        EXPECT_EQ(rotulos, (std::vector<Punto>{{9, 5}, {9, 4}}));
         EXPECT_EQ(P().dormido, 200);  // as at speed 50
         EXPECT_EQ(Gbl.VelocidadJuego, 100);
         EXPECT_EQ(Sonidos(), (std::vector<int>{6, 6, 7}));

@@ -26,17 +26,33 @@ protected:
             P().alDormir = [&] {
                 if (!pasos.empty()) pasos.back().pausa = P().dormido - antes;
                 antes = P().dormido;
+                EXPECT_EQ(FilaDelBoton(), 54U) << "pressed until the end";
                 pasos.push_back(
                     {{Pic_PruebaPeq.Left, Pic_PruebaPeq.Top}, Pic_PruebaPeq.Visible, 0});
             };
             P().sonidos.clear();
+            P().textos.clear();
+            P().anotaTextos = true;
+            EXPECT_EQ(FilaDelBoton(), 30U);
+            EXPECT_EQ((Punto{Pic_PruebaPeq.Left, Pic_PruebaPeq.Top}), (Punto{53, 45}));
             Pulsa(Pic_BotPrueba);
+            P().anotaTextos = false;
+            EXPECT_EQ(FilaDelBoton(), 30U);
             P().alDormir = nullptr;
             if (!pasos.empty()) pasos.back().pausa = P().dormido - antes;
             sonidos_ = Sonidos();
             Gbl.VelocidadJuego = 100;
         });
         return pasos;
+    }
+    // Row of the tiles' picture from which the button is painted.
+    static Pixel FilaDelBoton() { return PixelDe(Pic_BotPrueba.Point(0, 0)) & 0xFFU; }
+    // Where the button's caption was printed in white in the last run.
+    std::vector<Punto> Rotulos() {
+        std::vector<Punto> lugares;
+        for (const auto& t : P().textos)
+            if (t.donde == &Pic_BotPrueba && t.color == 0xFFFFFFU) lugares.push_back({t.x, t.y});
+        return lugares;
     }
     std::vector<int> sonidos_;
 };
@@ -64,6 +80,7 @@ TEST_F(PruebaAtraccion, TheFactorSplitsTheWayIntoHandAndFlight) {
         EXPECT_EQ(pasos.front().sitio, (Punto{54, 44})) << c.factor;
         EXPECT_EQ(pasos.back().sitio, (Punto{94, 4})) << c.factor;
         EXPECT_EQ(sonidos_, (std::vector<int>{6, 51, 7})) << c.factor;
+        EXPECT_EQ(Rotulos(), (std::vector<Punto>{{9, 5}, {9, 4}})) << c.factor;
     }
 }
 
@@ -102,6 +119,11 @@ TEST_F(PruebaAtraccion, TheTableInSmallHasTwelveCellsLessAHole) {
         EXPECT_EQ(tesela(95, 29), (Punto{102, 3}));
         EXPECT_EQ(Pic_PruebaPeq.Left, 53);
         EXPECT_EQ(Pic_PruebaPeq.Top, 45);
+        EXPECT_EQ(Pic_PruebaPeq.Width(), 29);
+        EXPECT_EQ(Pic_PruebaPeq.Height(), 23);
+        for (i32 y = 0; y < 23; ++y)
+            for (i32 x = 0; x < 29; ++x)
+                ASSERT_EQ(Pic_PruebaPeq.Point(x, y), Pic_Prueba.Point(5 + x, 5 + y)) << x;
     });
 }
 

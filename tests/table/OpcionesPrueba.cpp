@@ -3,7 +3,9 @@
 // does.
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Superficies.h"
+#include "panel/Cronometro.h"
 #include "table/Opciones.h"
+#include "table/VentanasOrdenes.h"
 
 namespace tessario {
 namespace {
@@ -68,11 +70,46 @@ TEST_F(PanelOpciones, OptionFourStandsBelowASeparatorAndStays) {
     MuestraOpcionesSelec();
     EXPECT_EQ(Pic_SelOpciones.Height(), 4 * 18 + 4);
     const i32 y = 3 * 18 + 4;
-    EXPECT_EQ(Pic_SelOpciones.Point(75, y - 3), GRIS);
-    EXPECT_EQ(Pic_SelOpciones.Point(75, y - 2), BLANCO);
+    for (i32 x = 2; x < 148; ++x) {  // from frame to frame
+        EXPECT_EQ(Pic_SelOpciones.Point(x, y - 3), GRIS) << x;
+        EXPECT_EQ(Pic_SelOpciones.Point(x, y - 2), BLANCO) << x;
+        EXPECT_NE(Pic_SelOpciones.Point(x, y - 4), GRIS) << x;
+    }
     Gbl.JuegoActual = JuegoDeslizantes;
     MuestraOpcionesSelec();
     EXPECT_EQ(Pic_SelOpciones.Height(), 4 * 18 + 4);
+}
+
+TEST_F(PanelOpciones, RowsAreThoseOfTheActiveOptionsOnly) {
+    Ventana cargua;
+    cargua.Nombre = "Cargua";
+    VentanasOrdenes.Cargua = &cargua;
+    Gbl.OpcionesActivas = {};
+    Gbl.OpcionesActivas[2] = Gbl.OpcionesActivas[4] = true;
+    MuestraOpcionesSelec();
+    EXPECT_EQ(Pic_SelOpciones.Height(), 2 * 18 + 4);
+    Elige(10);
+    EXPECT_EQ(Gbl.ModoCargua, 1) << "the first row loads";
+    MuestraOpcionesSelec();
+    Elige(30);
+    EXPECT_EQ(Gbl.ModoCargua, 4) << "the second keeps a model";
+    VentanasOrdenes = {};
+}
+
+TEST_F(PanelOpciones, ClockGoesOnWhateverStoppedItWhileTheWindowWasOpen) {
+    Ventana cargua;
+    cargua.Nombre = "Cargua";
+    VentanasOrdenes.Cargua = &cargua;
+    for (const bool marcha : {true, false}) {
+        Gbl.CronoEnMarcha = marcha;
+        P().ventanas["Cargua"] = [](Ventana&) {
+            DetieneCrono();  // as the settings do that a load can open
+            ReponeCrono();
+        };
+        Elige(30);
+        EXPECT_EQ(bool{Gbl.CronoEnMarcha}, marcha);
+    }
+    VentanasOrdenes = {};
 }
 
 TEST_F(PanelOpciones, NothingActiveShowsNothing) {
