@@ -44,6 +44,16 @@ TEST_F(VistaMuestra, RubberBoxStandsOnePixelOutsideAndIsErasedAtTheNextStep) {
     EXPECT_EQ(Pic_Trabajo.Point(300 + 160, 280 + 120), invertido);
     EXPECT_EQ(Pic_Trabajo.Point(300, 280), 0x203040U);
     EXPECT_EQ(Pic_Muestra.Left, 400) << "the sample itself waits for the release";
+    // That box, the one at the sample's own place, and nothing else.
+    const auto enMarco = [](i32 x, i32 y, i32 izq, i32 arr) {
+        const Rect fuera = RectDe(izq - 1, arr - 1, 162, 122), dentro = RectDe(izq, arr, 160, 120);
+        return fuera.Contiene(x, y) && !dentro.Contiene(x, y);
+    };
+    for (i32 y = 0; y < 600; ++y)
+        for (i32 x = 0; x < 800; ++x) {
+            const bool caja = enMarco(x, y, 300, 280) || enMarco(x, y, 400, 480);
+            ASSERT_EQ(Pic_Trabajo.Point(x, y), caja ? invertido : 0x203040U) << x << ", " << y;
+        }
     Lleva(-150, -200);
     EXPECT_EQ(Pic_Trabajo.Point(299 + 161, 300), 0x203040U);
     EXPECT_EQ(Pic_Trabajo.Point(249, 300), invertido);

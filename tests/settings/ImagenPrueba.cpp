@@ -186,6 +186,27 @@ TEST_F(ImagenVentana, ARecordOutOfLimitsOpensTheWindowOnItsPicture) {
     EXPECT_GE(Gbl.NumPiezas, 25);
 }
 
+TEST_F(ImagenVentana, ARecordOutOfLimitsBeginsAnewThoughNothingElseChanges) {
+    Gbl.ZoomImagen = 200;  // 1280 x 960
+    Gbl.SegundosJuego = 77;
+    ASSERT_EQ(GuardaPuzzle(FicheroDelJuego()), 0);
+    int visitas = 0;
+    P().ventanas["Personal"] = [&](Ventana&) {
+        ++visitas;
+        EXPECT_EQ(FicheroElegido(), "a.bmp");
+        Sal();
+        EXPECT_FALSE(Personal.Abierta);
+    };
+    LeeAjustesJuego(FicheroDelJuego());
+    EXPECT_EQ(visitas, 1);
+    ASSERT_EQ(P().avisos.size(), 1U);  // of the picture; no question, there is no puzzle to lose
+    EXPECT_EQ(Gbl.PiezasPorLado, 5);
+    EXPECT_EQ(Gbl.ZoomImagen, 100);
+    EXPECT_EQ(Gbl.SegundosJuego, 0);
+    EXPECT_TRUE(Gbl.PuzzleArchivable);
+    EXPECT_EQ(Pic_FonTamModi.Width(), 640);
+}
+
 // ---------------------------------------------------------------- limits and zoom
 
 TEST_F(ImagenVentana, ZoomAdaptsAPictureToTheLimits) {

@@ -2,6 +2,8 @@
 // Opening and leaving the settings window, in the three games.
 #include <algorithm>
 #include <filesystem>
+#include <functional>
+#include <string_view>
 
 #include "apoyo/PersonalMontada.h"
 #include "core/Avisos.h"
@@ -66,6 +68,7 @@ TEST_F(PersonalVentana, TheJigsawHasItsPanelsInTheirPlaces) {
         EXPECT_EQ(Bul(3).Top, 419);
         EXPECT_EQ(Sitio(Pic_Colorfon), RectDe(285, 457, 194, 85));
         EXPECT_EQ(Sitio(Pic_FactorPegado), RectDe(494, 76, 147, 188));
+        EXPECT_EQ(Sitio(Pot(2)), RectDe(8, 28, 115, 20));  // clear of the panel's title
         EXPECT_EQ(Sitio(Pic_BotAyuda), RectDe(499, 487, 48, 48));
         EXPECT_EQ(Sitio(Pic_BotSalir), RectDe(588, 487, 48, 48));
         EXPECT_EQ(Pot(1).Top, 388);
@@ -191,6 +194,40 @@ TEST_F(PersonalVentana, ColoursAreAppliedWithoutAQuestionOrAShuffle) {
     EXPECT_EQ(Piezas(), antes);
     EXPECT_EQ(Pic_Imagen.Point(790, 590), 0x00FF00U);
     EXPECT_FALSE(Gbl.ColoresCambiados) << "the next record that is read lays its pieces";
+}
+
+TEST_F(PersonalVentana, EachOfWhatIsOnlyRedrawnIsToldByItself) {
+    TangramDe({"Barco"});
+    const struct {
+        const char* que;
+        std::function<void()> cambia;
+        bool redibuja;
+    } casos[] = {
+        {"nothing", [] {}, false},
+        {"background, of the same contrast", [] { ColFon.Seleccion.KeyDown(39, 0); }, true},
+        {"background, of another contrast", [] { ColFon.Seleccion.MouseDown(1, 0, 2, 2); }, true},
+        {"pieces", [] { ColPza.Seleccion.KeyDown(40, 0); }, true},
+        {"border", [] { Bul(3).Pon(!Bul(3).Value); }, true},
+        {"factor", [] { Pot(2).Pon(static_cast<i16>(Pot(2).Value + 1)); }, true},
+        {"attraction", [] { Bul(4).Pon(!Bul(4).Value); }, false},
+        {"sound", [] { Bul(1).Pon(!Bul(1).Value); }, false},
+        {"hints", [] { Bul(5).Pon(!Bul(5).Value); }, false},
+        {"speed", [] { Pot(1).Pon(49); }, false},
+    };
+    for (const auto& c : casos) {
+        Visita([&] {
+            const Color contraste = Gbl.ColorContraste;
+            c.cambia();
+            if (std::string_view(c.que).ends_with("same contrast")) {
+                ASSERT_EQ(Gbl.ColorContraste, contraste);
+            }
+            Sal();
+            EXPECT_FALSE(Personal.Abierta) << c.que;
+            EXPECT_EQ(bool{Gbl.ColoresCambiados}, c.redibuja) << c.que;
+            EXPECT_FALSE(Gbl.ParametrosCambiados) << c.que;
+        });
+    }
+    NiPreguntaNiCopia();
 }
 
 TEST_F(PersonalVentana, AFinishedPuzzleStaysFinishedInItsNewColours) {

@@ -651,6 +651,23 @@ TEST_F(RatonMesa, DragToTheEdgeScrollsTheView) {
     Puntero.Suelta();
 }
 
+TEST_F(RatonMesa, TableWithoutBarsDoesNotScrollWhateverTheLastOneDid) {
+    Moviles(4, 640, 480);
+    ASSERT_TRUE(BarraVer.Visible);
+    ASSERT_GT(BarraVer.Max, 0);
+    Rompecabezas();
+    ASSERT_FALSE(BarraVer.Visible);
+    Pon(2, 400, 200);
+    Puntero.Mueve(450, 250);
+    Puntero.Aprieta();
+    for (const Punto p : {Punto{450, 595}, {795, 500}, {450, 0}, {0, 250}}) {
+        Puntero.Mueve(p.x, p.y);
+        EXPECT_EQ(BarraVer.Value, 0) << p.x << ", " << p.y;
+        EXPECT_EQ(BarraHor.Value, 0) << p.x << ", " << p.y;
+    }
+    Puntero.Suelta();
+}
+
 TEST_F(RatonMesa, WithoutAPieceInHandTheEdgeDoesNotScroll) {
     Moviles(4, 640, 480);
     for (int i = 0; i < 3; ++i) Puntero.Mueve(380, 582);
@@ -781,6 +798,20 @@ TEST_F(RatonMesa, ManualOrderingSendsAnyPieceAndFinishesNothing) {
     EXPECT_EQ(Gbl.PiezasColocadas, 8);
     EXPECT_TRUE(P().avisos.empty());
     EXPECT_FALSE(Gbl.PuzzleTerminado);
+}
+
+TEST_F(RatonMesa, PressBesideTheBoardInPlayDoesNothing) {
+    Deslizantes(3);
+    CambiaCrono(2);
+    Puntero.Mueve(5, 5);
+    ASSERT_EQ(Gbl.PiezaActual, 0);
+    Puntero.Aprieta();
+    Puntero.Suelta();
+    EXPECT_TRUE(P().avisos.empty());
+    EXPECT_TRUE(Sonidos().empty());
+    EXPECT_FALSE(Gbl.OrdenManual);
+    EXPECT_FALSE(Gbl.CronoEnMarcha);
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
 }
 
 TEST_F(RatonMesa, PressBesideTheBoardInManualOrderingActsAsItsButton) {
