@@ -492,6 +492,47 @@ TEST_F(Barajado, TangramColumnThatIsFullStartsAnotherToItsLeft) {
     EXPECT_EQ(Gbl.Piezas[5].Y, 20);
 }
 
+TEST_F(Barajado, TangramColumnTakesAPieceThatEndsExactlyAtTheFootOfTheScreen) {
+    Tangram(MODO_CREAR);  // the seventh stands from 534 to 578
+    for (const i16 alto : {i16{578}, i16{577}}) {
+        Gbl.AltoPantalla = alto;
+        Gbl.OrdenandoPiezas = true;
+        OrdenaLaterales();
+        EXPECT_EQ((Punto{Gbl.Piezas[7].X, Gbl.Piezas[7].Y}),
+                  alto == 578 ? (Punto{507, 534}) : (Punto{462 - 20 - 132, 20}));
+    }
+}
+
+TEST_F(Barajado, SecondPressEndsTheTangramsArrangementAfterTheCurrentPiece) {
+    Tangram(MODO_CREAR);
+    for (i16 i = 1; i <= 7; ++i) Gbl.Piezas[i].X = static_cast<i16>(Gbl.Piezas[i].X - 400);
+    const auto sitios = Sitios();
+    int pasos = 0;
+    P().alDejarPasar = [&] {
+        if (++pasos == 2) PulsaOrden(11);
+    };
+    PulsaOrden(11);
+    EXPECT_EQ(Gbl.NumMovimientos, 2);
+    for (i16 i = 3; i <= 7; ++i)
+        EXPECT_EQ(Sitios()[static_cast<std::size_t>(i - 1)],
+                  sitios[static_cast<std::size_t>(i - 1)])
+            << i;
+    EXPECT_FALSE(Gbl.OrdenandoPiezas);
+}
+
+TEST_F(Barajado, TangramPiecesInTheirPlaceStayThere) {
+    Tangram(MODO_CREAR);
+    Pieza& p = Gbl.Piezas[3];
+    p.X = p.XBien = 114;
+    p.Y = p.YBien = 300;
+    ColocaPiezas(1);
+    Gbl.OrdenandoPiezas = true;
+    OrdenaLaterales();
+    EXPECT_EQ((Punto{p.X, p.Y}), (Punto{114, 300}));
+    EXPECT_EQ(Gbl.NumMovimientos, 6);
+    EXPECT_EQ(Gbl.Piezas[4].Y, 238) << "the next one takes its place in the column";
+}
+
 // ---------------------------------------------------------------- triangles
 TEST_F(Barajado, TriangleReportsTheHalfOfItsBoxThatItFills) {
     Moviles(3, 300, 300, 3);  // cells of 99 x 100

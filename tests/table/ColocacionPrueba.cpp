@@ -176,7 +176,9 @@ TEST_F(Colocacion, SolvingPutsEveryPieceHomeTurnedAndLogged) {
     Gbl.PuzzleArchivable = true;
     Gbl.ResolviendoPuzzle = true;
     PintaTodo();
+    P().alDejarPasar = [] { EXPECT_TRUE(Gbl.TareaAutomatica) << "the pointer's hourglass"; };
     ResuelvePuzzle();
+    P().alDejarPasar = nullptr;
     EXPECT_EQ(CuentaColocadas(), 9);
     EXPECT_TRUE(Gbl.PuzzleTerminado);
     EXPECT_FALSE(Gbl.PuzzleArchivable);

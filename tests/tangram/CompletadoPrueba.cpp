@@ -115,6 +115,25 @@ TEST_F(Completado, RhomboidSnapsHalfATurnOffButNeverOnTheWrongFace) {
     EXPECT_EQ(Gbl.Piezas[7].Giro, 2);
 }
 
+TEST_F(Completado, PieceTakesTheFaceOfItsPlaceToo) {
+    Gbl.Piezas[4].VolteoBien = 1;  // no matter for a triangle
+    EXPECT_TRUE(Cae(4, 2, 2, 1));
+    EXPECT_EQ(Gbl.Piezas[4].Volteo, 1);
+}
+
+TEST_F(Completado, SnappedPieceLeavesNothingWhereItFell) {
+    Gbl.FactorAtraccion = 100;
+    const auto sin = [](const Superficie& s) { return s.Point(20 + 70 + 44, 350 + 44); };
+    const Color suelo = sin(Pic_Fondo);
+    ASSERT_NE(suelo, Gbl.ColorPiezas);
+    PonPieza(6, 20 + 70, 350, 1);
+    Suelta(6);
+    ASSERT_EQ(sin(Pic_Imagen), Gbl.ColorPiezas) << "the push apart lays it where it fell";
+    EXPECT_TRUE(AtraeASuSitio());
+    EXPECT_EQ(sin(Pic_Imagen), suelo);
+    EXPECT_EQ(sin(Pic_Trabajo), suelo);
+}
+
 TEST_F(Completado, BigTriangleOnItsTwinsPlaceSnapsAndTheExchangeStays) {
     EXPECT_EQ(CuentaColocadas(), 0);
     EXPECT_TRUE(CaeEn(1, 203, 18, 3));  // the place of piece 2
