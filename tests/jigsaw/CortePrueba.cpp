@@ -85,7 +85,9 @@ TEST_F(Corte, OverhangIsCrossedBetweenWidthAndHeight) {
     EXPECT_EQ(Gbl.SalienteY, 20);  // 20.5, halves to even
     Monta(0, 4, 400, 300);
     EXPECT_EQ(Gbl.SalienteX, 0);
+    EXPECT_EQ(Gbl.SalienteY, 0);
     EXPECT_EQ(Gbl.AnchoPieza, 100);
+    EXPECT_EQ(Gbl.AltoPieza, 75);
 }
 
 TEST_F(Corte, AnEvenCurvedCellIsHollowAboveAndBulgesAtItsSides) {

@@ -8,6 +8,7 @@
 #include "apoyo/PlataformaPrueba.h"
 #include "core/Errores.h"
 #include "core/Superficies.h"
+#include "panel/Colocadas.h"
 #include "records/Texto.h"
 #include "rules/Colores.h"
 #include "rules/Despacho.h"
@@ -413,6 +414,20 @@ TEST_F(Registros, UnsolvableBoardIsToldAndReshuffled) {
     P().avisos.clear();
     Relee();  // what came out can be solved
     EXPECT_TRUE(P().avisos.empty());
+}
+
+TEST_F(Registros, ReshuffledBoardIsLaidAnewUnlessColoursChange) {
+    Tablero(4);
+    std::swap(Gbl.Piezas[1].X, Gbl.Piezas[2].X);
+    Relee();
+    const Mapa visto = Pic_Trabajo.Dibujo();
+    ColocaPiezas(1);
+    EXPECT_EQ(visto.Pixeles, Pic_Trabajo.Dibujo().Pixeles);
+    Tablero(4);
+    std::swap(Gbl.Piezas[1].X, Gbl.Piezas[2].X);
+    Gbl.ColoresCambiados = true;
+    Relee();
+    EXPECT_EQ(Pic_Trabajo.Point(Gbl.Piezas[1].X + 8, Gbl.Piezas[1].Y + 8), Gbl.ColorFondo);
 }
 
 TEST_F(Registros, BoardWithTwoPiecesOnOneCellIsReshuffledAndDoesNotHang) {

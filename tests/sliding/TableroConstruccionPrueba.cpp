@@ -138,6 +138,25 @@ TEST_F(Construccion, BarsLeaveTheTableAndTheSampleIsHiddenWithoutAPicture) {
     EXPECT_EQ(BarraVer.Value, 0);
 }
 
+TEST_F(Construccion, NothingStaysOfTheGameBefore) {
+    Monta(4, FONDO_NUMEROS);
+    Superficie cuadro(300, 200);
+    cuadro.PonBackColor(0x123456);
+    for (Superficie* s : std::initializer_list<Superficie*>{&Pic_Bitmap, &Pic_Imagen, &Pic_Fondo})
+        s->PonPicture(cuadro.Image());
+    Gbl.SalienteX = Gbl.SalienteY = 9;
+    Gbl.PasoOrdenar = Gbl.AnchoPieza = Gbl.AltoPieza = 125;
+    CreaDeslizantes(1);
+    EXPECT_EQ(Pic_Bitmap.Point(20, 20), PIEZAS);
+    for (const Superficie* s : std::initializer_list<const Superficie*>{&Pic_Imagen, &Pic_Fondo})
+        EXPECT_EQ(s->Point(20, 20), FONDO);
+    EXPECT_EQ(Gbl.SalienteX, 0);
+    EXPECT_EQ(Gbl.SalienteY, 0);
+    EXPECT_EQ(Gbl.PasoOrdenar, 89);
+    EXPECT_EQ(Gbl.AnchoPieza, 89);
+    EXPECT_EQ(Gbl.AltoPieza, 89);
+}
+
 // ---------------------------------------------------------------- labels
 
 TEST_F(Construccion, FontIsTheFirstWhoseTwoDigitsPassFourFifthsOfTheCell) {
@@ -145,6 +164,15 @@ TEST_F(Construccion, FontIsTheFirstWhoseTwoDigitsPassFourFifthsOfTheCell) {
     // size, cut: 19 pixels at 37, 20 at 38.
     Monta(9, FONDO_NUMEROS);
     EXPECT_EQ(Pic_Bitmap.Font.Tamano, 38);
+}
+
+TEST_F(Construccion, FontWhoseTwoDigitsAreJustFourFifthsOfTheCellIsNotYetTheOne) {
+    // Cells of 50: 40 pixels, which the font of 38 has exactly; the one of 39 has 42.
+    Gbl.TipoFondo = FONDO_NUMEROS;
+    PreparaTablero(9);
+    Gbl.AnchoCelda = Gbl.AltoCelda = 50;
+    PintaFondoCaras();
+    EXPECT_EQ(Pic_Bitmap.Font.Tamano, 39);
 }
 
 TEST_F(Construccion, FontStopsAtFiftyOnLargeCells) {

@@ -38,6 +38,7 @@ protected:
 };
 
 TEST_F(Completado, TwinsExchangeTheirPlaces) {
+    Gbl.Piezas[2].YBien = 90;
     const Pieza una = Gbl.Piezas[1], otra = Gbl.Piezas[2];
     TCambiaGemela(2);
     EXPECT_EQ(Gbl.Piezas[1].XBien, otra.XBien);

@@ -5,6 +5,7 @@
 #include "apoyo/Datos.h"
 #include "apoyo/MesaTangram.h"
 #include "core/Superficies.h"
+#include "rules/Colores.h"
 #include "tangram/Figuras.h"
 
 namespace tessario {
@@ -183,6 +184,64 @@ TEST_F(Figuras, WhenSolvingTheGroundShowsTheFigureFilled) {
     // The places stay those of the model.
     EXPECT_EQ(Gbl.Piezas[6].XBien, 144);
     EXPECT_EQ(Gbl.Piezas[2].GiroBien, 3);
+}
+
+TEST_F(Figuras, NothingStaysOfThePictureAndTheViewsOfTheGameBefore) {
+    AbreTangram(MODO_CREAR);
+    Superficie cuadro(300, 200);
+    cuadro.PonBackColor(0x123456);
+    for (const i16 modo : {MODO_CREAR, MODO_RESOLVER}) {
+        for (Superficie* s : std::initializer_list<Superficie*>{&Pic_Bitmap, &Pic_Imagen})
+            s->PonPicture(cuadro.Image());
+        BarraHor.Visible = BarraVer.Visible = Pic_Cuadrito.Visible = Pic_Muestra.Visible = true;
+        BarraHor.Value = BarraVer.Value = 30;
+        Gbl.SalienteX = Gbl.SalienteY = 9;
+        Gbl.OrdenPiezas.Redimensiona(25);
+        Gbl.ModoJuego = modo;
+        PonFiguraSencilla();
+        PreparaJuego(true);
+        EXPECT_EQ(Pic_Bitmap.Point(150, 100), Gbl.ColorPiezas);
+        for (const Superficie* s :
+             std::initializer_list<const Superficie*>{&Pic_Imagen, &Pic_Fondo})
+            EXPECT_EQ(s->Point(290, 190), Gbl.ColorFondo);
+        for (const Control* c : std::initializer_list<const Control*>{&BarraHor, &BarraVer,
+                                                                      &Pic_Cuadrito, &Pic_Muestra})
+            EXPECT_FALSE(c->Visible);
+        EXPECT_EQ(BarraHor.Value, 0);
+        EXPECT_EQ(BarraVer.Value, 0);
+        EXPECT_EQ(Gbl.SalienteX, 0);
+        EXPECT_EQ(Gbl.SalienteY, 0);
+        EXPECT_TRUE(modo == MODO_RESOLVER || Gbl.OrdenPiezas.Superior() == PIEZAS_TANGRAM);
+    }
+}
+
+TEST_F(Figuras, BordersOfThePiecesHaveTheContrastOfTheTableAsItIsNow) {
+    AbreTangram(MODO_CREAR);
+    Gbl.DibujarBorde = true;
+    for (const Color fondo : {Color{0x000080}, Color{0xC0FFFF}}) {
+        Gbl.ColorFondo = fondo;
+        CalculaColores();
+        PreparaJuego(true);
+        const Pieza& cuadrado = Gbl.Piezas[6];
+        EXPECT_EQ(Pic_Trabajo.Point(cuadrado.X, cuadrado.Y + 30), Gbl.ColorContraste);
+        EXPECT_EQ(Pic_Trabajo.Point(cuadrado.X + 30, cuadrado.Y + 30), Gbl.ColorPiezas);
+    }
+}
+
+TEST_F(Figuras, CreatingAfterAModelShowsNoFigureAndForgetsItsPlaces) {
+    AbreTangram(MODO_CREAR);
+    Gbl.ModoJuego = MODO_RESOLVER;
+    PonFiguraSencilla();
+    PreparaJuego(true);
+    ASSERT_EQ(Pic_Fondo.Point(60, 60), Gbl.ColorContraste);
+    Gbl.ModoJuego = MODO_CREAR;
+    PreparaJuego(true);
+    EXPECT_EQ(Pic_Fondo.Point(60, 60), Gbl.ColorFondo);
+    EXPECT_EQ(Pic_Imagen.Point(60, 60), Gbl.ColorFondo);
+    for (i16 i = 1; i <= PIEZAS_TANGRAM; ++i) {
+        const Pieza& p = Gbl.Piezas[i];
+        EXPECT_EQ(p.XBien + p.YBien + p.GiroBien + p.VolteoBien, 0) << i;
+    }
 }
 
 TEST_F(Figuras, RebuiltTableKeepsThePiecesWhereTheyAre) {
