@@ -113,6 +113,20 @@ TEST_F(Reglas, PieceNumberOutsideTheTableIsAnIndexError) {
 
 // ---------------------------------------------------------------- random numbers
 
+TEST_F(Reglas, DifficultyIsBoundedAtExactlyNothingAndAHundred) {
+    const struct {
+        double (*valor)();
+        float esperada;
+    } casos[] = {{[] { return 0.0; }, 0.1F},
+                 {[] { return 0.05; }, 0.05F},
+                 {[] { return 99.95; }, 99.95F},
+                 {[] { return 100.0; }, 99.9F}};
+    for (const auto& c : casos) {
+        AnotaDificultad(c.valor);
+        EXPECT_EQ(Gbl.Dificultad, c.esperada);
+    }
+}
+
 TEST_F(Reglas, RandomNumbersStayBelowOneAndFillTheirRangeEvenly) {
     Randomize(43200.25);
     std::array<int, 16> cajas{};

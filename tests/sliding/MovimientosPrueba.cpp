@@ -15,6 +15,7 @@
 #include "panel/Grabadora.h"
 #include "pieces/Composicion.h"
 #include "rules/Catalogo.h"
+#include "rules/Juego.h"
 #include "rules/PuzzBas.h"
 #include "sliding/Movimientos.h"
 #include "table/Ordenes.h"
@@ -211,6 +212,20 @@ TEST_F(Movimientos, RecorderPutsTheHoleWhereTheMoveStartedOrEnded) {
     EXPECT_EQ(CeldasDelTablero(), (std::vector<i16>{1, 2, 3, 4, 5, 0, 6, 7, 8}));
     EXPECT_EQ(Gbl.HuecoX, m.XAntes);
     EXPECT_EQ(Gbl.HuecoY, m.YAntes);
+}
+
+TEST_F(Movimientos, LogOfAPieceThatWentToAndFroHoldsTogetherAndABrokenOneDoesNot) {
+    MesaCon(3, CENTRADO);
+    for (const i16 pieza : {i16{5}, i16{5}, i16{7}, i16{7}}) Pincha(pieza);  // level, then upright
+    ASSERT_EQ(Gbl.NumMovimientos, 4);
+    EXPECT_TRUE(JuegoEnCurso().DiarioPosible());
+    for (i32 m = 1; m <= 4; ++m)
+        for (i16 Movimiento::*lugar : {&Movimiento::XAntes, &Movimiento::YAntes,
+                                       &Movimiento::XDespues, &Movimiento::YDespues}) {
+            Gbl.Movimientos[m].*lugar = static_cast<i16>(Gbl.Movimientos[m].*lugar + 1);
+            EXPECT_FALSE(JuegoEnCurso().DiarioPosible()) << m;
+            Gbl.Movimientos[m].*lugar = static_cast<i16>(Gbl.Movimientos[m].*lugar - 1);
+        }
 }
 
 // ---------------------------------------------------------------- animated shuffle

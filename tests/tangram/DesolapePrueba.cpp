@@ -294,6 +294,30 @@ TEST_F(Desolape, OnATallScreenTheHeightIsComparedWithTheWidth) {
     EXPECT_EQ(Gbl.Piezas[6].Y, 425);
 }
 
+TEST_F(Desolape, ComparisonOfTheHeightWithTheWidthIsExact) {
+    Gbl.AltoPantalla = 900;
+    Pic_Botonera.Mueve(2000, 0);
+    for (const i16 ancho : {i16{425 + 63}, i16{425 + 62}}) {
+        Gbl.AnchoPantalla = ancho;
+        ApartaPiezas();
+        PonPieza(1, 100, 300, 3);
+        PonPieza(6, 150, 400, 0);  // south would end at 425
+        Suelta(6);
+        EXPECT_EQ(Gbl.TCaminoPilas[1] == 4, ancho == 425 + 63) << ancho;
+    }
+}
+
+TEST_F(Desolape, JustBelowThePanelIsFree) {
+    ASSERT_EQ(Pic_Botonera.Height(), 463);
+    for (const i32 sobra : {0, 1}) {
+        ApartaPiezas();
+        PonGemelas(600, 463 + 63 - sobra);  // right of the panel's edge; north would end there
+        Suelta(5);
+        EXPECT_EQ(Gbl.TCaminoPilas[1], sobra == 0 ? 0 : 2);
+        EXPECT_EQ(Gbl.Piezas[5].Y, sobra == 0 ? 463 : 463 + 62);
+    }
+}
+
 TEST_F(Desolape, LowestNumberedPieceIsDealtWithFirst) {
     PonPieza(6, 300, 200, 0);
     PonPieza(3, 300 - 60, 200, 1);  // upright side at x = 328
