@@ -136,6 +136,73 @@ TEST_F(RasterPiezas, EachTriangleLiesOnItsSideOfTheCell) {
     }
 }
 
+TEST_F(RasterPiezas, TrianglesHaveTheirSidesAndApexesToThePixel) {
+    Monta(3, 5, 640, 480);  // 127 by 96: the apexes stand in column 63
+    // Black from one to the other, both included, and nowhere else on that row or column.
+    const auto fila = [](i32 y, i32 desde, i32 hasta) {
+        for (i32 x = 0; x < 127; ++x)
+            ASSERT_EQ(Negro(x, y), x >= desde && x <= hasta) << x << ' ' << y;
+    };
+    const auto columna = [](i32 x, i32 desde, i32 hasta) {
+        for (i32 y = 0; y < 96; ++y)
+            ASSERT_EQ(Negro(x, y), y >= desde && y <= hasta) << x << ' ' << y;
+    };
+    PreparaPieza(4);  // above
+    fila(0, 1, 125);
+    columna(63, 0, 46);
+    PreparaPieza(1);  // right
+    columna(126, 0, 94);
+    fila(47, 63, 126);
+    PreparaPieza(2);  // below
+    fila(95, 0, 126);
+    columna(63, 48, 95);
+    PreparaPieza(3);  // left
+    columna(0, 0, 94);
+    fila(47, 0, 63);
+}
+
+TEST_F(RasterPiezas, SidesOnTheEdgeOfThePictureAreStraightAndFilled) {
+    constexpr i16 lado = 4;
+    for (i16 forma = 1; forma <= 2; ++forma) {
+        Monta(forma, lado, 480, 360);
+        const i32 w = Gbl.AnchoCelda, h = Gbl.AltoCelda, m = Gbl.SalienteX, n = Gbl.SalienteY;
+        // Along the side as shares of its length, and how deep.
+        const struct {
+            double alLargo, hondo;
+        } huecos[] = {{0.22, 0}, {0.5, forma == 1 ? 0 : 0.09}, {0.78, 0}};
+        for (i16 p = 1; p <= lado * lado; ++p) {
+            SCOPED_TRACE(testing::Message() << "shape " << forma << ", piece " << p);
+            PreparaPieza(p);
+            const i32 columna = (p - 1) % lado, fila = (p - 1) / lado;
+            const bool izq = columna == 0, der = columna == lado - 1;
+            const bool arr = fila == 0, aba = fila == lado - 1;
+            for (i32 y = n; y < n + h; ++y) {
+                EXPECT_TRUE(!izq || Negro(m, y)) << y;
+                EXPECT_TRUE(!der || Negro(m + w - 1, y)) << y;
+            }
+            for (i32 x = m; x < m + w; ++x) {
+                EXPECT_TRUE(!arr || Negro(x, n)) << x;
+                EXPECT_TRUE(!aba || Negro(x, n + h - 1)) << x;
+            }
+            for (const auto& k : huecos) {
+                const i16 y = Entero(n + h * k.alLargo), x = Entero(m + w * k.alLargo);
+                const i32 dx = k.hondo == 0 ? 1 : Entero(h * k.hondo),
+                          dy = k.hondo == 0 ? 1 : Entero(w * k.hondo);
+                EXPECT_TRUE(!izq || Negro(m + dx, y)) << y;
+                EXPECT_TRUE(!der || Negro(m + w - 1 - dx, y)) << y;
+                EXPECT_TRUE(!arr || Negro(x, n + dy)) << x;
+                EXPECT_TRUE(!aba || Negro(x, n + h - 1 - dy)) << x;
+            }
+            for (i32 y = 0; y < Gbl.AltoPieza; ++y)
+                for (i32 x = 0; x < Gbl.AnchoPieza; ++x)
+                    ASSERT_FALSE(((izq && x < m) || (der && x >= m + w) || (arr && y < n) ||
+                                  (aba && y >= n + h)) &&
+                                 Negro(x, y))
+                        << x << ' ' << y;
+        }
+    }
+}
+
 TEST_F(RasterPiezas, TheImageIsBlackWhereverTheMaskIsWhite) {
     for (i16 forma = 0; forma <= 7; ++forma) {
         Monta(forma, 4, 400, 300, true);

@@ -101,6 +101,15 @@ TEST_F(Ajustes, GlobalFileOfAnyCaseIsRead) {
     EXPECT_TRUE(P().avisos.empty());
 }
 
+TEST_F(Ajustes, SwitchesThatAreOffInTheFileGoOff) {
+    Gbl.Sonido = Gbl.VentanaInformacion = true;
+    Crea("TsR33.ini", Linea("220 0070 "));
+    LeeConfiguracion();
+    EXPECT_FALSE(Gbl.Sonido);
+    EXPECT_FALSE(Gbl.VentanaInformacion);
+    EXPECT_EQ(Gbl.VelocidadJuego, 7);
+}
+
 TEST_F(Ajustes, UnknownGameBecomesTheJigsawAndTheFileStays) {
     const std::string linea = Linea("200 0500 ");
     Crea("TsR33.ini", linea);
@@ -188,6 +197,9 @@ TEST_F(Ajustes, MissingFileOfTheSlidingGameIsToldDealtAndMade) {
     Gbl.FactorAtraccion = 3;
     Gbl.MostrarMuestra = true;
     Gbl.NombreJugador = "Otro";
+    Gbl.RutaImagen = "/fotos/lago.jpg";
+    Gbl.FicheroImagen = "lago.jpg";
+    Gbl.ImagenValida = false;
     Gbl.PuzzleTerminado = true;
     LeeAjustesJuego(FicheroDelJuego());
     ASSERT_EQ(P().avisos.size(), 1U);
@@ -206,6 +218,9 @@ TEST_F(Ajustes, MissingFileOfTheSlidingGameIsToldDealtAndMade) {
     EXPECT_FALSE(Gbl.PuzzleTerminado);
     EXPECT_FALSE(Gbl.PuzzleArchivable);
     EXPECT_EQ(Gbl.SegundosJuego, 0);
+    EXPECT_EQ(Gbl.RutaImagen, " ");
+    EXPECT_EQ(Gbl.FicheroImagen, "");
+    EXPECT_TRUE(Gbl.ImagenValida);
     EXPECT_EQ(ErrorPendiente(), 0);
     // The file is there, and reading it brings the same board without a word.
     const Arreglo<Pieza> piezas = Gbl.Piezas;
@@ -228,10 +243,13 @@ TEST_F(Ajustes, MissingFileOfTheTangramDealsADesign) {
 }
 
 TEST_F(Ajustes, MissingFileOfTheJigsawPressesTheSettingsButton) {
+    Gbl.RutaImagen = "/fotos/lago.jpg";
+    Gbl.FicheroImagen = "lago.jpg";
     int pulsado = 0;
     Pic_Boton(2).MouseDown = [&](i16, i16, float, float) {
         ++pulsado;
         EXPECT_EQ(Gbl.RutaImagen, " ");
+        EXPECT_EQ(Gbl.FicheroImagen, "");
         EXPECT_EQ(Gbl.CarpetaImagen, Gbl.CarpetaImagenes);
         EXPECT_EQ(Gbl.UnidadImagen, P().carpeta.substr(0, 2));
         EXPECT_EQ(Pic_FonTamModi.Width(), 320);
@@ -292,6 +310,19 @@ TEST_F(Ajustes, SavedPuzzleBringsItsOwnGame) {
     LeeAjustesJuego(P().carpeta + "t.puz");
     EXPECT_EQ(Gbl.JuegoActual, 23);
     EXPECT_EQ(Gbl.NumPiezas, 7);
+}
+
+TEST_F(Ajustes, ErrorOfSomethingBeforeDoesNotSendAGoodFileToTheDefaults) {
+    Gbl.JuegoActual = JuegoTangram;
+    LeeAjustesJuego(FicheroDelJuego());
+    Gbl.SegundosJuego = 77;
+    GuardaAjustesJuego();
+    Gbl.SegundosJuego = 0;
+    PonErrorPendiente(9);
+    Gbl.ErrorApertura = 53;
+    LeeAjustesJuego(FicheroDelJuego());
+    EXPECT_EQ(Gbl.SegundosJuego, 77);
+    EXPECT_EQ(Gbl.ErrorApertura, 0);
 }
 
 }  // namespace tessario

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The history window: orders, travel, lines, drawing.
+#include <algorithm>
 #include <chrono>
 
 #include "apoyo/VentanaMontada.h"
@@ -191,6 +192,13 @@ TEST_F(VentanaHistoric, SelectorsAndTravelButtonsStandWhereTheyShould) {
         EXPECT_EQ(BotonAdeAtrEn(12, 1), 1);
         EXPECT_EQ(BotonAdeAtrEn(12, 24), 1);
         EXPECT_EQ(BotonAdeAtrEn(12, 25), 0);
+        for (const Cuadro* b : {&Pic_BotAyudaHistoric, &Pic_BotSalirHistoric}) {
+            EXPECT_EQ(b->Width(), 48);
+            EXPECT_EQ(b->Top + 48 + 17, Historic.Height());
+            EXPECT_GT(b->Top, Tex_Historic.Top + Tex_Historic.Height());
+        }
+        EXPECT_EQ(Pic_BotSalirHistoric.Left + 48, 190 + 398);
+        EXPECT_LT(Pic_BotAyudaHistoric.Left + 48, Pic_BotSalirHistoric.Left);
     });
 }
 
@@ -298,6 +306,42 @@ TEST_F(VentanaHistoric, SelectorReloadsGoesToTheStartAndNamesTheOrder) {
     });
     // The next time it opens with the first order again.
     En(Historic, [&] { EXPECT_EQ(Gbl.OrdenHistoricoActual, 1); });
+}
+
+TEST_F(VentanaHistoric, ChosenSelectorLooksPressedAndTheOthersDoNot) {
+    Archiva({{"C", 10}, {"A", 20}});
+    En(Historic, [&] {
+        const auto cara = [](i32 orden) { return Pic_OrdenHistorico(orden).Point(2, 2); };
+        const Mapa ventana = Historic.Dibujo();
+        const Color pulsada = cara(1), suelta = cara(2);
+        EXPECT_NE(pulsada, suelta);
+        for (i32 elegida = 4; elegida >= 1; --elegida) {
+            P().textos.clear();
+            Aprieta(Pic_OrdenHistorico(elegida));
+            for (i32 orden = 1; orden <= 4; ++orden) {
+                EXPECT_EQ(cara(orden), orden == elegida ? pulsada : suelta) << orden;
+                EXPECT_EQ(Pic_OrdenHistorico(orden).Font.Negrita, orden == elegida) << orden;
+                const Superficie* tecla = &Pic_OrdenHistorico(orden);
+                EXPECT_EQ(std::count_if(P().textos.begin(), P().textos.end(),
+                                        [&](const auto& t) { return t.donde == tecla; }),
+                          2)
+                    << "a title and its shadow";
+            }
+        }
+        EXPECT_EQ(Historic.Dibujo().Pixeles, ventana.Pixeles) << "nothing of the others is left";
+    });
+}
+
+TEST_F(VentanaHistoric, FileThatGoesWhileTheWindowIsOpenLeavesItEmpty) {
+    Archiva({{"C", 10}, {"A", 20}});
+    En(Historic, [&] {
+        BorraFichero(FicheroHistorico());
+        P().textos.clear();
+        Aprieta(Pic_OrdenHistorico(2));
+        EXPECT_EQ(Lis_Ordenar.ListCount(), 0);
+        EXPECT_TRUE(Renglones(Tex_Historic).empty());
+    });
+    EXPECT_EQ(P().avisos.size(), 1U);
 }
 
 TEST_F(VentanaHistoric, RecordsOfOtherGamesOnlyPrintNothing) {
