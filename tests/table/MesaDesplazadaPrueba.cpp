@@ -217,6 +217,9 @@ TEST_F(MesaDesplazada, DroppedPieceComesIntoTheScrolledView) {
     EXPECT_EQ(suelta(900, 600), (Punto{893, 600}));
     EXPECT_EQ(suelta(900, 543), (Punto{893, 543})) << "its centre just below the strip";
     EXPECT_EQ(suelta(900, 542), (Punto{752, 542})) << "and just beside it";
+    // One that is in its place stays there, be it in view or not.
+    Gbl.FactorAtraccion = 100;
+    EXPECT_EQ(suelta(10, 5), (Punto{0, 0}));
 }
 
 TEST_F(MesaDesplazada, DropsFollowTheRuleOfTheViewOnManyTables) {

@@ -285,6 +285,15 @@ TEST_F(RatonMesa, PressAndReleaseWithoutMovingMakesNoDropSound) {
     EXPECT_FALSE(Gbl.ArrastrandoPieza);
 }
 
+TEST_F(RatonMesa, DropThatMovedOneWayOnlySoundsToo) {
+    Rompecabezas();
+    Pon(2, 400, 100);
+    Arrastra(2, 430, 100);
+    EXPECT_EQ(Sonidos(), (std::vector<int>{50, 52}));
+    Arrastra(2, 430, 140);
+    EXPECT_EQ(Sonidos(), (std::vector<int>{50, 52}));
+}
+
 TEST_F(RatonMesa, PressOnTheEmptyTableTakesNothing) {
     Rompecabezas();
     Puntero.Pulsa(350, 350);
@@ -531,11 +540,10 @@ TEST_F(RatonMesa, PieceDroppedUnderTheStripIsPushedToItsEdge) {
 
 TEST_F(RatonMesa, TangramPiecePushedIntoViewLeavesNoTrace) {
     Tangram(MODO_CREAR);
+    for (i16 i = 1; i <= 7; ++i) Pon(i, 20, 60 * i);
     Pon(6, 300, 300);
-    Arrastra(6, 640, 500);  // in view
-    Arrastra(6, 300, 300);
-    Arrastra(6, 400, 580);  // its centre, 611.5, is below the table
-    EXPECT_LT(Gbl.Piezas[6].Y, 580);
+    Arrastra(6, 690, 200);  // a square of 63, its centre under the strip
+    EXPECT_EQ(Gbl.Piezas[6].X, 628);
     const auto visto = Pic_Trabajo.Dibujo().Pixeles;
     EXPECT_EQ(Pic_Imagen.Dibujo().Pixeles, visto);
     ColocaPiezas(1);
@@ -934,7 +942,8 @@ TEST_F(RatonMesa, VWhileAnotherPieceIsInHandLeavesThatOneInHand) {
     Puntero.Suelta();
     EXPECT_EQ(Gbl.Piezas[6].X, 200);
     ASSERT_EQ(Gbl.NumMovimientos, 2);
-    EXPECT_EQ(Gbl.Movimientos[1].Pieza, 7);
+    const Pieza& p7 = Gbl.Piezas[7];
+    EXPECT_EQ(Gbl.Movimientos[1], (Movimiento{7, p7.X, p7.Y, 0, 0, p7.X, p7.Y, 0, 1}));
     EXPECT_EQ(Gbl.Movimientos[2], (Movimiento{6, 100, 300, 0, 0, 200, 380, 0, 0}));
     const auto visto = Pic_Trabajo.Dibujo().Pixeles;
     ColocaPiezas(1);
