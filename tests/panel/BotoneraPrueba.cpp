@@ -113,6 +113,27 @@ TEST_F(Botonera, CreatingFiguresHidesTheInstruments) {
     }
 }
 
+TEST_F(Botonera, InstrumentsAreDrawnWhereTheyShow) {
+    constexpr Color VIEJO = 0x123456;
+    Gbl.JuegoActual = JuegoTangram;
+    Gbl.CronoEnMarcha = true;
+    for (const i16 modo : {MODO_CREAR, MODO_RESOLVER}) {
+        Gbl.ModoJuego = modo;
+        for (Cuadro* c : {&Pic_Cronome, &Pic_CroTime, &Pic_InfoColo}) c->PonBackColor(VIEJO);
+        CargaBotonera();
+        const bool seVen = modo == MODO_RESOLVER;
+        EXPECT_EQ(Pic_Cronome.Point(0, 0), seVen ? 0U : VIEJO);
+        EXPECT_EQ(Pic_Cronome.Point(55, 43) == VIEJO, !seVen) << "its ground";
+        EXPECT_EQ(Pic_CroTime.Point(0, 0), seVen ? 8421504U : VIEJO);
+        EXPECT_EQ(Pic_InfoColo.Point(0, 0), seVen ? OSCURO : VIEJO);
+        // The switch stands as the clock does: running.
+        if (seVen) {
+            EXPECT_EQ(PixelDe(Pic_Cronome.Point(10, 4)), DeRecurso(57, 6));
+        }
+        EXPECT_TRUE(Gbl.CronoEnMarcha);
+    }
+}
+
 TEST_F(Botonera, SecondLayoutPutsEverythingBackInPlace) {
     Pic_Botonera.Mueve(3, 4);
     Pic_Botonera.Line(pluma::ConColor | pluma::Desde, 20, 5, 60, 5, 0x00FF00);

@@ -171,7 +171,9 @@ TEST_F(VistaMuestra, HoverShowsTheOpenHandOverTheDefaultPointer) {
 
 TEST_F(VistaMuestra, RightButtonDoesNotGrab) {
     Pic_Muestra_MouseDown(2, 0, 10, 10);
+    const auto antes = Pic_Trabajo.Dibujo().Pixeles;
     Pic_Muestra_MouseMove(2, 0, 60, 10);
+    EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, antes);
     Pic_Muestra_MouseUp(2, 0, 60, 10);
     EXPECT_EQ(Pic_Muestra.Left, 400);
     EXPECT_EQ(Pic_Trabajo.DrawMode, MODO_COPIA);

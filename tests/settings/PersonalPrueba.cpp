@@ -603,7 +603,9 @@ TEST_F(PersonalVentana, ABoardThatNeverHadAPictureTakesTheFirstOfTheList) {
     Gbl.FicheroImagen.clear();
     Gbl.ImagenValida = true;  // numbers need no picture
     Visita([&] {
+        P().sonidos.clear();
         Sel(2).Pon(1);
+        EXPECT_TRUE(Sonidos().empty()) << "the window chooses, not the player";
         EXPECT_EQ(FicheroElegido(), "b.bmp");
         EXPECT_EQ(Gbl.RutaImagen, P().carpeta + "Imagenes/b.bmp");
         EXPECT_EQ(Gbl.FicheroImagen, "b.bmp");
