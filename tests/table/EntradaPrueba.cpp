@@ -382,6 +382,21 @@ TEST_F(EntradaMesa, LeftButtonLostDuringTheTurnLeavesThePieceWhereItTurned) {
     EXPECT_EQ(Gbl.Piezas[5].X, 460);
 }
 
+TEST_F(EntradaMesa, MiddleButtonDoesNothingInADrag) {
+    Puesto(300, 300);
+    Pon(5, 400, 200, 0);
+    CogeYLleva(5, 60, 40);
+    const auto [x, y] = EnMesa(Puntero.Lugar());
+    Pic_Trabajo.MouseDown(BOTON_CENTRAL, 0, x, y);
+    Pic_Trabajo.MouseUp(BOTON_CENTRAL, 0, x, y);
+    EXPECT_TRUE(Gbl.ArrastrandoPieza);
+    EXPECT_EQ(Gbl.Piezas[5].Giro, 0);
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
+    P().botones = 0;
+    Puntero.Suelta();
+    EXPECT_EQ(Diario(), (std::vector<Movimiento>{{5, 400, 200, 0, 0, 460, 240, 0, 0}}));
+}
+
 TEST_F(EntradaMesa, WithRotationForbiddenTheRightButtonDoesNothingInADrag) {
     Puesto(300, 300);
     Pon(5, 400, 200, 0);

@@ -194,6 +194,11 @@ TEST_F(RatonMesa, MoveOverTheTablePutsOutALitOption) {
     EXPECT_EQ(Gbl.OpcionResaltada, 0);
     EXPECT_TRUE(Pic_SelOpciones.Visible);
     EXPECT_EQ(Pic_SelOpciones.Dibujo().Pixeles, apagado);
+    // One that is hidden stays so, whatever was lit when it went.
+    Gbl.OpcionResaltada = 2;
+    Pic_SelOpciones.Visible = false;
+    Puntero.Mueve(110, 100);
+    EXPECT_FALSE(Pic_SelOpciones.Visible);
 }
 
 // ---------------------------------------------------------------- pick-up and drag
@@ -548,6 +553,21 @@ TEST_F(RatonMesa, TangramPiecePushedIntoViewLeavesNoTrace) {
     EXPECT_EQ(Pic_Imagen.Dibujo().Pixeles, visto);
     ColocaPiezas(1);
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, visto);
+}
+
+TEST_F(RatonMesa, ReleaseDuringTheSolverDropsNothing) {
+    Rompecabezas();
+    Pon(2, 400, 100);
+    SubePieza(PosicionEnOrden(2));
+    const auto antes = Gbl.Piezas;
+    Gbl.ArrastrandoPieza = Gbl.ResolviendoPuzzle = true;
+    Gbl.XOrigen = Gbl.YOrigen = 1;
+    Pic_Trabajo_MouseUp(BOTON_IZQUIERDO, 0, 450, 150);
+    EXPECT_EQ(Gbl.NumMovimientos, 0);
+    EXPECT_TRUE(Sonidos().empty());
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    for (i32 i = 1; i <= 9; ++i) EXPECT_EQ(Gbl.Piezas[i], antes[i]) << i;
+    EXPECT_EQ(Gbl.PiezaActual, 2) << "the pointer looks again";
 }
 
 TEST_F(RatonMesa, PressWithAPieceStillInHandDropsThatFirst) {
@@ -927,6 +947,22 @@ TEST_F(RatonMesa, ParallelogramTurnedOverInHandStaysInHandAndLeavesNoTrace) {
     const auto visto = Pic_Trabajo.Dibujo().Pixeles;
     ColocaPiezas(1);
     EXPECT_EQ(Pic_Trabajo.Dibujo().Pixeles, visto);
+}
+
+TEST_F(RatonMesa, VOverAnotherPieceTakesNoneInHand) {
+    Tangram(MODO_CREAR);
+    Gbl.AtraccionPiezas = false;
+    Pon(6, 100, 300);
+    const Punto p = PuntoDe(6);
+    Puntero.Mueve(p.x, p.y);
+    ASSERT_EQ(Gbl.PiezaActual, 6);
+    Mesa.KeyPress('v');
+    EXPECT_FALSE(Gbl.ArrastrandoPieza);
+    const Pieza antes = Gbl.Piezas[6];
+    Puntero.Mueve(p.x + 60, p.y + 10);
+    EXPECT_EQ(Gbl.Piezas[6], antes);
+    EXPECT_EQ(Gbl.NumMovimientos, 1);
+    EXPECT_EQ(Gbl.Movimientos[1].Pieza, 7);
 }
 
 TEST_F(RatonMesa, VWhileAnotherPieceIsInHandLeavesThatOneInHand) {
