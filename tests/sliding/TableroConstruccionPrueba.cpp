@@ -102,6 +102,10 @@ TEST_F(Construccion, SunkenFrameIsDarkAboveAndLeftLightBelowAndRight) {
         EXPECT_EQ(s->Point(149, 200), FONDO_OSCURO);
         EXPECT_EQ(s->Point(508, 200), FONDO_CLARO);
         EXPECT_EQ(s->Point(300, 446), FONDO_CLARO);
+        EXPECT_EQ(s->Point(300, 445), FONDO_CLARO);
+        EXPECT_EQ(s->Point(300, 447), FONDO_CLARO);
+        EXPECT_EQ(s->Point(300, 444), FONDO);  // last line of the board
+        EXPECT_EQ(s->Point(300, 448), FONDO);
         EXPECT_EQ(s->Point(300, 88), FONDO_OSCURO);
         EXPECT_EQ(s->Point(300, 86), FONDO_OSCURO);
         EXPECT_EQ(s->Point(509, 200), FONDO_CLARO);
@@ -265,6 +269,7 @@ TEST_F(Construccion, LabelsStandAtTheHomesWhereverThePiecesAre) {
     ASSERT_EQ(T().impresos.size(), 16U);
     // Margins 169 and 107, cells of 107; the font of 50 gives 26 x 52.
     EXPECT_EQ(T().impresos[1].x, 210);  // 40.5 + 169, to even
+    EXPECT_EQ(T().impresos[3].x, 316);  // 40.5 + 276, to even
     EXPECT_EQ(T().impresos[1].y, 134);  // 27.5 + 107, to even
     EXPECT_EQ(CeldasDelTablero(), (std::vector<i16>{8, 7, 6, 5, 4, 3, 2, 1, 0}));
 }

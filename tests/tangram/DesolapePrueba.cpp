@@ -6,6 +6,7 @@
 #include "apoyo/MesaTangram.h"
 #include "core/Superficies.h"
 #include "panel/Botonera.h"
+#include "panel/Colocadas.h"
 #include "pieces/Composicion.h"
 #include "tangram/Desolape.h"
 
@@ -149,6 +150,18 @@ TEST_F(Desolape, SquareFivePixelsInsideGoesSixPixelsBack) {
     EXPECT_EQ(Gbl.TCaminoPilas[2], 99);
     EXPECT_EQ(Gbl.Piezas[6].X, 237);
     EXPECT_EQ(Gbl.Piezas[6].Y, 220);
+}
+
+TEST_F(Desolape, PushedPieceLeavesNothingWhereItLay) {
+    PonPieza(1, 300, 200, 7);
+    PonPieza(6, 243, 170, 0);  // five columns inside, but its upper rows lie free
+    ColocaPiezas(1);
+    ASSERT_EQ(Pic_Imagen.Point(302, 185), Gbl.ColorPiezas);
+    Suelta(6);
+    ASSERT_EQ(Gbl.Piezas[6].X, 237);
+    EXPECT_EQ(Pic_Imagen.Point(302, 185), Gbl.ColorFondo);
+    EXPECT_EQ(Pic_Trabajo.Point(302, 185), Gbl.ColorFondo);
+    EXPECT_EQ(Pic_Imagen.Point(239, 185), Gbl.ColorPiezas);
 }
 
 TEST_F(Desolape, SmallTriangleInTheMiddleOfABigOneGoesOutByTheShortestWay) {
