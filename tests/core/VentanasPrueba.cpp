@@ -76,6 +76,13 @@ TEST_F(VentanasNucleo, TitleAndTextHaveTheirPlaces) {
     });
 }
 
+TEST_F(VentanasNucleo, TallerMessageShowsNothingOfTheFrameOfTheOneBefore) {
+    std::vector<Pixel> limpia;
+    Abre(6, 1, 0, [&](PunteroPrueba&) { limpia = Mensajes.Dibujo().Pixeles; });
+    Abre(1, 1, 0, [](PunteroPrueba&) { EXPECT_EQ(Mensajes.Height(), 144); });
+    Abre(6, 1, 0, [&](PunteroPrueba&) { EXPECT_TRUE(Mensajes.Dibujo().Pixeles == limpia); });
+}
+
 TEST_F(VentanasNucleo, FrameIsWhiteWithGreyFarEdges) {
     Abre(2, 1, 0, [](PunteroPrueba&) {
         const i32 w = Mensajes.Width(), h = Mensajes.Height();

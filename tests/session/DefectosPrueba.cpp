@@ -196,6 +196,9 @@ TEST_F(Defectos, LoadedPuzzleIsSeenBeingLaidTheTangramIsNot) {
     EXPECT_GE(muestras(), 15);
     Tangram(MODO_CREAR);
     EXPECT_LT(muestras(), 7);
+    const i16 x = Gbl.Piezas[6].X, y = Gbl.Piezas[6].Y;  // the square
+    EXPECT_NE(Pic_Trabajo.Point(x + 30, y + 30), Gbl.ColorFondo) << "but it is laid in the end";
+    EXPECT_TRUE(Pic_Trabajo.Dibujo().Pixeles == Pic_Imagen.Dibujo().Pixeles);
 }
 
 TEST_F(Defectos, FirstMoveAfterALoadGrowsTheLogByAHundred) {
