@@ -638,6 +638,31 @@ TEST_F(PersonalVentana, ThereAndBackOfTheGroundChangesNothing) {
     EXPECT_EQ(EscribePuzzle().substr(0, 200), registro.substr(0, 200));
 }
 
+TEST_F(PersonalVentana, APictureThatWasOnlyLookedAtIsForgottenByANewBoardOfNumbers) {
+    PonImagen("a.bmp", 900, 900);
+    Crea("Otra/m.bmp", "x");
+    P().imagenes[P().carpeta + "Otra/m.bmp"] = Mapa(320, 240);
+    Deslizantes(4);
+    Gbl.RutaImagen = P().carpeta + "Imagenes/a.bmp";
+    Gbl.FicheroImagen = "a.bmp";
+    Gbl.CarpetaImagen = P().carpeta + "Imagenes/";
+    Gbl.UnidadImagen = "the place of a";
+    Visita([&] {
+        Sel(2).Pon(1);
+        Dir1.Path = P().carpeta + "Otra/";
+        Dir1.Change();
+        EXPECT_EQ(Gbl.FicheroImagen, "m.bmp");
+        Sel(2).Pon(2);
+        Lis_NroPiezas.Selecciona(2);  // 5 x 5: another puzzle
+        Sal({true});
+    });
+    EXPECT_EQ(Gbl.PiezasPorLado, 5);
+    EXPECT_EQ(Gbl.RutaImagen, P().carpeta + "Imagenes/a.bmp");
+    EXPECT_EQ(Gbl.FicheroImagen, "a.bmp");
+    EXPECT_EQ(Gbl.CarpetaImagen, P().carpeta + "Imagenes/");
+    EXPECT_EQ(Gbl.UnidadImagen, "the place of a");
+}
+
 TEST_F(PersonalVentana, WithoutAPictureTheGroundOfImageKeepsTheWindowOpen) {
     Deslizantes(4);
     Visita([&] {
@@ -773,6 +798,8 @@ TEST_F(PersonalVentana, TheModeDecidesWhatIsOffered) {
     EXPECT_EQ(Gbl.ModoJuego, 2);
     EXPECT_EQ(Gbl.Piezas[2].XBien, 90);
     // The window opens on the model of the table: its figure is shown, and another one sounds.
+    Pic_MostrarImagen.PonPicture(nullptr);
+    Pic_MostrarImagen.PonBackColor(0x123456);
     Visita([&] {
         EXPECT_EQ(Lis_Modelos.ListIndex, 0);
         const auto vista = Pic_MostrarImagen.Dibujo().Pixeles;
