@@ -196,6 +196,16 @@ TEST_F(Colocacion, SolvingPutsEveryPieceHomeTurnedAndLogged) {
     EXPECT_EQ(Gbl.Movimientos[4].Pieza, 7);
 }
 
+TEST_F(Colocacion, SolvingLeavesOutNeitherTheTopNorTheBottomOfTheStack) {
+    Monta(0, 3, 300, 240);
+    for (i16 p = 1; p <= 9; ++p) Coloca(p, static_cast<i16>(320 + 20 * p), 300);
+    Gbl.Movimientos.Redimensiona(100);
+    Gbl.ResolviendoPuzzle = true;
+    ResuelvePuzzle();
+    EXPECT_EQ(CuentaColocadas(), 9);
+    EXPECT_TRUE(Gbl.PuzzleTerminado);
+}
+
 TEST_F(Colocacion, ASecondPressStopsTheSolverAfterTheCurrentPiece) {
     Monta(0, 3, 300, 240);
     for (i16 p = 1; p <= 9; ++p) Coloca(p, static_cast<i16>(320 + 20 * p), 300);

@@ -147,6 +147,16 @@ TEST_F(Completado, BigTriangleOnItsTwinsPlaceSnapsAndTheExchangeStays) {
     EXPECT_EQ(CuentaColocadas(), 2);
 }
 
+TEST_F(Completado, EitherTwinTakesThePlaceOfTheOther) {
+    for (const auto& [una, otra] :
+         std::initializer_list<std::pair<i16, i16>>{{1, 2}, {2, 1}, {4, 5}, {5, 4}}) {
+        const Pieza sitio = Gbl.Piezas[otra];
+        EXPECT_TRUE(CaeEn(una, sitio.XBien + 2, sitio.YBien - 2, sitio.GiroBien)) << una;
+        EXPECT_EQ((Punto{Gbl.Piezas[una].X, Gbl.Piezas[una].Y}), (Punto{sitio.XBien, sitio.YBien}));
+        ApartaPiezas();
+    }
+}
+
 TEST_F(Completado, FailedExchangeIsTakenBack) {
     const Pieza una = Gbl.Piezas[1], otra = Gbl.Piezas[2];
     EXPECT_FALSE(CaeEn(1, 400, 400, 7));

@@ -320,6 +320,16 @@ TEST_F(Desolape, ComparisonOfTheHeightWithTheWidthIsExact) {
     }
 }
 
+TEST_F(Desolape, PieceEndsExactlyAtThePanelAndNotUnderIt) {
+    for (const i32 sobra : {0, 1}) {
+        ApartaPiezas();
+        PonGemelas(596 - 63 + sobra, 30);  // north is refused by the top
+        Suelta(5);
+        EXPECT_EQ(Gbl.TCaminoPilas[1], sobra == 0 ? 2 : 3);
+        EXPECT_EQ(Gbl.Piezas[5].X, sobra == 0 ? 596 : 534 + 31);
+    }
+}
+
 TEST_F(Desolape, JustBelowThePanelIsFree) {
     ASSERT_EQ(Pic_Botonera.Height(), 463);
     for (const i32 sobra : {0, 1}) {
