@@ -18,16 +18,16 @@ fs::path LugarApartado(const std::string& ruta) {
     return fs::path(BuscaRuta(ruta)).replace_extension(".cse");
 }
 
-bool EsPegada(const std::string& ruta) {
-    return Minusculas(fs::path(ruta).filename().string()) == IMAGEN_PORTAPAPELES;
-}
-
 bool EsLaMisma(const std::string& a, const std::string& b) {
     std::error_code e;
     return fs::equivalent(BuscaRuta(a), BuscaRuta(b), e) && !e;
 }
 
 }  // namespace
+
+bool EsPegada(const std::string& ruta) {
+    return Minusculas(fs::path(ruta).filename().string()) == IMAGEN_PORTAPAPELES;
+}
 
 bool ApartaPegada(const std::string& nueva, const std::string& propia) {
     if (!EsPegada(propia) || HayApartada(propia) || !EsLaMisma(nueva, propia)) return true;

@@ -8,6 +8,8 @@
 
 namespace tessario {
 
+// Whether a path is that of the clipboard's picture, in whatever folder.
+bool EsPegada(const std::string& ruta);
 // Before the file `nueva` is written: when it is the picture `propia` of the puzzle in play, that
 // one is put aside. False: it could not be, and the file must not be written.
 bool ApartaPegada(const std::string& nueva, const std::string& propia);

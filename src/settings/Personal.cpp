@@ -144,9 +144,10 @@ void AseguraImagen() {
         File1_Click();
 }
 
-// The clipboard may hold something else by now: the picture is written again from what is shown.
+// The clipboard may hold something else by now: the picture is written again from what is shown. A
+// record can give it any path; over a file of another name nothing is written.
 void SalvaPortapapeles() {
-    if (Gbl.FicheroImagen == IMAGEN_PORTAPAPELES)
+    if (Gbl.FicheroImagen == IMAGEN_PORTAPAPELES && EsPegada(Gbl.RutaImagen))
         Sistema().GuardaImagen(Gbl.RutaImagen, Pic_FonTamReal.Dibujo());
 }
 

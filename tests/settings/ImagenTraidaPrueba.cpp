@@ -215,6 +215,20 @@ TEST_F(ImagenVentana, AFileBesideAPictureOfAnotherNameIsNobodysFormerPicture) {
     EXPECT_EQ(Contenido("Imagenes/a.cse"), "otra cosa");
 }
 
+TEST_F(ImagenVentana, ARecordThatCallsAnotherFileThePastedPictureHasNothingWrittenOverIt) {
+    P().guardadas.clear();
+    Gbl.FicheroImagen = "tsportap.bmp";
+    for (const char* otro : {"carta.txt", "tsportap.bmp"}) {
+        Gbl.RutaImagen = Crea(otro, "mía");
+        Visita([&] {
+            Lis_NroPiezas.Selecciona(Lis_NroPiezas.ListIndex == 0 ? 1 : 0);
+            Sal({true});
+        });
+        EXPECT_EQ(P().guardadas.count(P().carpeta + otro),
+                  otro == std::string("carta.txt") ? 0U : 1U);
+    }
+}
+
 TEST_F(ImagenVentana, InAnotherFolderThanTheListedOneTheFileIsWrittenAndNotChosen) {
     P().hayPortapapeles = true;
     P().portapapeles = Mapa(500, 400);
