@@ -27,6 +27,8 @@ struct Cifra {
 };
 // A pointer is made when it is first shown, and there are so many.
 constexpr long PUNTEROS = 16;
+// The sound device has a thread, which ends some seconds after the last sound.
+constexpr long HILO_DE_SONIDO = 1;
 // Handles, threads, files and what the server keeps may not grow by one. The heap and the pages of
 // the process breathe: a scratch surface keeps the size of the last piece that was on it, a table
 // doubles when it fills, a store of text widths is emptied when it is full. A megabyte, once, is a
@@ -41,7 +43,7 @@ constexpr Cifra CIFRAS[] = {
     {"resident memory, KiB", &Medida::residente, MARGEN_RESIDENTE},
     {"heap in use, KiB", &Medida::enUso, MARGEN_EN_USO},
     {"open descriptors", &Medida::descriptores, 0},
-    {"threads", &Medida::hilos, 0},
+    {"threads", &Medida::hilos, HILO_DE_SONIDO},
     {"files in the folder", &Medida::ficheros, 0},
     {"X windows", &Medida::ventanasX, 0},
     {"X cursors", &Medida::punterosX, PUNTEROS},

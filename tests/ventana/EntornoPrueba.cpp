@@ -56,6 +56,7 @@ protected:
         e.Espera([&] { return e.HayVentana(PARAMETROS) || !e.HayVentana(PERSONAL); }, CUELGUE_MS);
         ASSERT_TRUE(!e.HayVentana(PARAMETROS) || e.Responde(PARAMETROS, false));
         ASSERT_TRUE(e.Espera([&] { return !e.HayVentana(PERSONAL); }, CUELGUE_MS));
+        e.EsperaQuieto(500, CUELGUE_MS);  // the keyboard is the table's again
     }
     // The jigsaw, nine pieces of a picture.
     void PonMoviles() {
