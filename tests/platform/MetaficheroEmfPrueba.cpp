@@ -572,6 +572,30 @@ TEST_F(RegistrosEmf, ABitmapStretched) {
     EXPECT_EQ(con({0, 3, 2, 1}, -1).copia.Arr, 3) << "or from above";
 }
 
+TEST_F(RegistrosEmf, TheWayOfStretchingIsThePainters) {
+    const Campos mapa =
+        Une({0, 0, 0, 0, 5, 6, 0, 0, 1, 1, 80, 40, 120, 8, 0, 0xCC0020, 20, 10}, DOS);
+    EXPECT_EQ(Unica(Emf().R(81, mapa).Fin()).copia.Estira, 1);
+    for (const auto& [modo, queda] : {std::pair{3LL, 3}, {4LL, 4}, {10LL, 2}})
+        EXPECT_EQ(Unica(Emf().R(21, {modo}).R(81, mapa).Fin()).copia.Estira, queda) << modo;
+}
+
+TEST_F(RegistrosEmf, APenThatIsGoneIsNotTaken) {
+    Emf e;
+    e.R(38, {1, 0, 3, 0, ROJO}).R(40, {1}).R(37, {1});
+    EXPECT_EQ(Unica(e.R(54, {20, 0}).Fin()).pluma.Brocha.Tinta, 0U);
+    Emf existencias;  // what is ready-made stays
+    existencias.R(40, {PLUMA_NULA}).R(37, {PLUMA_NULA}).R(54, {20, 0});
+    ASSERT_TRUE(Bien(existencias.Fin()));
+    EXPECT_TRUE(p.notas.empty());
+}
+
+TEST_F(RegistrosEmf, AFixedClipOutlastsTheOneItCameFrom) {
+    Emf e;
+    e.R(30, {10, 10, 60, 40}).R(28, {}).R(75, {0, 5}).R(15, {0, 0, 0});
+    EXPECT_EQ(Unica(e.Fin()).recorte, (Rect{10, 10, 60, 40}));
+}
+
 TEST_F(RegistrosEmf, Gradients) {
     // Vertices: x, y, red and green, blue and opacity, of 16 bits each.
     const Campos v{1, 2, 0xFF00, 0x8000, 31, 22, 0x40000000, 0};

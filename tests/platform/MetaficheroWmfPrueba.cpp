@@ -86,6 +86,11 @@ TEST_F(RegistrosWmf, Modes) {
         Wmf u;
         EXPECT_EQ(Unica(u.R(0x0104, {modo}).R(0x0213, {9, 9}).Fin()).modos.Rop2, queda);
     }
+    for (const auto& [modo, queda] : {std::pair{3LL, 3}, {4LL, 4}, {10LL, 2}}) {
+        Wmf u;
+        u.R(0x0107, {modo}).R(0x061D, {0x21, 0xF0, 9, 9, 0, 0});
+        EXPECT_EQ(Unica(u.Fin()).copia.Estira, queda);
+    }
     // Saved and brought back.
     Wmf v;
     v.R(0x001E, {}).R(0x0104, {7}).R(0x0127, {-1}).R(0x0213, {9, 9});
