@@ -57,12 +57,6 @@ double MilimetrosPorUnidad(int modo) {
     }
 }
 
-Objeto BrochaNula() {
-    Objeto o = BrochaLisa(0);
-    o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-    return o;
-}
-
 Objeto PaletaUsual() {
     auto o = std::make_shared<ObjetoMeta>();
     o->Tipo = ObjetoMeta::Clase::Paleta;
@@ -92,6 +86,16 @@ Objeto BrochaLisa(u32 color) {
     return o;
 }
 
+Objeto BrochaDeClase(u32 clase, u32 color, i32 trama) {
+    Objeto o = BrochaLisa(color);
+    if (clase == BS_NULL) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
+    if (clase == BS_HATCHED) {
+        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
+        o->Brocha.Trama = trama;
+    }
+    return o;
+}
+
 Objeto PlumaLisa(u32 estilo, double ancho, u32 color) {
     auto o = std::make_shared<ObjetoMeta>();
     o->Tipo = ObjetoMeta::Clase::Pluma;
@@ -116,7 +120,7 @@ Objeto DeExistencias(u32 numero) {
         case BLACK_BRUSH:
             return BrochaLisa(0x000000);
         case NULL_BRUSH:
-            return BrochaNula();
+            return BrochaDeClase(BS_NULL, 0, 0);
         case WHITE_PEN:
             return PlumaLisa(0, 0, 0xFFFFFF);
         case BLACK_PEN:

@@ -35,6 +35,7 @@ struct ObjetoMeta {
 using Objeto = std::shared_ptr<ObjetoMeta>;
 
 Objeto BrochaLisa(u32 color);
+Objeto BrochaDeClase(u32 clase, u32 color, i32 trama);  // `trama`: of a hatched one
 Objeto PlumaLisa(u32 estilo, double ancho, u32 color);
 Objeto DeExistencias(u32 numero);  // the ready-made objects by number; null: none of that number
 

@@ -150,15 +150,11 @@ void LectorEmf::Pluma(const Registro& r) {
 }
 
 void LectorEmf::PlumaExtendida(const Registro& r) {
-    constexpr u32 NULA = 1, TRAMADA = 2, MONO = 3, DIBUJO = 5, TRAZOS_MAXIMOS = 64;
+    constexpr u32 MONO = 3, DIBUJO = 5, TRAZOS_MAXIMOS = 64;
     Objeto o = PlumaLisa(r.U32(28), r.U32(32), r.U32(40));
     o->Extendida = true;
     const u32 brocha = r.U32(36);
-    if (brocha == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-    if (brocha == TRAMADA) {
-        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
-        o->Brocha.Trama = r.I32(44);
-    }
+    o->Brocha = BrochaDeClase(brocha, 0, brocha == BS_HATCHED ? r.I32(44) : 0)->Brocha;
     if (brocha >= MONO && brocha <= DIBUJO + 1 && r.U32(16) > 0)
         if (const Objeto d = BrochaDeDibujo(c_, Bitmap(r, 12, r.U32(40)), brocha == MONO))
             o->Brocha = d->Brocha;
@@ -203,14 +199,8 @@ Objeto LectorEmf::DibujoDe(const Registro& r, std::size_t i, bool unBit) {
 }
 
 void LectorEmf::Brocha(const Registro& r) {
-    constexpr u32 NULA = 1, TRAMADA = 2;
-    Objeto o = BrochaLisa(r.U32(16));
-    if (r.U32(12) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-    if (r.U32(12) == TRAMADA) {
-        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
-        o->Brocha.Trama = r.I32(20);
-    }
-    Pon(r.U32(8), std::move(o));
+    const u32 clase = r.U32(12);
+    Pon(r.U32(8), BrochaDeClase(clase, r.U32(16), clase == BS_HATCHED ? r.I32(20) : 0));
 }
 
 LectorEmf::Acciones::Tabla LectorEmf::Objetos() {
@@ -224,8 +214,8 @@ LectorEmf::Acciones::Tabla LectorEmf::Objetos() {
         {EMR_SETPALETTEENTRIES, [](Yo l, Reg r) { l.CambiaPaleta(r); }},
         {EMR_RESIZEPALETTE,
          [](Yo l, Reg r) {
-             if (const Objeto o = l.Busca(r.U32(8)); o && o->Tipo == ObjetoMeta::Clase::Paleta)
-                 l.c_.CambiaMedida(*o, r.U32(12));
+             // What is no palette has no use of the colours it then holds.
+             if (const Objeto o = l.Busca(r.U32(8))) l.c_.CambiaMedida(*o, r.U32(12));
          }},
         {EMR_EXTCREATEFONTINDIRECTW, [](Yo l, Reg r) { l.Fuente(r); }},
         {EMR_CREATEMONOBRUSH, [](Yo l, Reg r) { l.Pon(r.U32(8), l.DibujoDe(r, 12, true)); }},

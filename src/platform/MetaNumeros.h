@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the records of WMF and EMF that draw or set something, under the names that the
-// public formats give them; and those of mapping modes and of ready-made objects. Only for
+// public formats give them; and those of mapping modes, of brushes and of ready-made
+// objects. Only for
 // what reads metafiles.
 #pragma once
 
@@ -187,6 +188,11 @@ enum ModoMapeo : int {
     MM_TWIPS = 6,
     MM_ISOTROPIC = 7,
     MM_ANISOTROPIC = 8,
+};
+
+enum ClaseDeBrochaMeta : u32 {
+    BS_NULL = 1,
+    BS_HATCHED = 2,
 };
 
 enum DeExistenciasMeta : u32 {

@@ -234,14 +234,8 @@ Objeto LectorWmf::BrochaDeDib(const Registro& r) {
 }
 
 void LectorWmf::Brocha(const Registro& r) {
-    constexpr u32 NULA = 1, TRAMADA = 2;
-    Objeto o = BrochaLisa(r.U32(2));
-    if (r.U16(0) == NULA) o->Brocha.Tipo = BrochaMeta::Clase::Nula;
-    if (r.U16(0) == TRAMADA) {
-        o->Brocha.Tipo = BrochaMeta::Clase::Trama;
-        o->Brocha.Trama = r.I16(6);
-    }
-    Pon(std::move(o));
+    const u32 clase = r.U16(0);
+    Pon(BrochaDeClase(clase, r.U32(2), clase == BS_HATCHED ? r.I16(6) : 0));
 }
 
 LectorWmf::Acciones::Tabla LectorWmf::Objetos() {

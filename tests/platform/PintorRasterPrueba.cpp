@@ -455,6 +455,22 @@ TEST_F(Pixeles, TheGroundOfLettersTheirLinesAndTheirBox) {
     EXPECT_EQ(En(9, 0), BLANCO);
     EXPECT_EQ(En(6, 21), ROJO) << "underlined";
     EXPECT_EQ(En(10, 21), BLANCO) << "and cut by the box";
+    r.Abre(ANCHO, ALTO, esfuerzo);
+    t.CajaOpaca = false;
+    t.Rectangulo = {{{{0, 0}, {32, 0}, {0, 32}}, true}};
+    r.Escribe(t, modos);
+    EXPECT_EQ(En(6, 21), ROJO);
+    EXPECT_EQ(En(13, 21), BLANCO) << "a box that lies askew cuts along its own edge";
+    t.CajaRecorta = false;
+    t.Extra = 6;
+    for (const bool tachada : {false, true}) {
+        t.Fuente.Tachada = tachada;
+        r.Escribe(t, modos);
+        EXPECT_EQ(En(13, 21), ROJO);
+        EXPECT_EQ(En(13, 17), tachada ? ROJO : BLANCO) << "struck through between the letters too";
+        EXPECT_EQ(En(13, 16), BLANCO);
+        EXPECT_EQ(En(13, 18), BLANCO);
+    }
 }
 
 TEST_F(Pixeles, OperationsOfThreeAreBitByBit) {
