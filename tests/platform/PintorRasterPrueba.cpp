@@ -465,6 +465,7 @@ TEST_F(Pixeles, TheGroundOfLettersTheirLinesAndTheirBox) {
     t.Extra = 6;
     for (const bool tachada : {false, true}) {
         t.Fuente.Tachada = tachada;
+        r.Abre(ANCHO, ALTO, esfuerzo);
         r.Escribe(t, modos);
         EXPECT_EQ(En(13, 21), ROJO);
         EXPECT_EQ(En(13, 17), tachada ? ROJO : BLANCO) << "struck through between the letters too";
